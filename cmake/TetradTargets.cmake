@@ -1,0 +1,43 @@
+# One place for what every target of the project has in common.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
+
+if(TETRAD_SANITIZE)
+    add_compile_options(-fsanitize=${TETRAD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${TETRAD_SANITIZE})
+endif()
+
+# Warnings and definitions of the project's own code.
+function(tetrad_target_defaults target)
+    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow)
+        if(TETRAD_WERROR)
+            target_compile_options(${target} PRIVATE -Werror)
+        endif()
+    elseif(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /utf-8)
+    endif()
+endfunction()
+
+# A layer of the runtime: a static library whose headers are included from the repository's root,
+# as in "runtime/app/windows.h".
+#   tetrad_add_layer(tetrad_app SOURCES a.cpp b.cpp LINKS tetrad_strings Qt6::Widgets)
+# Everything in LINKS is public: a layer's headers name the types of the layers below.
+function(tetrad_add_layer target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+    add_library(${target} STATIC ${arg_SOURCES})
+    tetrad_target_defaults(${target})
+    target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
+    target_link_libraries(${target} PUBLIC ${arg_LINKS})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON POSITION_INDEPENDENT_CODE ON)
+endfunction()

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace tetrad
+{
+
+class CUI_AppDelegate;
+
+/// Makes the process a window system application driven from the program's own straight-line main:
+/// creates the application object and installs the runtime's delegate. A second call, or one made
+/// when a delegate is already installed, changes nothing.
+/// Without a display the process ends here with one sentence on standard error and status 1.
+void CocoaInit();
+
+/// The application's current delegate; if none is installed, one that is remembered but not installed.
+CUI_AppDelegate *CUI_AppDelegateObj();
+
+/// Installs a delegate in place of the current one; the caller keeps ownership.
+void setAppDelegate(CUI_AppDelegate *delegate);
+
+/// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: asks
+/// the delegate, tells it, hands the clipboard over. Returns only when the delegate refuses.
+void AppTerminate();
+
+/// The application's name as the menu titles show it, its version, and its reverse-domain id. All
+/// come from the one definition in the build; a program of its own sets its names with
+/// QCoreApplication before CocoaInit.
+QString applicationName();
+QString applicationVersion();
+QString applicationId();
+
+/// Shows name, version and licence in a panel, modally until it is closed.
+void orderFrontStandardAboutPanel();
+
+} // namespace tetrad

@@ -1,0 +1,1 @@
+// The control library starts here.

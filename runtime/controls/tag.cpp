@@ -1,0 +1,47 @@
+#include "runtime/controls/tag.h"
+
+#include <QObject>
+#include <QVariant>
+
+namespace tetrad
+{
+
+namespace
+{
+
+constexpr char tagKey[] = "tagNumber";
+constexpr char windowTagKey[] = "wndTagNumber";
+
+} // namespace
+
+Tag tagFromObject(const QObject *object)
+{
+    return static_cast<Tag>(reinterpret_cast<qintptr>(object));
+}
+
+QObject *objectFromTag(Tag value)
+{
+    return isObjectAddress(value) ? reinterpret_cast<QObject *>(static_cast<qintptr>(value)) : nullptr;
+}
+
+Tag objectTag(const QObject *object)
+{
+    return object->property(tagKey).toLongLong();
+}
+
+void setObjectTag(QObject *object, Tag tag)
+{
+    object->setProperty(tagKey, tag);
+}
+
+Tag objectWindowTag(const QObject *object)
+{
+    return object->property(windowTagKey).toLongLong();
+}
+
+void setObjectWindowTag(QObject *object, Tag wndTag)
+{
+    object->setProperty(windowTagKey, wndTag);
+}
+
+} // namespace tetrad

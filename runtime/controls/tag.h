@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtGlobal>
+
+class QObject;
+
+namespace tetrad
+{
+
+/// The number that names a window, alert, menu, view or control: 1 to largestTag. Its absolute value
+/// is the identity; window and alert statements read a positive tag as "show" and a zero or
+/// negative one as "define without showing". 0 names nothing. Wherever a tag is expected a value
+/// above largestTag is an object's address instead.
+using Tag = qint64;
+
+inline constexpr Tag largestTag = 1000000;
+
+/// The tag that names the content view itself: the bytes AA 55 AA 55 as a signed 32-bit number. Also
+/// the identifier text that every content view carries.
+inline constexpr Tag contentViewTag = -1437226411;
+
+/// True for a value that is an object's address rather than a tag.
+constexpr bool isObjectAddress(Tag value)
+{
+    return value > largestTag;
+}
+
+/// The one pair of conversions between an object and the integer that stands for it. Nobody else
+/// casts. The object is not owned and must be alive when the value is turned back.
+Tag tagFromObject(const QObject *object);
+
+/// Null unless isObjectAddress(value).
+QObject *objectFromTag(Tag value);
+
+/// The tag that an object carries (dynamic property "tagNumber"); 0 when never set.
+Tag objectTag(const QObject *object);
+void setObjectTag(QObject *object, Tag tag);
+
+/// The tag of the window that owns an object (dynamic property "wndTagNumber"); 0 when never set.
+Tag objectWindowTag(const QObject *object);
+void setObjectWindowTag(QObject *object, Tag wndTag);
+
+} // namespace tetrad

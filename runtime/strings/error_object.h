@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+namespace tetrad
+{
+
+/// A failure as a value: who reports it (domain), which one it is (code), and a sentence for the
+/// user (description). Travels in a QVariant, so an alert can tell it from a message text.
+struct ErrorObject
+{
+    QString domain;
+    qint64 code = 0;
+    QString description;
+
+    friend bool operator==(const ErrorObject &, const ErrorObject &) = default;
+};
+
+} // namespace tetrad
+
+Q_DECLARE_METATYPE(tetrad::ErrorObject)
