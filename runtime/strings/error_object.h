@@ -3,8 +3,7 @@
 #include <QMetaType>
 #include <QString>
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// A failure as a value: who reports it (domain), which one it is (code), and a sentence for the
 /// user (description). Travels in a QVariant, so an alert can tell it from a message text.

@@ -2,8 +2,7 @@
 
 #include <QtGlobal>
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// Passed for any integer argument that the caller leaves unset (style, sheet flag, alignment, tab
 /// interval, maximum length, case option, search option): the callee keeps the value in force or

@@ -1,0 +1,45 @@
+#include "runtime/strings/number_printer.h"
+
+#include "runtime/strings/saturate.h"
+
+#include <cmath>
+
+namespace tetrad {
+
+quint8 gZRFloatMaxDigits = 10;
+
+namespace {
+
+// Single precision on purpose: a fraction of exactly 1e-6 still prints, one a little smaller does not.
+constexpr float smallestFraction = 1e-6F;
+
+/// The digits of a fraction, as in "25" of "-0.2500000000". Leading zeros go along with the sign and
+/// the point: deliberate, programs rely on the printed form, and so 2.05 prints like 2.5. A fraction
+/// that rounds up to one leaves "1.".
+QStringView fractionDigits(QStringView printed)
+{
+    while (printed.endsWith(u'0')) {
+        printed.chop(1);
+    }
+    while (printed.startsWith(u'0') || printed.startsWith(u'.') || printed.startsWith(u'-')) {
+        printed = printed.sliced(1);
+    }
+    return printed;
+}
+
+} // namespace
+
+QString CopyDblToString(double number)
+{
+    double integerPart = 0;
+    const double fraction = std::modf(number, &integerPart);
+    QString printed = QString::number(saturatedTo<qint64>(integerPart));
+    // Written so that a number that is none gets through to the fraction and prints as "nan".
+    if (!(std::abs(fraction) < double(smallestFraction))) {
+        const QString fractionText = QString::number(fraction, 'f', gZRFloatMaxDigits);
+        printed += u'.' + fractionDigits(fractionText);
+    }
+    return printed.startsWith(u'-') ? printed : u' ' + printed;
+}
+
+} // namespace tetrad

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+class QVariant;
+
+namespace tetrad {
+
+/// The decimal number the text starts with, after blanks; what follows it is ignored. 0 if there is
+/// none, an infinity if it is too large. Hexadecimal digits, "inf" and "nan" are no numbers.
+double StringDoubleValue(const QString &text);
+
+/// The decimal integer the text starts with, after blanks; what follows it is ignored. 0 if there is
+/// none, the nearer 64-bit limit if it is too large.
+qint64 StringIntegerValue(const QString &text);
+
+/// The value of a number or of a text, as StringDoubleValue reads it; 0 for any other object.
+double ZRDblVal(const QVariant &object);
+
+} // namespace tetrad

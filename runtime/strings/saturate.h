@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cmath>
+#include <limits>
+
+namespace tetrad {
+
+/// Drops the fraction. A number outside the integer's range becomes the nearer limit, one that is
+/// none becomes 0; a plain conversion would be undefined.
+template <typename Integer>
+constexpr Integer saturatedTo(double number)
+{
+    using Limits = std::numeric_limits<Integer>;
+    if (std::isnan(number)) {
+        return 0;
+    }
+    if (number <= static_cast<double>(Limits::min())) {
+        return Limits::min();
+    }
+    // The largest 64-bit integers round up to a power of two that is already outside the range.
+    return number >= static_cast<double>(Limits::max()) ? Limits::max() : static_cast<Integer>(number);
+}
+
+} // namespace tetrad

@@ -1,0 +1,57 @@
+#include "runtime/strings/string_stack.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace tetrad {
+
+qint16 gZRStk = 0;
+PascalString gZRStrStk[stringStackSize + 1] = {};
+
+namespace {
+
+constexpr qint32 fatalStop = -1;
+
+StringStackStop installedStop = nullptr;
+
+[[noreturn]] void stopOverflow()
+{
+    const QString message =
+        QStringLiteral("Pascal String stack index ( gZRStk ) exceeds string stack size of %1. Zarvane will terminate")
+            .arg(stringStackSize);
+    if (installedStop != nullptr) {
+        installedStop(message,
+                      QStringLiteral("If 'Source File Combining'( in Build Settings ) is turned OFF, try setting to "
+                                     "Medium or Maximum"),
+                      fatalStop);
+    } else {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    }
+    std::abort();
+}
+
+} // namespace
+
+unsigned char *STACK_PUSH()
+{
+    if (gZRStk >= stringStackSize) {
+        stopOverflow();
+    }
+    ++gZRStk;
+    // After several pops too many there is no slot of that number; slot 0 stands in, so that the
+    // storage's neighbours stay whole.
+    return gZRStrStk[std::max<qint16>(gZRStk, 0)];
+}
+
+void popString()
+{
+    --gZRStk;
+}
+
+void setStringStackStop(StringStackStop stop)
+{
+    installedStop = stop;
+}
+
+} // namespace tetrad
