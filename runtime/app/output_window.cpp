@@ -1,0 +1,80 @@
+#include "runtime/app/output_window.h"
+
+#include "runtime/app/alerts.h"
+#include "runtime/app/content_view.h"
+#include "runtime/app/popover.h"
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+
+namespace tetrad {
+
+namespace {
+
+Tag outputWindowTag = 0;
+
+} // namespace
+
+void CUI_OutputWindowSetTag(Tag tag)
+{
+    outputWindowTag = std::abs(tag);
+}
+
+Tag CUI_OutputWindowTag()
+{
+    return outputWindowTag;
+}
+
+QWidget *CUI_OutputWindow()
+{
+    return CUI_TargetWithTag(outputWindowTag);
+}
+
+QWidget *CUI_OutputWindowContentView()
+{
+    QWidget *const output = CUI_OutputWindow();
+    if (const auto *window = qobject_cast<Window *>(output)) {
+        return window->contentView();
+    }
+    const auto *popover = qobject_cast<Popover *>(output);
+    return popover ? popover->contentView() : nullptr;
+}
+
+QWidget *CUI_TargetWithTag(Tag tag)
+{
+    if (QWidget *window = CUI_WindowWithTag(tag)) {
+        return window;
+    }
+    return CUI_PopoverWithTag(tag);
+}
+
+QWidget *CUI_TargetWindow(Tag *tag)
+{
+    if (*tag != 0) {
+        return CUI_TargetWithTag(*tag);
+    }
+    QWidget *target = CUI_OutputWindow();
+    if (!target) {
+        target = CUI_FrontWindow();
+    }
+    if (target) {
+        *tag = objectTag(target);
+    }
+    return target;
+}
+
+bool CUI_ObjectIsPopover(Tag tag)
+{
+    // An object's address never shares a tag with anything.
+    if (isObjectAddress(tag) || !CUI_PopoverWithTag(tag)) {
+        return false;
+    }
+    CUI_ShowAlert(alertStyleWarning, QCoreApplication::translate("Runtime", "Window tag error."),
+                  QCoreApplication::translate("Runtime", "Windows and Popovers cannot have same tag value."));
+    return true;
+}
+
+} // namespace tetrad

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QPointer>
+#include <QRectF>
+
+class QEvent;
+class QWindow;
+
+namespace tetrad {
+
+class Window;
+
+/// Turns the window system's events for one window into calls of the window's delegate; nothing else
+/// looks at event types for that purpose.
+///
+/// What this platform announces only after the fact is asked then, and a differing answer corrects
+/// what was done: a size the user dragged to, a zoom. A live resize is a run of resizes by the window
+/// system that ends when none has come for liveResizePause_ms.
+class WindowTranslator
+{
+public:
+    static constexpr int liveResizePause_ms = 250;
+
+    explicit WindowTranslator(Window *window);
+
+    /// To be called when the window has done its own part of the event. The window may be gone
+    /// afterwards.
+    void translate(QEvent *event);
+
+private:
+    void shown();
+    void moved(bool byWindowSystem);
+    void resized(bool byWindowSystem);
+    void stateChanged(Qt::WindowStates before);
+
+    QPointer<Window> m_window;
+    QBasicTimer m_liveResize;
+    // The content rectangle last reported; null until the window was first shown.
+    QRectF m_place;
+    QPointer<QWindow> m_watchedHandle;
+};
+
+} // namespace tetrad

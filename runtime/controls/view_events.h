@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace tetrad {
+
+/// Codes of the events that views report about themselves.
+enum ViewEvent : qint64 {
+    viewEventDraw = 2000, ///< rectVal: the part to draw, in pixels from the view's top left
+    viewEventMouseDown = 2002,
+    viewEventMouseDragged = 2003,
+    viewEventMouseUp = 2004,
+    viewEventMouseMoved = 2005,
+    viewEventMouseEntered = 2006,
+    viewEventMouseExited = 2007,
+    viewEventRightMouseDown = 2008,
+    viewEventRightMouseDragged = 2009,
+    viewEventRightMouseUp = 2010,
+    viewEventKeyDown = 2011,
+    viewEventKeyUp = 2012,
+    viewEventFlagsChanged = 2013, ///< a modifier key went down or up
+    viewEventDraggingEntered = 2016,
+    viewEventDraggingExited = 2020,
+    viewEventPerformDrag = 2022,
+    viewEventMenu = 2026, ///< menuObj: the menu to pop up, in and out
+};
+
+} // namespace tetrad
