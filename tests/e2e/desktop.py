@@ -1,0 +1,176 @@
+"""A private desktop: an X display of its own, a session bus, the accessibility bus and a window manager.
+
+Everything it starts ends with this process, however this process ends: each child asks the kernel to be
+ended when its parent dies.
+"""
+
+import atexit
+import ctypes
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, Gio, GLib  # noqa: E402
+
+# Generous, since it only ever passes when something is broken: a slow machine is no failure.
+TIMEOUT_S = 60
+POLL_MS = 20
+PR_SET_PDEATHSIG = 1
+_libc = ctypes.CDLL(None)
+
+
+def until(condition, what, timeout_s=TIMEOUT_S):
+    """Waits until condition() is true and returns its value; fails naming what was awaited."""
+    context = GLib.MainContext.default()
+    deadline = time.monotonic() + timeout_s
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise AssertionError(f"gave up after {timeout_s} s waiting for {what}")
+        # The accessibility client's own events arrive while this loop turns.
+        GLib.timeout_add(POLL_MS, lambda: GLib.SOURCE_REMOVE)
+        context.iteration(True)
+
+
+class Desktop:
+    """The one desktop of this process: the accessibility client can follow only one bus."""
+
+    _shared = None
+
+    @classmethod
+    def shared(cls):
+        if cls._shared is None:
+            cls._shared = cls()
+        return cls._shared
+
+    def __init__(self):
+        self._children = []
+        self.folder = tempfile.mkdtemp(prefix="tetrad-e2e-")
+        atexit.register(self.stop)
+        # Being terminated is like being interrupted: tests stop, what was started is ended.
+        signal.signal(signal.SIGTERM, signal.default_int_handler)
+        runtime = os.path.join(self.folder, "runtime")
+        os.mkdir(runtime, 0o700)
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "HOME": self.folder,
+            "XDG_RUNTIME_DIR": runtime,
+            "LC_ALL": "C.UTF-8",
+            # A developer's own desktop theme must not reorder buttons.
+            "QT_QPA_PLATFORMTHEME": "",
+        }
+        self._start_display()
+        self._start_session_bus()
+        self._start_accessibility()
+        self._start_window_manager()
+
+    def stop(self):
+        for child in reversed(self._children):
+            child.terminate()
+            try:
+                child.wait(10)
+            except subprocess.TimeoutExpired:
+                child.kill()
+        self._children.clear()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def start(self, *command, environment=None, **options):
+        """A child process in this desktop's environment, changed by `environment` (None removes a variable)."""
+        child_environment = {**self.environment, **(environment or {})}
+        child_environment = {name: value for name, value in child_environment.items() if value is not None}
+        child = subprocess.Popen(
+            command,
+            env=child_environment,
+            stdin=subprocess.DEVNULL,
+            preexec_fn=lambda: _libc.prctl(PR_SET_PDEATHSIG, signal.SIGTERM),
+            **options,
+        )
+        self._children.append(child)
+        return child
+
+    def run(self, *command, **options):
+        return subprocess.run(
+            command, env=self.environment, check=True, stdin=subprocess.DEVNULL, capture_output=True, text=True,
+            **options
+        ).stdout
+
+    # -- keys, mouse, clipboard, screen
+
+    def press(self, *keys):
+        """Presses and releases keys by their X names, as "Return" or "ctrl+q"."""
+        self.run("xdotool", "key", *keys)
+
+    def type(self, text):
+        self.run("xdotool", "type", "--delay", "2", "--", text)
+
+    def click(self, x, y, button=1):
+        self.run("xdotool", "mousemove", str(x), str(y), "click", str(button))
+
+    def set_clipboard(self, text):
+        """Replaces the clipboard; xclip stays in the background to serve it until the display ends."""
+        subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), env=self.environment, check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def clipboard(self):
+        return self.run("xclip", "-selection", "clipboard", "-out")
+
+    def screenshot(self, path, window="root"):
+        self.run("import", "-window", str(window), path)
+
+    # -- starting
+
+    def _start_display(self):
+        read_end, write_end = os.pipe()
+        size = os.environ.get("TETRAD_E2E_SCREEN", "1280x800x24")
+        self.start("Xvfb", "-displayfd", str(write_end), "-screen", "0", size, "-nolisten", "tcp", "-noreset",
+                   pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        with os.fdopen(read_end) as answer:
+            number = answer.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb did not start")
+        self.environment["DISPLAY"] = os.environ["DISPLAY"] = f":{number}"
+
+    def _start_session_bus(self):
+        daemon = self.start("dbus-daemon", "--session", "--nofork", "--print-address", stdout=subprocess.PIPE,
+                            stderr=subprocess.DEVNULL, text=True)
+        with daemon.stdout as answer:
+            address = answer.readline().strip()
+        if not address:
+            raise RuntimeError("dbus-daemon did not start")
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = os.environ["DBUS_SESSION_BUS_ADDRESS"] = address
+        os.environ.pop("AT_SPI_BUS_ADDRESS", None)
+
+    def _start_accessibility(self):
+        self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL)
+        bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        # The end of the bus at exit is no reason to end this process with a signal.
+        bus.set_exit_on_close(False)
+
+        def owned():
+            call = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner")
+            return bus.call_sync(*call, GLib.Variant("(s)", ("org.a11y.Bus",)), None, Gio.DBusCallFlags.NONE, -1)[0]
+
+        until(owned, "the accessibility bus")
+        enabled = GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True)))
+        bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set", enabled, None,
+                      Gio.DBusCallFlags.NONE, -1)
+        Atspi.init()
+
+    def _start_window_manager(self):
+        self.start("openbox", "--sm-disable", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+        def managed():
+            return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, stdin=subprocess.DEVNULL,
+                                  capture_output=True).returncode == 0
+
+        until(managed, "the window manager")

@@ -1,0 +1,84 @@
+"""The field: what it takes from keys, clipboard and menu, and what does not disturb it."""
+
+import unittest
+
+from playing import PROMPT, PlayingTest
+
+
+class TestTyping(PlayingTest):
+    def test_only_characters_of_an_expression_are_taken(self):
+        game = self.start()
+        game.wait_for_prompt()
+        self.desktop.type("0 1.a+,2x!*(Q)=s/S-q")
+        game.wait_for_field_text("1+2*(Q)s/S-q")
+
+    def test_pasted_junk_leaves_only_accepted_characters(self):
+        game = self.start()
+        game.wait_for_prompt()
+        for name, junk, kept in [
+            ("spaces and words", "6 / (1 - 3/4) is twenty-four", "6/(1-3/4)iswentyfour"),
+            ("control characters", "1\n+\t2\r\n", "1+2"),
+            ("emoji", "⚪1🟡+👩‍👩‍👧2️⃣", "1+2"),
+            ("right to left", "שלום3*ابجد4", "3*4"),
+            ("other digits", "１٣1", "1"),
+            ("nothing accepted", "hello, world.", ""),
+        ]:
+            with self.subTest(name):
+                kept = "".join(character for character in kept if character in "123456789+-*/()qsQS")
+                self.desktop.set_clipboard(junk)
+                self.desktop.press("ctrl+a", "ctrl+v")
+                # The digit typed last tells that the paste before it has been handled.
+                self.desktop.press("9")
+                game.wait_for_field_text(kept + "9")
+                self.desktop.press("ctrl+a", "BackSpace")
+                game.wait_for_prompt()
+
+    def test_a_pasted_megabyte_leaves_the_panel_inside_its_window(self):
+        game = self.start()
+        game.wait_for_prompt()
+        self.desktop.set_clipboard("1+" * 500_000)
+        self.desktop.press("ctrl+v")
+        game.wait_for_field_text("1+" * 500_000)
+        x, _, width, _ = game.window().rectangle
+        field_x, _, field_width, _ = game.field().rectangle
+        self.assertLessEqual(x, field_x)
+        self.assertLessEqual(field_x + field_width, x + width)
+        self.desktop.press("ctrl+a", "BackSpace")
+        game.answer("q")
+        self.assert_clean_end(game)
+
+    def test_the_edit_menu_works_on_the_field_by_mouse(self):
+        game = self.start()
+        game.wait_for_prompt()
+        self.desktop.set_clipboard("(1+2)*3")
+        game.choose("Edit", "Paste")
+        game.wait_for_field_text("(1+2)*3")
+        game.choose("Edit", "Select All")
+        game.choose("Edit", "Cut")
+        game.wait_for_field_text("")
+        self.assertEqual(self.desktop.clipboard(), "(1+2)*3")
+
+    def test_a_click_elsewhere_does_not_end_the_input(self):
+        game = self.start()
+        field = game.wait_for_prompt()
+        game.type("1+2")
+        with self.subTest("on the console"):
+            x, y, _, _ = game.console().rectangle
+            self.desktop.click(x + 5, y + 60)
+            game.type_more("*", "1+2*")
+        with self.subTest("on the desktop"):
+            self.desktop.click(3, 3)
+            game.type_more("3", "1+2*3")
+        with self.subTest("on another program's window"):
+            other = self.start()
+            other.wait_for_prompt()
+            other.type("9")
+            game.activate()
+            game.wait_for_field_text("1+2*3")
+            game.type_more("+4", "1+2*3+4")
+        self.assertTrue(game.field().is_the_same_as(field))
+        self.assertEqual(game.field().name, PROMPT)
+
+
+if __name__ == "__main__":
+    unittest.main()
