@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace tetrad {
+
+/// Opens the game's one window and makes it the output window. Returns 0.
+int BuildWindow();
+
+/// Shows the verdict with "Quit" and "Play Again". Returns 0 for Play Again; Quit ends the program.
+int QuitOrPlayAlert(const QString &verdict);
+
+} // namespace tetrad

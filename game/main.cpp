@@ -1,0 +1,169 @@
+#include "game/answer.h"
+#include "game/error_line.h"
+#include "game/game_window.h"
+#include "game/puzzle_history.h"
+#include "runtime/app/application.h"
+#include "runtime/app/menus.h"
+#include "runtime/app/run_time_stop.h"
+#include "runtime/console/colors.h"
+#include "runtime/console/console_statements.h"
+#include "runtime/input/line_input.h"
+#include "runtime/strings/case_tables.h"
+#include "runtime/strings/not_given.h"
+#include "runtime/strings/number_printer.h"
+#include "runtime/strings/pascal_strings.h"
+#include "runtime/strings/string_stack.h"
+
+#include <algorithm>
+
+using namespace tetrad;
+
+namespace {
+
+constexpr double keepSize = 0.0;
+
+// A print that ends with a backspace stays on its line.
+QString staysOnLine()
+{
+    return QStringLiteral("\b");
+}
+
+// The game's fixed messages go through the string stack.
+template <std::size_t size>
+QString message(const char (&text)[size])
+{
+    static_assert(size <= sizeof(PascalString));
+    PascalString literal = {size - 1};
+    std::copy_n(text, size - 1, literal + 1);
+    return StringWithPascalString(PSstrcpy(STACK_PUSH(), literal));
+}
+
+void setTextStyle(const QColor &foreground, double size)
+{
+    CUI_PrintToWindowTextStatement(QString(), foreground, QColor(), notGiven, notGiven, size);
+}
+
+void print(const QStringList &items)
+{
+    CUI_PrintToWindowPrintStatement(items);
+}
+
+void printAt(double x, double y, const QStringList &items)
+{
+    CUI_PrintToWindowSetXYStatement(x, y);
+    print(items);
+}
+
+void startUp()
+{
+    CocoaInit();
+    InitZRGlobals();
+    CUI_EditMenu(2);
+    BuildWindow();
+}
+
+void showInstructions()
+{
+    CUI_PrintToWindowClearStatement();
+    setTextStyle(ColorWhite(), keepSize);
+    print({message("")});
+    printAt(10, 15, {message("Given four numbers and using just the +, -, *, and / operators; and the")});
+    printAt(10, 30, {message("possible use of parenthesis (), enter an expression that equates to 24.")});
+    printAt(10, 45, {message("You must use all your numbers and only those numbers.")});
+    printAt(10, 60, {message("Examples: 9618 Solution 9 + 6 + 1 + 8 or 3173 Solution ((3 * 1) * 7) + 3")});
+    print({message("")});
+    printAt(10, 85, {message("Enter Q to quit or S to skip to the next number.")});
+}
+
+void showPuzzle(const PuzzleNumbers &numbers, Level level)
+{
+    print({message("")});
+    setTextStyle(ColorGreen(), keepSize);
+    printAt(15, 110, {message("These are your numbers, difficulty level "), staysOnLine()});
+    // The label's circles have no length-prefixed form, so it is printed as it is.
+    print({levelLabel(level)});
+    CUI_PrintToWindowSetXYStatement(55, 125);
+    setTextStyle(ColorGreen(), 18.0);
+    for (qint16 i = 1; i <= 4; ++i) {
+        print({CopyDblToString(numbers.at(i, 215)), message(" "), staysOnLine()});
+    }
+    print({message("")});
+    setTextStyle(ColorWhite(), 12.0);
+    CUI_PrintToWindowPrintFStatement(QStringLiteral("\n\n\n"));
+}
+
+QString ask(bool wasRejected, const QString &lastAnswer)
+{
+    const QString prompt =
+        wasRejected ? StringWithFormat(QStringLiteral("Enter math expression: [ '%@' was incorrect ]"), lastAnswer)
+                    : QStringLiteral("Enter math expression:");
+    return ZRInput(10, 190, prompt, QStringLiteral("123456789+-*/()qs"), 1, notGiven, 0);
+}
+
+void sayError(const QString &text)
+{
+    setTextStyle(ColorRed(), keepSize);
+    printAt(10, 200, {text, staysOnLine()});
+}
+
+// Every answer that was checked takes the error line of the one before away.
+void sayWhatIsWrong(Outcome outcome)
+{
+    EraseErrorText();
+    if (outcome == Outcome::extraNumbers) {
+        sayError(message("Error! Extra numbers not allowed"));
+    } else if (outcome == Outcome::wrongNumbers) {
+        sayError(message("ERROR! Must use all your numbers and only those numbers."));
+    } else if (outcome == Outcome::noSequence) {
+        sayError(message("Error! Incorrect math sequence."));
+    }
+}
+
+// Returns when the puzzle was solved or skipped.
+void askUntilDone(const PuzzleNumbers &numbers)
+{
+    bool wasRejected = false;
+    QString lastAnswer;
+    for (;;) {
+        const QString answer = ask(wasRejected, lastAnswer);
+        if (!answer.isNull()) {
+            lastAnswer = answer;
+        }
+        const Outcome outcome = judgeAnswer(answer, numbers);
+        switch (outcome) {
+        case Outcome::nothingTyped:
+            break;
+        case Outcome::quit:
+            AppTerminate();
+            break;
+        case Outcome::skip:
+            return;
+        case Outcome::correct:
+            EraseErrorText();
+            QuitOrPlayAlert(QStringLiteral("Correct"));
+            return;
+        case Outcome::extraNumbers:
+        case Outcome::wrongNumbers:
+        case Outcome::noSequence:
+        case Outcome::incorrect:
+            sayWhatIsWrong(outcome);
+            wasRejected = true;
+            break;
+        }
+    }
+}
+
+} // namespace
+
+int main(int, char **)
+{
+    startUp();
+    PuzzleHistory history(ChkBounds);
+    PuzzleNumbers numbers(ChkBounds);
+    for (;;) {
+        showInstructions();
+        const Level level = choosePuzzle(history, numbers);
+        showPuzzle(numbers, level);
+        askUntilDone(numbers);
+    }
+}

@@ -1,0 +1,33 @@
+#include "game/pattern.h"
+
+namespace tetrad {
+
+QRegularExpression RegularExpressionWithPattern(const QString &pattern, QRegularExpression::PatternOptions options,
+                                                ErrorObject *error)
+{
+    QRegularExpression expression(pattern, options);
+    if (!expression.isValid() && error != nullptr) {
+        *error = {QStringLiteral("QRegularExpression"), expression.patternErrorOffset(),
+                  expression.errorString() + QStringLiteral(" in \"") + pattern + u'"'};
+    }
+    return expression;
+}
+
+QList<QRegularExpressionMatch> RegularExpressionMatches(const QRegularExpression &expression, const QString &text,
+                                                        QRegularExpression::MatchOptions options, qint64 start,
+                                                        qint64 length)
+{
+    QList<QRegularExpressionMatch> matches;
+    auto iterator = expression.globalMatch(text.left(start + length), start, QRegularExpression::NormalMatch, options);
+    while (iterator.hasNext()) {
+        matches.append(iterator.next());
+    }
+    return matches;
+}
+
+TextRange TextCheckingResultRange(const QRegularExpressionMatch &match)
+{
+    return {match.capturedStart(), match.capturedLength()};
+}
+
+} // namespace tetrad

@@ -1,0 +1,145 @@
+#include "game/puzzle_history.h"
+
+#include <QStringList>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <map>
+#include <random>
+#include <set>
+
+using namespace tetrad;
+
+namespace {
+
+using Access = std::pair<quint32, quint32>; // index and bound
+
+std::map<quint32, std::set<Access>> accessesByLine;
+
+quint32 recordAccess(quint32 index, quint32 bound, quint32 line, const QString &file)
+{
+    EXPECT_EQ(file, QStringLiteral("Tetrad Game.zr"));
+    EXPECT_LE(index, bound);
+    accessesByLine[line].insert({index, bound});
+    return index;
+}
+
+// Draws the given positions one after the other.
+RandomSource replay(std::deque<quint32> positions)
+{
+    return [positions = std::move(positions)]() mutable {
+        const quint32 next = positions.front();
+        positions.pop_front();
+        return next;
+    };
+}
+
+QString textOf(PuzzleNumbers &numbers)
+{
+    QStringList digits;
+    for (qint16 i = 1; i <= 4; ++i) {
+        digits.append(QString::number(numbers.at(i, 0)));
+    }
+    return digits.join(u' ');
+}
+
+class History : public testing::Test
+{
+protected:
+    PuzzleHistory history{recordAccess};
+    PuzzleNumbers numbers{recordAccess};
+};
+
+} // namespace
+
+TEST_F(History, RepeatIsDrawnAgainAndTheAcceptedDrawIsGraded)
+{
+    const RandomSource source = replay({10, 10, 10, 70, 70, 10, 40});
+    EXPECT_EQ(choosePuzzle(history, numbers, source), Level::easy);
+    EXPECT_EQ(textOf(numbers), QStringLiteral("2 2 3 9"));
+    EXPECT_EQ(choosePuzzle(history, numbers, source), Level::hard);
+    EXPECT_EQ(textOf(numbers), QStringLiteral("4 4 5 7"));
+    EXPECT_EQ(choosePuzzle(history, numbers, source), Level::medium);
+    EXPECT_EQ(gPosition, 40);
+    EXPECT_EQ(history.count(), 3);
+}
+
+TEST_F(History, StoresKeysWithATrailingBlankAndARepeatBecomesTheNewestKey)
+{
+    choosePuzzle(history, numbers, replay({10}));
+    choosePuzzle(history, numbers, replay({0}));
+    QString key = QStringLiteral("2 2 3 9 ");
+    EXPECT_TRUE(history.holds(key));
+    EXPECT_EQ(key, QStringLiteral("1 2 3 4 "));
+    key = QStringLiteral("2 2 3 9");
+    EXPECT_FALSE(history.holds(key));
+}
+
+TEST_F(History, CycleShows96DifferentPuzzlesThenStartsAgain)
+{
+    std::mt19937 generator(24); // NOLINT(cert-msc51-cpp): the same cycle every time
+    const RandomSource source = [&generator] { return static_cast<quint32>(generator()); };
+    for (int cycle = 0; cycle < 2; ++cycle) {
+        std::set<QString> shown;
+        std::map<Level, int> perLevel;
+        for (int i = 0; i < 96; ++i) {
+            ++perLevel[choosePuzzle(history, numbers, source)];
+            shown.insert(textOf(numbers));
+            EXPECT_EQ(history.count(), i + 1);
+        }
+        EXPECT_EQ(shown.size(), 96U);
+        EXPECT_EQ(perLevel, (std::map<Level, int>{{Level::easy, 33}, {Level::medium, 32}, {Level::hard, 31}}));
+    }
+}
+
+TEST_F(History, NewCycleMayBeginWithTheLastPuzzleOfTheOldOne)
+{
+    std::deque<quint32> positions;
+    for (quint32 position = 0; position < 96; ++position) {
+        positions.push_back(position);
+    }
+    positions.insert(positions.end(), {95, 95, 94});
+    const RandomSource source = replay(positions);
+    for (int i = 0; i < 96; ++i) {
+        choosePuzzle(history, numbers, source);
+    }
+    choosePuzzle(history, numbers, source);
+    EXPECT_EQ(gPosition, 95);
+    EXPECT_EQ(history.count(), 1);
+    choosePuzzle(history, numbers, source);
+    EXPECT_EQ(gPosition, 94);
+}
+
+TEST_F(History, EveryArrayAccessIsCheckedUnderItsLine)
+{
+    accessesByLine.clear();
+    PuzzleHistory fresh(recordAccess);
+    EXPECT_EQ(accessesByLine[128].size(), 96U);
+    const RandomSource source = replay({5, 5, 6});
+    choosePuzzle(fresh, numbers, source);
+    choosePuzzle(fresh, numbers, source);
+    EXPECT_EQ(accessesByLine[172].size(), 96U);
+    EXPECT_EQ(accessesByLine[173], (std::set<Access>{{1, 97}}));
+    EXPECT_EQ(accessesByLine[179], (std::set<Access>{{1, 97}, {2, 97}}));
+    EXPECT_EQ(accessesByLine[181], (std::set<Access>{{1, 4}}));
+    EXPECT_EQ(accessesByLine[184], (std::set<Access>{{4, 4}}));
+    EXPECT_FALSE(accessesByLine.contains(166));
+    const RandomSource anything = [] { return systemRandom(); };
+    while (fresh.count() < 96) {
+        choosePuzzle(fresh, numbers, anything);
+    }
+    EXPECT_FALSE(accessesByLine.contains(166));
+    choosePuzzle(fresh, numbers, anything);
+    EXPECT_EQ(accessesByLine[166].size(), 96U);
+}
+
+TEST(GuardedArray, NegativeIndexIsHandedOnAsALargeOne)
+{
+    static quint32 handedOn = 0;
+    PuzzleNumbers numbers([](quint32 index, quint32, quint32, const QString &) -> quint32 {
+        handedOn = index;
+        return 0;
+    });
+    numbers.at(-1, 272);
+    EXPECT_EQ(handedOn, 4294967295U);
+}
