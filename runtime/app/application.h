@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tetrad
-{
+namespace tetrad {
 
 class CUI_AppDelegate;
 

@@ -1,14 +1,13 @@
 #pragma once
 
-
 #include <QList>
 #include <QString>
 
 class QMenu;
 class QMenuBar;
+class QWidget;
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// The application's menu bar: one list of menus that every window shows (a parentless bar where the
 /// platform has one for the whole application).
@@ -32,7 +31,14 @@ void CUI_EditMenu(qint64 index);
 /// Pads the bar with untitled, empty menus up to a position. A position below 2 adds nothing.
 void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index);
 
+/// Appends a menu; the bars that show the main menu follow. The list does not own it.
+void appendMenu(MainMenu *menu, QMenu *added);
+
 /// Fills a window's bar with the main menu's menus and keeps it in step when more are added.
 void showMainMenuIn(QMenuBar *bar);
+
+/// Keeps the main menu's shortcuts in force while a widget is visible, also when no window with a bar is.
+void addMenuShortcutsTo(QWidget *widget);
+void removeMenuShortcutsFrom(QWidget *widget);
 
 } // namespace tetrad

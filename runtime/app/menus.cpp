@@ -1,0 +1,133 @@
+#include "runtime/app/menus.h"
+
+#include "runtime/app/application.h"
+#include "runtime/app/edit_actions.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+
+namespace tetrad {
+
+namespace {
+
+MainMenu *theMainMenu = nullptr;
+QList<QPointer<QMenuBar>> bars;
+
+// A name's own "&" must not become an underlined letter.
+QString verbatim(QString title)
+{
+    return title.replace(u'&', QStringLiteral("&&"));
+}
+
+MainMenu *takeMainMenu()
+{
+    if (theMainMenu == nullptr) {
+        theMainMenu = new MainMenu{QStringLiteral("MainMenu"), {}};
+#ifdef Q_OS_MACOS
+        showMainMenuIn(new QMenuBar(nullptr));
+#endif
+    }
+    return theMainMenu;
+}
+
+QAction *addItem(QMenu *menu, const QString &title, QAction::MenuRole role)
+{
+    QAction *item = menu->addAction(title);
+    item->setMenuRole(role);
+    return item;
+}
+
+template <typename Function>
+void forEachShortcut(Function function)
+{
+    const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
+    for (const QMenu *menu : menus) {
+        for (QAction *action : menu->actions()) {
+            if (!action->shortcut().isEmpty()) {
+                function(action);
+            }
+        }
+    }
+}
+
+} // namespace
+
+MainMenu *mainMenu()
+{
+    return theMainMenu;
+}
+
+void CUI_BuildMinimalMenu()
+{
+    const QString name = applicationName();
+    auto *menu = new QMenu(verbatim(name));
+    QAction *about = addItem(menu, verbatim(QStringLiteral("About %1").arg(name)), QAction::AboutRole);
+    // The panel runs modally; it must not do so inside the menu that is still closing.
+    QObject::connect(about, &QAction::triggered, qApp, &orderFrontStandardAboutPanel, Qt::QueuedConnection);
+    menu->addSeparator();
+    QAction *quit = addItem(menu, verbatim(QStringLiteral("Quit %1").arg(name)), QAction::QuitRole);
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setShortcutContext(Qt::ApplicationShortcut);
+    QObject::connect(quit, &QAction::triggered, qApp, &AppTerminate);
+    appendMenu(takeMainMenu(), menu);
+}
+
+void CUI_EditMenu(qint64 index)
+{
+    if (theMainMenu == nullptr) {
+        CUI_BuildMinimalMenu();
+    }
+    if (index < theMainMenu->menus.size()) {
+        return;
+    }
+    CUI_MenuPadItemsToIndex(theMainMenu, index);
+    appendMenu(theMainMenu, makeEditMenu());
+}
+
+void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index)
+{
+    // Position 1 is deliberately never padded: the bar always begins with the application menu.
+    if (index < 2) {
+        return;
+    }
+    while (menu->menus.size() < index) {
+        appendMenu(menu, new QMenu);
+    }
+}
+
+void appendMenu(MainMenu *menu, QMenu *added)
+{
+    menu->menus.append(added);
+    if (menu != theMainMenu) {
+        return;
+    }
+    for (const auto &bar : std::as_const(bars)) {
+        if (bar != nullptr) {
+            bar->addMenu(added);
+        }
+    }
+}
+
+void showMainMenuIn(QMenuBar *bar)
+{
+    bars.removeAll(nullptr);
+    bars.append(bar);
+    const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
+    for (QMenu *menu : menus) {
+        bar->addMenu(menu);
+    }
+}
+
+void addMenuShortcutsTo(QWidget *widget)
+{
+    forEachShortcut([widget](QAction *action) { widget->addAction(action); });
+}
+
+void removeMenuShortcutsFrom(QWidget *widget)
+{
+    forEachShortcut([widget](QAction *action) { widget->removeAction(action); });
+}
+
+} // namespace tetrad

@@ -1,0 +1,61 @@
+#include "runtime/app/termination.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace tetrad {
+
+namespace {
+
+// What the destructor of the application object does. Without it a copied text is gone with the
+// process where a clipboard manager would have taken it.
+void handClipboardOver()
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (clipboard->ownsClipboard()) {
+        QEvent handOver(QEvent::Clipboard);
+        QCoreApplication::sendEvent(clipboard, &handOver);
+    }
+}
+
+} // namespace
+
+void AppTerminate()
+{
+    static bool asking = false;
+    if (asking) {
+        return;
+    }
+    {
+        const QScopedValueRollback guard(asking, true);
+        if (CUI_AppDelegateObj()->applicationShouldTerminate() != CUI_AppDelegate::terminateNow) {
+            return;
+        }
+    }
+    terminateWithoutAsking();
+}
+
+// exit, without destroying the application object or closing a window: below this frame are loops,
+// event handlers and main itself, all with references to them. What the window system holds for
+// the process goes with its connection.
+void terminateWithoutAsking()
+{
+    static bool ending = false;
+    if (std::exchange(ending, true)) {
+        return;
+    }
+    CUI_AppDelegateObj()->applicationWillTerminate({});
+    handClipboardOver();
+    std::fflush(nullptr);
+    std::exit(0);
+}
+
+} // namespace tetrad
