@@ -7,6 +7,9 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <array>
+#include <charconv>
+
 namespace tetrad {
 
 namespace {
@@ -19,6 +22,14 @@ QString addressText(const void *address)
 QString textOrNull(const QString &text)
 {
     return text.isNull() ? QStringLiteral("(null)") : text;
+}
+
+/// The shortest form that reads back as the same float; through a double it would be 0.10000000149.
+QString floatDescription(float number)
+{
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), number);
+    return QString::fromLatin1(digits.data(), end.ptr - digits.data());
 }
 
 QString listDescription(const QVariantList &list)
@@ -78,6 +89,8 @@ QString descriptionOf(const QVariant &object)
         return object.toByteArray().isNull() ? textOrNull({}) : fromMacRoman(object.toByteArray());
     case QMetaType::Bool:
         return QString::number(object.toInt());
+    case QMetaType::Float:
+        return floatDescription(object.toFloat());
     case QMetaType::VoidStar:
         return addressText(object.value<void *>());
     default:

@@ -168,7 +168,8 @@ private:
         QString whole;
         if (value.typeId() == QMetaType::QByteArray && !value.toByteArray().isNull()) {
             const QByteArray bytes = value.toByteArray();
-            whole = fromMacRoman(QByteArrayView(bytes).first(qstrnlen(bytes.constData(), bytes.size())));
+            const qsizetype zero = bytes.indexOf('\0');
+            whole = fromMacRoman(zero < 0 ? bytes : bytes.first(zero));
         } else {
             whole = descriptionOf(value);
         }

@@ -40,8 +40,12 @@ qint64 InString(qint32 start, const QString &haystack, const QString &needle, qi
         return notFound;
     }
     const auto sensitivity = (chosen & searchCaseInsensitive) != 0 ? Qt::CaseInsensitive : Qt::CaseSensitive;
-    return foundAt(backwards ? QStringView(haystack).first(from + 1).lastIndexOf(needle, sensitivity)
-                             : haystack.indexOf(needle, from, sensitivity));
+    if (backwards) {
+        // The place to search from is given although it is the end: without it this view reads one
+        // character beyond its own when the needle is a single one.
+        return foundAt(QStringView(haystack).first(from + 1).lastIndexOf(needle, from, sensitivity));
+    }
+    return foundAt(haystack.indexOf(needle, from, sensitivity));
 }
 
 QString RightString(const QString &text, qint64 count)
@@ -99,7 +103,7 @@ QStringList StringComponentsSeparatedByString(const QString &text, const QString
 QString StringSubstringWithRange(const QString &text, qint64 location, qint64 length)
 {
     const Range range = cutTo(text.size(), {location, length});
-    return text.sliced(range.location, range.length);
+    return text.isNull() ? text : text.sliced(range.location, range.length);
 }
 
 int StringContainsString(const QString &text, const QString &part)

@@ -1,0 +1,126 @@
+#include "runtime/strings/number_printer.h"
+#include "runtime/strings/number_reader.h"
+
+#include <QStringList>
+#include <QVariant>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace tetrad {
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr qint64 largest = std::numeric_limits<qint64>::max();
+constexpr qint64 smallest = std::numeric_limits<qint64>::min();
+
+TEST(NumberPrinter, printsEachForm)
+{
+    const struct
+    {
+        const char *name;
+        double number;
+        const char *printed;
+    } rows[] = {
+        {"whole", 24, " 24"},
+        {"negative whole", -24, "-24"},
+        {"zero", 0, " 0"},
+        {"minus zero", -0.0, " 0"},
+        {"fraction", 1.5, " 1.5"},
+        {"negative fraction", -1.25, "-1.25"},
+        {"zeros after the point are dropped", 2.05, " 2.5"},
+        {"however many", 2.000001, " 2.1"},
+        {"between -1 and 0 the sign is lost", -0.5, " 0.5"},
+        {"fraction that rounds up to 1", 2.99999999999, " 2.1."},
+        {"negative fraction that rounds up to 1", -2.99999999999, "-2.1."},
+        {"ten digits", 1.0 / 3, " 0.3333333333"},
+        {"below the smallest fraction", 5.0000001, " 5"},
+        {"negative below the smallest fraction", -5.0000001, "-5"},
+        {"1e-6 as a double is above its single-precision form", 1e-6, " 0.1"},
+        {"a little below that form", 9.99999e-7, " 0"},
+        {"largest 64-bit", 9223372036854775807.0, " 9223372036854775807"},
+        {"above 64 bits", 1e300, " 9223372036854775807"},
+        {"below 64 bits", -1e300, "-9223372036854775808"},
+        {"infinite", -infinity, "-9223372036854775808"},
+        {"no number", std::nan(""), " 0.nan"},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(CopyDblToString(row.number).toStdString(), row.printed) << row.name;
+    }
+}
+
+TEST(NumberPrinter, printsAsManyDigitsAsItIsSetTo)
+{
+    const quint8 digits = std::exchange(gZRFloatMaxDigits, 2);
+    EXPECT_EQ(CopyDblToString(1.0 / 3), u" 0.33");
+    EXPECT_EQ(CopyDblToString(7.001), u" 7.") << "a fraction of zeros only leaves the point";
+    gZRFloatMaxDigits = 0;
+    EXPECT_EQ(CopyDblToString(7.25), u" 7.");
+    gZRFloatMaxDigits = digits;
+}
+
+TEST(NumberReader, readsTheLeadingNumber)
+{
+    const struct
+    {
+        const char *name;
+        QString text;
+        double asDouble;
+        qint64 asInteger;
+    } rows[] = {
+        {"none", {}, 0, 0},
+        {"empty", u""_qs, 0, 0},
+        {"whole", u"24"_qs, 24, 24},
+        {"decimals", u"24.500"_qs, 24.5, 24},
+        {"negative", u"-23.5"_qs, -23.5, -23},
+        {"plus sign", u"+7"_qs, 7, 7},
+        {"two signs", u"+-7"_qs, 0, 0},
+        {"blanks first", u" \t\n 8.5"_qs, 8.5, 8},
+        {"blank after the sign", u"- 8"_qs, 0, 0},
+        {"junk after", u"12 puzzles"_qs, 12, 12},
+        {"junk first", u"about 12"_qs, 0, 0},
+        {"no digit before the point", u".5"_qs, 0.5, 0},
+        {"no digit after the point", u"5."_qs, 5, 5},
+        {"point alone", u"."_qs, 0, 0},
+        {"exponent", u"1.5e3"_qs, 1500, 1},
+        {"signed exponent, capital", u"15E-1"_qs, 1.5, 15},
+        {"exponent without digits", u"2e+"_qs, 2, 2},
+        {"hexadecimal", u"0x10"_qs, 0, 0},
+        {"named numbers", u"inf"_qs, 0, 0},
+        {"named no number", u"nan"_qs, 0, 0},
+        {"digits of another script", u"\u0664"_qs, 0, 0},
+        {"largest integer", u"9223372036854775807"_qs, 9223372036854775807.0, largest},
+        {"above it", u"9223372036854775808"_qs, 9223372036854775808.0, largest},
+        {"below the smallest", u"-9223372036854775809"_qs, -9223372036854775809.0, smallest},
+        {"too large for a double", u"1e400"_qs, infinity, 1},
+        {"the same without exponent", QString(400, u'9'), infinity, largest},
+        {"negative", u"-1e400"_qs, -infinity, -1},
+        {"exponent beyond 64 bits", u"1e99999999999999999999"_qs, infinity, 1},
+        {"large by exponent only", u"0.0001e+400"_qs, infinity, 0},
+        {"too small", u"1e-400"_qs, 0, 1},
+        {"small by many zeros", QString(u"0." + QString(400, u'0') + u'1'), 0, 0},
+        {"long but small", QString(QString(400, u'9') + u"e-900"), 0, largest},
+        {"zero whatever its exponent", u"0e999999"_qs, 0, 0},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(StringDoubleValue(row.text), row.asDouble) << row.name;
+        EXPECT_EQ(StringIntegerValue(row.text), row.asInteger) << row.name;
+    }
+}
+
+TEST(NumberReader, takesTheValueOfNumbersAndTextsOnly)
+{
+    EXPECT_EQ(ZRDblVal(2.5), 2.5);
+    EXPECT_EQ(ZRDblVal(-3), -3);
+    EXPECT_EQ(ZRDblVal(true), 1);
+    EXPECT_EQ(ZRDblVal(QVariant::fromValue(7L)), 7);
+    EXPECT_EQ(ZRDblVal(u" 4.5 apples"_qs), 4.5);
+    EXPECT_EQ(ZRDblVal(QStringList{u"4"_qs}), 0);
+    EXPECT_EQ(ZRDblVal(QVariant()), 0);
+}
+
+} // namespace
+} // namespace tetrad
