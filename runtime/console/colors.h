@@ -2,8 +2,7 @@
 
 #include <QColor>
 
-namespace tetrad
-{
+namespace tetrad {
 
 QColor ColorBlack();
 QColor ColorGreen(); ///< pure green: red 0, green 1, blue 0

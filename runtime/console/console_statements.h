@@ -9,8 +9,7 @@
 
 class QWidget;
 
-namespace tetrad
-{
+namespace tetrad {
 
 class CUI_PrintToWindowView;
 

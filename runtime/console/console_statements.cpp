@@ -1,0 +1,191 @@
+#include "runtime/console/console_statements.h"
+
+#include "runtime/app/content_view.h"
+#include "runtime/app/output_window.h"
+#include "runtime/app/popover.h"
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+#include "runtime/console/console_scroll_view.h"
+#include "runtime/console/console_view.h"
+#include "runtime/strings/not_given.h"
+
+namespace tetrad {
+
+namespace {
+
+constexpr Tag consoleWindowTag = 999999;
+
+QWidget *targetWindow()
+{
+    Tag tag = 0;
+    return CUI_TargetWindow(&tag);
+}
+
+QWidget *contentViewOf(QWidget *window)
+{
+    if (auto *ordinary = qobject_cast<Window *>(window)) {
+        return ordinary->contentView();
+    }
+    if (auto *popover = qobject_cast<Popover *>(window)) {
+        return popover->contentView();
+    }
+    return nullptr;
+}
+
+/// Lets a statement act on the output window's console, or on nothing when there is no window.
+template <typename Action>
+void withOutputWindow(Action action)
+{
+    if (QWidget *window = CUI_PrintToWindowWindow()) {
+        action(window);
+    }
+}
+
+/// Lets an operation act on a window's console, or on nothing when the window has no content view.
+template <typename Action>
+void withView(QWidget *window, Action action)
+{
+    if (CUI_PrintToWindowView *view = CUI_PrintToWindowViewObj(window)) {
+        action(*view);
+    }
+}
+
+} // namespace
+
+QWidget *CUI_PrintToWindowWindow()
+{
+    if (QWidget *window = targetWindow()) {
+        return window;
+    }
+    CUI_Window(consoleWindowTag, QStringLiteral("• Print to Window •"), notGiven, QRectF());
+    return targetWindow();
+}
+
+CUI_PrintToWindowView *CUI_PrintToWindowViewObj(QWidget *window)
+{
+    QWidget *content = contentViewOf(window);
+    if (!content) {
+        return nullptr;
+    }
+    if (auto *scrollView = content->findChild<CUI_PrintToWindowScrollView *>(QString(), Qt::FindDirectChildrenOnly)) {
+        return scrollView->documentView();
+    }
+    auto *scrollView = new CUI_PrintToWindowScrollView(content);
+    auto *view = CUI_PrintToWindowView::viewWithFrame(QRectF(0, 0, content->width(), 1));
+    scrollView->setDocumentView(view);
+    view->setScrollView(scrollView);
+    return view;
+}
+
+void CUI_PrintToWindowPrintStatement(const QStringList &items)
+{
+    QString joined = QStringLiteral("");
+    for (const QString &item : items) {
+        if (item.isNull()) {
+            break;
+        }
+        joined += item;
+    }
+    withOutputWindow([&](QWidget *window) { CUI_PrintToWindowPrint(window, joined); });
+}
+
+void CUI_PrintToWindowSetXYStatement(double x, double y)
+{
+    withOutputWindow([&](QWidget *window) { CUI_PrintToWindowSetXY(window, x, y); });
+}
+
+void CUI_PrintToWindowClearStatement()
+{
+    withOutputWindow(CUI_PrintToWindowClear);
+}
+
+void CUI_PrintToWindowTextStatement(const QString &fontName, const QColor &foreground, const QColor &background,
+                                    qint64 alignment, qint64 tabInterval, double size)
+{
+    withOutputWindow([&](QWidget *window) {
+        if (!fontName.isNull()) {
+            CUI_PrintToWindowTextSetFontName(window, fontName);
+        }
+        if (size > 0) {
+            CUI_PrintToWindowTextSetFontSize(window, size);
+        }
+        if (foreground.isValid()) {
+            CUI_PrintToWindowTextSetForegroundColor(window, foreground);
+        }
+        if (background.isValid()) {
+            CUI_PrintToWindowTextSetBackgroundColor(window, background);
+        }
+        if (alignment != notGiven) {
+            CUI_PrintToWindowTextSetAlignment(window, alignment);
+        }
+        if (tabInterval != notGiven) {
+            CUI_PrintToWindowTextSetTabInterval(window, static_cast<double>(tabInterval));
+        }
+    });
+}
+
+void CUI_DrawToWindowRectStatement(const QColor &color, bool fill, const QRectF &rect)
+{
+    withOutputWindow([&](QWidget *window) { CUI_DrawToWindowRect(window, color, fill, rect); });
+}
+
+QPointF CUI_PrintToWindowPrint(QWidget *window, const QString &text)
+{
+    CUI_PrintToWindowView *view = CUI_PrintToWindowViewObj(window);
+    return view ? view->addString(text) : QPointF();
+}
+
+void CUI_PrintToWindowSetXY(QWidget *window, double x, double y)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setCurrentPoint({x, y}); });
+}
+
+void CUI_PrintToWindowClear(QWidget *window)
+{
+    withView(window, [](CUI_PrintToWindowView &view) { view.clear(); });
+}
+
+void CUI_PrintToWindowTextSetFontName(QWidget *window, const QString &name)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setFontName(name); });
+}
+
+void CUI_PrintToWindowTextSetFontSize(QWidget *window, double size)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setFontSize(size); });
+}
+
+void CUI_PrintToWindowTextSetForegroundColor(QWidget *window, const QColor &color)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setForegroundColor(color); });
+}
+
+void CUI_PrintToWindowTextSetBackgroundColor(QWidget *window, const QColor &color)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setBackgroundColor(color); });
+}
+
+void CUI_PrintToWindowTextSetAlignment(QWidget *window, qint64 alignment)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setAlignment(alignment); });
+}
+
+void CUI_PrintToWindowTextSetTabInterval(QWidget *window, double interval)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) { view.setTabInterval(interval); });
+}
+
+void CUI_DrawToWindowRect(QWidget *window, const QColor &color, bool fill, const QRectF &rect)
+{
+    withView(window, [&](CUI_PrintToWindowView &view) {
+        const QColor fillColor = color.isValid() ? color : view.currentFillColor();
+        const QColor strokeColor = view.currentStrokeColor();
+        if (color.isValid()) {
+            // Deliberately even without a fill: a later rectangle filled without a colour takes this one.
+            view.setCurrentFillColor(color);
+        }
+        view.addRect(rect, strokeColor, fill ? fillColor : QColor());
+    });
+}
+
+} // namespace tetrad

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QPointF>
+#include <QString>
+
+#include <vector>
+
+namespace tetrad {
+
+class DisplayList;
+
+/// What has been printed since the last clear, as one text to be read or copied: in order, without control characters,
+/// a newline at each line's end, pieces of one row joined (by a blank where a gap lies between them), a tab as a blank.
+/// Costs nothing until it is asked for; then it catches up with the list.
+class ConsoleText
+{
+public:
+    /// A printed piece and where it starts in the text. Everything up to the next piece's start belongs to it: its
+    /// drawn characters, then a newline or a blank.
+    struct Piece
+    {
+        qsizetype offset = 0;
+        quint32 item = 0;
+    };
+
+    /// Takes in what the list gained since the last call.
+    void sync(const DisplayList &list);
+    void clear();
+
+    const QString &text() const { return m_text; }
+
+    /// The piece that owns the character at an offset of 0 to text().size(); null when nothing was printed.
+    const Piece *pieceAt(qsizetype offset) const;
+    /// The piece made from an item; null when the item is no text.
+    const Piece *pieceOf(quint32 item) const;
+    /// Null after the last one.
+    const Piece *pieceAfter(const Piece &piece) const;
+
+    /// What was added since the last call, without the newlines around it.
+    QString takeNew();
+    /// The same for whoever announces the text's growth, character by character.
+    QString takeUnannounced();
+
+private:
+    void join(QPointF at);
+
+    QString m_text;
+    std::vector<Piece> m_pieces;
+    quint32 m_taken = 0;
+    bool m_atLineStart = true;
+    QPointF m_end;
+    qsizetype m_mark = 0;
+    qsizetype m_announced = 0;
+};
+
+} // namespace tetrad

@@ -1,0 +1,70 @@
+#include "runtime/console/display_list.h"
+
+#include "runtime/console/console_archive.h"
+#include "runtime/console/console_dump.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tetrad {
+
+namespace {
+
+bool isDrawable(const QRectF &ink)
+{
+    return std::isfinite(ink.top()) && std::isfinite(ink.bottom()) && std::isfinite(ink.left()) &&
+           std::isfinite(ink.right()) && !ink.isEmpty();
+}
+
+} // namespace
+
+void DisplayList::append(Entry entry, const QRectF &ink)
+{
+    if (isDrawable(ink)) {
+        m_bands.add(size(), ink.top(), ink.bottom());
+    }
+    m_entries.push_back(std::move(entry));
+}
+
+void DisplayList::clear()
+{
+    m_entries.clear();
+    m_entries.shrink_to_fit();
+    m_bands.clear();
+}
+
+std::vector<quint32> DisplayList::itemsIn(double top, double bottom) const
+{
+    return m_bands.numbersIn(top, bottom);
+}
+
+QVariantList DisplayList::itemArray() const
+{
+    QVariantList array;
+    array.reserve(static_cast<qsizetype>(m_entries.size()));
+    for (const Entry &entry : m_entries) {
+        array.append(archivedItem(entry.item));
+    }
+    return array;
+}
+
+QString DisplayList::dump() const
+{
+    QString dump;
+    for (const Entry &entry : m_entries) {
+        dump += dumpedItem(entry.item) + u'\n';
+    }
+    return dump;
+}
+
+QRectF shapeInk(const CUI_PrintToWindowItem &item)
+{
+    const QRectF bounds = item.type() == CUI_PrintToWindowItem::line
+                              ? QRectF(item.linePt1(), item.linePt2()).normalized()
+                              : item.rect().normalized();
+    // Half a width to each side, half as much again where a square cap or a corner points outwards.
+    const double room = std::max(item.lineStyle().width, 1.0) + 2;
+    return bounds.adjusted(-room, -room, room, room);
+}
+
+} // namespace tetrad

@@ -1,0 +1,173 @@
+#include "runtime/console/font_facts.h"
+
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QHashFunctions>
+#include <QScreen>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace tetrad {
+
+namespace {
+
+struct ChoiceHash
+{
+    size_t operator()(const FontChoice &choice) const
+    {
+        return qHashMulti(0, choice.family, choice.size, choice.weight, choice.italic);
+    }
+};
+
+using FactsTable = std::unordered_map<FontChoice, std::shared_ptr<const FontFacts>, ChoiceHash>;
+
+FactsTable &factsTable()
+{
+    static FactsTable table;
+    return table;
+}
+
+QString standardFamily()
+{
+    return QString::fromUtf16(standardFontFamily);
+}
+
+QString installedFamily(const QString &family)
+{
+    if (family != standardFamily() || QFontDatabase::hasFamily(family)) {
+        return family;
+    }
+    // The same advance (0.602 em) and nearly the same height as the font that it stands for.
+    const QString substitute = QStringLiteral("DejaVu Sans Mono");
+    return QFontDatabase::hasFamily(substitute) ? substitute
+                                                : QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+}
+
+QString emojiFamily()
+{
+    for (const char16_t *name : {u"Noto Color Emoji", u"Apple Color Emoji", u"Segoe UI Emoji"}) {
+        if (const QString family = QString::fromUtf16(name); QFontDatabase::hasFamily(family)) {
+            return family;
+        }
+    }
+    return {};
+}
+
+/// Typographic points per device-independent pixel.
+double pointsPerPixel()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return 72.0 / (screen ? std::round(screen->logicalDotsPerInchY()) : 96.0);
+}
+
+void setPixelSize(QFont &font, double size)
+{
+    if (size == std::floor(size)) {
+        font.setPixelSize(static_cast<int>(size));
+    } else {
+        font.setPointSizeF(size * pointsPerPixel());
+    }
+}
+
+QFont drawnFont(const FontChoice &choice)
+{
+    QFont font = fontObject(choice);
+    font.setFamilies({installedFamily(choice.family)});
+    font.setStyleHint(QFont::Monospace);
+    // Advances must not change with the scale factor, or a text would not end where it was measured to.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    font.setKerning(false);
+    return font;
+}
+
+double naturalWidth(const QString &text, const QFont &font)
+{
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    layout.endLayout();
+    return line.naturalTextWidth();
+}
+
+double plainAdvance(const QFont &font)
+{
+    if (!QFontInfo(font).fixedPitch()) {
+        return 0;
+    }
+    QString printable;
+    for (char16_t c = 0x20; c < 0x7F; ++c) {
+        printable += QChar(c);
+    }
+    const double advance = naturalWidth(QStringLiteral("0"), font);
+    for (const QString &text : {printable, QString(1000, u' '), QStringLiteral("fi -> != =="), QStringLiteral("W")}) {
+        if (naturalWidth(text, font) != static_cast<double>(text.size()) * advance) {
+            return 0;
+        }
+    }
+    return advance;
+}
+
+std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
+{
+    auto facts = std::make_shared<FontFacts>();
+    facts->font = drawnFont(choice);
+    facts->emojiFont = facts->font;
+    if (const QString emoji = emojiFamily(); !emoji.isEmpty()) {
+        facts->emojiFont.setFamilies({emoji});
+    }
+    const QFontMetricsF metrics(facts->font);
+    facts->ascent = metrics.ascent();
+    facts->lineHeight = metrics.lineSpacing();
+    facts->plainAdvance = plainAdvance(facts->font);
+    return facts;
+}
+
+} // namespace
+
+std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
+{
+    FontChoice key = choice;
+    key.size = choice.size >= 1 ? std::min(choice.size, largestFontSize) : 1;
+    FactsTable &table = factsTable();
+    if (table.empty()) {
+        // Fonts must not outlive the application object that loaded them.
+        qAddPostRoutine([] { factsTable().clear(); });
+    }
+    std::shared_ptr<const FontFacts> &facts = table[key];
+    if (!facts) {
+        facts = computeFacts(key);
+    }
+    return facts;
+}
+
+FontChoice fontChoice(const QFont &font)
+{
+    const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() / pointsPerPixel();
+    return {.family = font.family(), .size = size, .weight = font.weight(), .italic = font.italic()};
+}
+
+QFont fontObject(const FontChoice &choice)
+{
+    QFont font(choice.family);
+    font.setWeight(static_cast<QFont::Weight>(choice.weight));
+    font.setItalic(choice.italic);
+    setPixelSize(font, choice.size);
+    return font;
+}
+
+bool isKnownFontFamily(const QString &family)
+{
+    return family == standardFamily() || QFontDatabase::hasFamily(family);
+}
+
+} // namespace tetrad
