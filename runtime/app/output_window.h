@@ -4,8 +4,7 @@
 
 class QWidget;
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// The tag of the window that prints go to and that sheets attach to, stored as an absolute value; 0
 /// means none. It follows the last window statement and the last window that became key or main,

@@ -111,7 +111,7 @@ void Window::setContentRect(const QRectF &rect)
     m_chrome = measuredChrome();
     const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - m_contentView->pos();
     setGeometry(QRect(origin, rect.size().toSize() + m_chrome));
-    layout()->activate();
+    keepContentSize();
     fixSizeUnlessResizable();
 }
 
@@ -188,11 +188,9 @@ void Window::makeKeyAndOrderFront()
 QString Window::dump() const
 {
     const QRectF place = contentRect();
-    return QStringLiteral("window %1 \"%2\" %3x%4 at %5,%6 %7%8")
-        .arg(QString::number(tag()), windowTitle(), QString::number(place.width()), QString::number(place.height()),
-             QString::number(place.x()), QString::number(place.y()),
-             isVisible() ? QStringLiteral("shown") : QStringLiteral("hidden"),
-             isActiveWindow() ? QStringLiteral(" key") : QString());
+    QString line = QStringLiteral("content %1x%2 at %3,%4, style %5");
+    line = line.arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y()).arg(m_styleMask);
+    return isActiveWindow() ? line + u", key" : line;
 }
 
 bool Window::event(QEvent *event)
@@ -205,7 +203,7 @@ bool Window::event(QEvent *event)
     if (!guard) {
         return true;
     }
-    if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest) {
+    if (event->type() == QEvent::Show || (event->type() == QEvent::LayoutRequest && isVisible())) {
         keepContentSize();
     }
     if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) {
@@ -254,6 +252,10 @@ QMargins Window::frameMargins() const
 
 QSize Window::measuredChrome()
 {
+    if (!isVisible()) {
+        // A hidden window lays nothing out by itself when its size changes.
+        layout()->invalidate();
+    }
     layout()->activate();
     return size() - m_contentView->size();
 }

@@ -8,8 +8,7 @@
 
 class QWidget;
 
-namespace tetrad
-{
+namespace tetrad {
 
 class Window;
 
