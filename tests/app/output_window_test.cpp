@@ -1,0 +1,160 @@
+#include "runtime/app/output_window.h"
+
+#include "runtime/app/content_view.h"
+#include "runtime/app/modal.h"
+#include "runtime/app/popover.h"
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+#include "runtime/strings/not_given.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace tetrad {
+
+namespace {
+
+class OutputWindow : public testing::Test
+{
+protected:
+    void TearDown() override
+    {
+        const QList<Window *> left = orderedWindows();
+        qDeleteAll(left);
+        CUI_OutputWindowSetTag(0);
+    }
+};
+
+void open(Tag tag)
+{
+    CUI_Window(tag, QString(), notGiven, QRectF(40, 60, 300, 200));
+    QApplication::processEvents();
+}
+
+TEST_F(OutputWindow, IsFoundByTheAbsoluteTag)
+{
+    Popover popover(9, QSize(100, 50));
+    open(1);
+    open(-2);
+    struct Row
+    {
+        const char *name;
+        Tag set;
+        Tag stored;
+        QWidget *output;
+        QWidget *contentView;
+    };
+    Window *const one = CUI_WindowWithTag(1);
+    Window *const hidden = CUI_WindowWithTag(2);
+    const Row rows[] = {
+        {"none", 0, 0, nullptr, nullptr},
+        {"window", 1, 1, one, one->contentView()},
+        {"hidden window, negative tag", -2, 2, hidden, hidden->contentView()},
+        {"popover", 9, 9, &popover, popover.contentView()},
+        {"unknown", -5, 5, nullptr, nullptr},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        CUI_OutputWindowSetTag(row.set);
+        EXPECT_EQ(CUI_OutputWindowTag(), row.stored);
+        EXPECT_EQ(CUI_OutputWindow(), row.output);
+        EXPECT_EQ(CUI_OutputWindowContentView(), row.contentView);
+        EXPECT_EQ(CUI_TargetWithTag(row.set), row.output);
+    }
+}
+
+TEST_F(OutputWindow, TargetIsTheOutputWindowElseTheFrontmost)
+{
+    Tag none = 0;
+    EXPECT_EQ(CUI_TargetWindow(&none), nullptr);
+    EXPECT_EQ(none, 0);
+    open(1);
+    open(2);
+    open(-3);
+    struct Row
+    {
+        const char *name;
+        Tag output;
+        Tag asked;
+        Tag found;
+        Tag writtenBack;
+    };
+    const Row rows[] = {
+        {"output window, though hidden", 3, 0, 3, 3},
+        {"no output window: the frontmost", 0, 0, 2, 2},
+        {"output tag of no window: the frontmost", 8, 0, 2, 2},
+        {"a tag", 3, -1, 1, -1},
+        {"an unknown tag", 3, 8, 0, 8},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        CUI_OutputWindowSetTag(row.output);
+        Tag tag = row.asked;
+        EXPECT_EQ(CUI_TargetWindow(&tag), CUI_WindowWithTag(row.found));
+        EXPECT_EQ(tag, row.writtenBack);
+    }
+}
+
+TEST_F(OutputWindow, WindowsCannotTakeAPopoversTag)
+{
+    EXPECT_FALSE(CUI_ObjectIsPopover(9));
+    Popover popover(9, QSize(100, 50));
+    CUI_OutputWindowSetTag(4);
+    QStringList shown;
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, [&shown] {
+        if (auto *const box = qobject_cast<QMessageBox *>(modalWindow())) {
+            shown = {box->text(), box->informativeText()};
+            box->buttons().constFirst()->click();
+        }
+    });
+    answers.start(0);
+    CUI_Window(-9, QStringLiteral("Nine"), notGiven, QRectF());
+    EXPECT_TRUE(QTest::qWaitFor([&shown] { return !shown.isEmpty(); }));
+    EXPECT_EQ(shown, QStringList({u"Window tag error."_qs, u"Windows and Popovers cannot have same tag value."_qs}));
+    EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
+    EXPECT_EQ(CUI_OutputWindowTag(), 4);
+}
+
+TEST_F(OutputWindow, PopoverShowsAndCloses)
+{
+    open(1);
+    QWidget *const view = CUI_WindowWithTag(1)->contentView();
+    Popover popover(9, QSize(100, 50));
+    popover.setBehavior(popoverTransient);
+    QStringList told;
+    bool agrees = false;
+    QObject::connect(&popover, &Popover::willShow, [&] { told.append(u"will show"_qs); });
+    QObject::connect(&popover, &Popover::didShow, [&] { told.append(u"did show"_qs); });
+    QObject::connect(&popover, &Popover::shouldClose, [&](bool *answer) { *answer = agrees; });
+    QObject::connect(&popover, &Popover::willClose, [&] { told.append(u"will close"_qs); });
+    QObject::connect(&popover, &Popover::didClose, [&] { told.append(u"did close"_qs); });
+    EXPECT_EQ(CUI_PopoverWithTag(-9), &popover);
+    EXPECT_EQ(CUI_PopoverWithTag(0), nullptr);
+    EXPECT_EQ(CUI_PopoverShown(), nullptr);
+
+    const QRect anchor(100, 100, 20, 10);
+    popover.showRelativeTo(view, anchor, Qt::BottomEdge);
+    EXPECT_EQ(CUI_PopoverShown(), &popover);
+    EXPECT_EQ(popover.contentView()->size(), QSize(100, 50));
+    EXPECT_EQ(popover.y(), view->mapToGlobal(anchor.bottomLeft()).y() + 1);
+
+    QTest::keyClick(&popover, Qt::Key_Escape);
+    EXPECT_TRUE(popover.isVisible()) << "refused";
+    agrees = true;
+    QTest::keyClick(&popover, Qt::Key_Escape);
+    EXPECT_FALSE(popover.isVisible());
+    EXPECT_EQ(told, QStringList({u"will show"_qs, u"did show"_qs, u"will close"_qs, u"did close"_qs}));
+
+    popover.showRelativeTo(view, QRect(100, -view->mapToGlobal(QPoint()).y(), 20, 10), Qt::TopEdge);
+    EXPECT_GT(popover.y(), 0) << "no room above: below";
+}
+
+} // namespace
+
+} // namespace tetrad

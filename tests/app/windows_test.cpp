@@ -1,0 +1,336 @@
+#include "runtime/app/windows.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "runtime/app/menus.h"
+#include "runtime/app/output_window.h"
+#include "runtime/app/window.h"
+#include "runtime/app/window_controller.h"
+#include "runtime/app/window_delegate.h"
+#include "runtime/controls/dialog_event.h"
+#include "runtime/strings/not_given.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPointer>
+#include <QScreen>
+#include <QTest>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace tetrad {
+
+namespace {
+
+class Windows : public testing::Test
+{
+protected:
+    void TearDown() override
+    {
+        CUI_SetOnDialogFunction(nullptr);
+        const QList<Window *> left = orderedWindows();
+        qDeleteAll(left);
+        CUI_OutputWindowSetTag(0);
+    }
+};
+
+Window *open(Tag tag, const QRectF &rect = QRectF(40, 60, 300, 200))
+{
+    CUI_Window(tag, QString(), notGiven, rect);
+    QApplication::processEvents();
+    return CUI_WindowWithTag(tag);
+}
+
+bool isCentred(const Window *window)
+{
+    const QPoint off = window->frameGeometry().center() - window->screen()->availableGeometry().center();
+    return std::abs(off.x()) <= 2 && std::abs(off.y()) <= 12;
+}
+
+TEST_F(Windows, StatementMakesAndShows)
+{
+    struct Row
+    {
+        const char *name;
+        Tag tag;
+        QRectF rect;
+        QSizeF size;
+        bool centred;
+        bool shown;
+    };
+    const Row rows[] = {
+        {"empty rectangle", 1, QRectF(), QSizeF(550, 400), true, true},
+        {"size without height counts as empty", 1, QRectF(10, 10, 300, 0), QSizeF(550, 400), true, true},
+        {"origin (0, 0)", 1, QRectF(0, 0, 580, 250), QSizeF(580, 250), true, true},
+        {"another origin", 1, QRectF(40, 60, 300, 200), QSizeF(300, 200), false, true},
+        {"origin (0, y)", 1, QRectF(0, 60, 300, 200), QSizeF(300, 200), false, true},
+        {"negative tag hides", -1, QRectF(0, 0, 300, 200), QSizeF(300, 200), true, false},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        CUI_Window(row.tag, QString(), notGiven, row.rect);
+        QApplication::processEvents();
+        QPointer<Window> window = CUI_WindowWithTag(1);
+        ASSERT_TRUE(window);
+        EXPECT_EQ(window->contentRect().size(), row.size);
+        EXPECT_EQ(isCentred(window), row.centred);
+        if (!row.centred) {
+            // The offscreen platform keeps the 2 pixels of its frame on the screen.
+            const QPointF off = window->contentRect().topLeft() - row.rect.topLeft();
+            EXPECT_LE(off.manhattanLength(), 2);
+        }
+        EXPECT_EQ(window->isVisible(), row.shown);
+        EXPECT_EQ(window->windowTitle(), u"Untitled");
+        EXPECT_EQ(window->styleMask(), windowStyleDefault);
+        EXPECT_EQ(CUI_OutputWindowTag(), 1);
+        delete window;
+    }
+}
+
+TEST_F(Windows, StatementChangesWhatIsGiven)
+{
+    CUI_Window(-1, QStringLiteral("First"), windowStyleTitled, QRectF(50, 70, 300, 200));
+    Window *const window = CUI_WindowWithTag(1);
+    struct Row
+    {
+        const char *name;
+        Tag tag;
+        QString title;
+        qint64 style;
+        QRectF rect;
+        QString titleAfter;
+        qint64 styleAfter;
+        QRectF rectAfter;
+        bool shown;
+    };
+    const QRectF first(50, 70, 300, 200);
+    const QRectF second(80, 90, 400, 100);
+    const Row rows[] = {
+        {"shows the hidden one", 1, {}, notGiven, {}, u"First"_qs, windowStyleTitled, first, true},
+        {"title only", 1, u"Second"_qs, notGiven, {}, u"Second"_qs, windowStyleTitled, first, true},
+        {"empty title", 1, u""_qs, notGiven, {}, u""_qs, windowStyleTitled, first, true},
+        {"place only, fixed size", 1, {}, notGiven, second, u""_qs, windowStyleTitled, second, true},
+        {"style only", 1, {}, windowStyleDefault, {}, u""_qs, windowStyleDefault, second, true},
+        {"tag of the other sign hides", -1, {}, notGiven, {}, u""_qs, windowStyleDefault, second, false},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        CUI_SetSubclassFlag(true);
+        CUI_Window(row.tag, row.title, row.style, row.rect);
+        QApplication::processEvents();
+        EXPECT_EQ(CUI_WindowWithTag(1), window);
+        EXPECT_EQ(orderedWindows().size(), 1);
+        EXPECT_EQ(window->windowTitle(), row.titleAfter);
+        EXPECT_EQ(window->styleMask(), row.styleAfter);
+        EXPECT_EQ(window->contentRect(), row.rectAfter);
+        EXPECT_EQ(window->isVisible(), row.shown);
+        EXPECT_FALSE(CUI_IsSubclassFlag());
+    }
+}
+
+TEST_F(Windows, InitDoesNotCheckTheTag)
+{
+    Window *const first = WindowInit(5, QRectF(40, 60, 300, 200));
+    Window *const second = WindowInit(5, QRectF(40, 60, 300, 200));
+    Window *const negative = WindowInit(-6, QRectF(40, 60, 300, 200));
+    EXPECT_FALSE(first->isVisible());
+    EXPECT_EQ(CUI_WindowWithTag(5), first) << "the first made is found";
+    EXPECT_EQ(negative->tag(), -6);
+    EXPECT_EQ(CUI_WindowWithTag(6), nullptr);
+    EXPECT_EQ(CUI_AppDelegateObj()->windows(), (QList<Window *>{first, second, negative}));
+    EXPECT_EQ(second->windowController()->window(), second);
+    EXPECT_EQ(second->delegate(), CUI_WindowDelegateObj());
+    EXPECT_EQ(second->contentView()->objectName(), u"-1437226411");
+}
+
+TEST_F(Windows, LookupByTag)
+{
+    Window *const three = open(3);
+    const Tag address = tagFromObject(three);
+    struct Row
+    {
+        const char *name;
+        Tag tag;
+        const Window *found;
+    };
+    const Row rows[] = {
+        {"nothing", 0, nullptr},        {"tag", 3, three},
+        {"absolute value", -3, three},  {"unknown", 4, nullptr},
+        {"an address", address, three}, {"largest tag", largestTag, nullptr},
+    };
+    for (const Row &row : rows) {
+        EXPECT_EQ(CUI_WindowWithTag(row.tag), row.found) << row.name;
+    }
+    EXPECT_EQ(tagFromObject(CUI_WindowWithTag(largestTag + 1)), largestTag + 1);
+    WindowCenter(4);
+    WindowSetBackgroundColor(4, Qt::red);
+}
+
+TEST_F(Windows, SubclassFlagServesOneWindow)
+{
+    CUI_SetSubclassFlag(true);
+    EXPECT_NE(qobject_cast<WindowSC *>(WindowInit(1, QRectF())), nullptr);
+    EXPECT_EQ(qobject_cast<WindowSC *>(WindowInit(2, QRectF())), nullptr);
+}
+
+TEST_F(Windows, ContentKeepsItsSizeWhateverTheMenuBarTakes)
+{
+    for (const qint64 style : {qint64(windowStyleTitled), qint64(windowStyleDefault)}) {
+        CUI_Window(1, QString(), style, QRectF(40, 60, 300, 200));
+        Window *const window = CUI_WindowWithTag(1);
+        const auto sizeOfContent = [window] {
+            QApplication::processEvents();
+            return window->contentRect().size();
+        };
+        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200));
+        CUI_EditMenu(2);
+        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200)) << "menus added";
+        const int height = window->height();
+        window->menuBar()->hide();
+        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200)) << "bar taken out of the window";
+        EXPECT_LT(window->height(), height);
+        window->menuBar()->show();
+        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200)) << "bar put back";
+        EXPECT_EQ(window->height(), height);
+        window->resize(window->width() + 20, window->height() + 30);
+        const QSizeF grown = style & windowStyleResizable ? QSizeF(320, 230) : QSizeF(300, 200);
+        EXPECT_EQ(sizeOfContent(), grown);
+        delete window;
+    }
+}
+
+TEST_F(Windows, StyleBecomesWindowFlags)
+{
+    struct Row
+    {
+        const char *name;
+        qint64 style;
+        Qt::WindowFlags set;
+        Qt::WindowFlags clear;
+    };
+    const Qt::WindowFlags buttons =
+        Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+    const Row rows[] = {
+        {"default", windowStyleDefault, Qt::WindowTitleHint | buttons, Qt::FramelessWindowHint},
+        {"title only", windowStyleTitled, Qt::WindowTitleHint, Qt::FramelessWindowHint | buttons},
+        {"closable", windowStyleTitled | windowStyleClosable, Qt::WindowCloseButtonHint, Qt::WindowMinimizeButtonHint},
+        {"borderless", windowStyleBorderless, Qt::FramelessWindowHint, Qt::WindowTitleHint | buttons},
+    };
+    Window *const window = open(1);
+    const QRectF place = window->contentRect();
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        window->setStyleMask(row.style);
+        QApplication::processEvents();
+        EXPECT_EQ(window->windowFlags() & row.set, row.set);
+        EXPECT_EQ(window->windowFlags() & row.clear, Qt::WindowFlags());
+        EXPECT_EQ(window->windowHandle()->flags(), window->windowFlags());
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_EQ(window->contentRect(), place);
+        EXPECT_EQ(window->minimumSize() == window->maximumSize(), !(row.style & windowStyleResizable));
+    }
+}
+
+TEST_F(Windows, CenterKeepsTheTitleBarOfALargeWindowInReach)
+{
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    Window *const window = open(1, QRectF(40, 60, available.width() + 200, available.height() + 200));
+    WindowCenter(1);
+    QApplication::processEvents();
+    EXPECT_EQ(window->frameGeometry().topLeft(), available.topLeft());
+}
+
+TEST_F(Windows, FrontToBackOrder)
+{
+    Window *const one = open(1);
+    Window *const two = open(2);
+    Window *const hidden = WindowInit(3, QRectF());
+    EXPECT_EQ(CUI_FrontWindow(), two);
+    open(1, QRectF());
+    EXPECT_EQ(CUI_FrontWindow(), one);
+    two->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(two));
+    EXPECT_EQ(CUI_FrontWindow(), two);
+    EXPECT_EQ(orderedWindows(), (QList<Window *>{two, one, hidden}));
+    CUI_Window(-2, QString(), notGiven, QRectF());
+    EXPECT_EQ(CUI_FrontWindow(), one);
+    CUI_Window(-1, QString(), notGiven, QRectF());
+    EXPECT_EQ(CUI_FrontWindow(), nullptr);
+}
+
+TEST_F(Windows, ShowingAMinimisedWindowBringsItBack)
+{
+    Window *const window = open(1);
+    window->showMinimized();
+    open(1, QRectF());
+    EXPECT_FALSE(window->isMinimized());
+}
+
+TEST_F(Windows, BackgroundColoursTheContentOnly)
+{
+    Window *const window = open(1);
+    QWidget child(window->contentView());
+    const QRgb plain = window->contentView()->grab().toImage().pixel(5, 5);
+    EXPECT_EQ(plain, QApplication::palette().color(QPalette::Window).rgb());
+    WindowSetBackgroundColor(-1, Qt::red);
+    EXPECT_EQ(window->backgroundColor(), QColor(Qt::red));
+    EXPECT_EQ(window->contentView()->grab().toImage().pixel(5, 5), qRgb(255, 0, 0));
+    for (const QWidget *widget : {static_cast<QWidget *>(window->menuBar()), &child}) {
+        EXPECT_EQ(widget->palette().color(QPalette::Window), QApplication::palette().color(QPalette::Window));
+        EXPECT_EQ(widget->palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
+    }
+}
+
+TEST_F(Windows, ClosingReleasesUnlessToldOtherwise)
+{
+    for (const bool released : {true, false}) {
+        SCOPED_TRACE(released ? "released" : "kept");
+        QPointer<Window> window = open(1);
+        window->setProperty("releasedWhenClosed", released);
+        EXPECT_TRUE(window->close());
+        EXPECT_EQ(CUI_AppDelegateObj()->windows().contains(window), !released);
+        EXPECT_EQ(CUI_WindowWithTag(1), released ? nullptr : window.data());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(window.isNull(), released);
+    }
+    Window *const again = open(1, QRectF());
+    EXPECT_TRUE(again->isVisible());
+}
+
+TEST_F(Windows, TabGoesByPlace)
+{
+    Window *const window = open(1);
+    QList<QLineEdit *> fields;
+    for (const QPoint place : {QPoint(10, 90), QPoint(120, 10), QPoint(10, 10), QPoint(10, 50)}) {
+        fields.append(new QLineEdit(window->contentView()));
+        fields.last()->setGeometry(QRect(place, QSize(80, 25)));
+        fields.last()->show();
+    }
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    fields[2]->setFocus();
+    for (const int next : {1, 3, 0, 2}) {
+        QTest::keyClick(window, Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), fields[next]) << next;
+    }
+}
+
+TEST_F(Windows, AwakeFromAnInterfaceFile)
+{
+    static QList<qint64> got;
+    CUI_SetOnDialogFunction([](qint64 event, Tag tag, Tag wndTag, qint64 obj) -> qint64 {
+        got = {event, tag, wndTag, obj};
+        return 0;
+    });
+    PanelSC panel(QRectF(40, 60, 300, 200));
+    panel.setTag(8);
+    panel.awakeFromNib();
+    EXPECT_EQ(got, (QList<qint64>{10059, 8, 8, 0}));
+    EXPECT_EQ(CUI_OutputWindowTag(), 8);
+    EXPECT_EQ(panel.windowType(), Qt::Tool);
+}
+
+} // namespace
+
+} // namespace tetrad
