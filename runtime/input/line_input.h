@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// The line-input statement: shows a panel with a prompt and a field over the front window, blocks
 /// until the user confirms or cancels, and returns the line; null when cancelled, empty when

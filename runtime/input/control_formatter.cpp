@@ -1,0 +1,129 @@
+#include "runtime/input/control_formatter.h"
+
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+#include "runtime/input/field_formatter.h"
+#include "runtime/input/input_format.h"
+
+#include <QLineEdit>
+
+#include <limits>
+
+namespace tetrad {
+
+namespace {
+
+CharacterSet refusedSet(const QString &characters, bool pass, qint64 caseOption)
+{
+    QString list = characters;
+    if (caseOption != caseSensitiveList) {
+        list += characters.toUpper();
+        list += characters.toLower();
+    }
+    const CharacterSet listed(list);
+    return pass ? listed.inverted() : listed;
+}
+
+/// First letter of each word upper, the others lower; white space separates words.
+QString capitalized(const QString &text)
+{
+    QString result = text.toLower();
+    bool wordStarts = true;
+    for (qsizetype i = 0; i < result.size();) {
+        const TextCharacter character = characterAt(result, i);
+        if (wordStarts) {
+            const char32_t title = QChar::toTitleCase(character.value);
+            result.replace(i, character.units, QString::fromUcs4(&title, 1));
+        }
+        wordStarts = QChar::isSpace(character.value);
+        i += characterAt(result, i).units;
+    }
+    return result;
+}
+
+QLineEdit *lineEditOf(QObject *control)
+{
+    auto *const lineEdit = qobject_cast<QLineEdit *>(control);
+    return lineEdit || !control ? lineEdit : control->findChild<QLineEdit *>();
+}
+
+QLineEdit *lineEditWithTag(Tag control)
+{
+    if (isObjectAddress(control)) {
+        return lineEditOf(objectFromTag(control));
+    }
+    const Window *const window = CUI_FrontWindow();
+    if (!window || control == 0) {
+        return nullptr;
+    }
+    const auto children = window->contentView()->findChildren<QWidget *>();
+    for (QWidget *const child : children) {
+        if (objectTag(child) == qAbs(control)) {
+            return lineEditOf(child);
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CUI_ControlFormatter::CUI_ControlFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption,
+                                           QObject *parent)
+    : QValidator(parent), m_refused(refusedSet(characters, pass, caseOption)), m_length(length),
+      m_caseOption(caseOption)
+{}
+
+QString CUI_ControlFormatter::formatted(const QString &proposal) const
+{
+    const QString accepted = withoutRefused(proposal);
+    switch (m_caseOption) {
+    case caseForceLower:
+        return accepted.toLower();
+    case caseForceUpper:
+        return accepted.toUpper();
+    case caseCapitalizeWords:
+        return capitalized(accepted);
+    default:
+        return accepted;
+    }
+}
+
+QValidator::State CUI_ControlFormatter::validate(QString &input, int &pos) const
+{
+    if (m_length != 0 && static_cast<quint64>(characterCount(input)) > m_length) {
+        return Invalid;
+    }
+    const QString text = formatted(input);
+    if (text != input) {
+        pos = qMin(static_cast<int>(formatted(input.left(pos)).size()), static_cast<int>(text.size()));
+        input = text;
+    }
+    return Acceptable;
+}
+
+QString CUI_ControlFormatter::withoutRefused(const QString &proposal) const
+{
+    QString accepted;
+    accepted.reserve(proposal.size());
+    for (qsizetype i = 0; i < proposal.size();) {
+        const TextCharacter character = characterAt(proposal, i);
+        if (!m_refused.contains(character.value)) {
+            accepted += QStringView(proposal).mid(i, character.units);
+        }
+        i += character.units;
+    }
+    return accepted;
+}
+
+void ControlSetFormat(Tag control, const QString &characters, bool pass, quint64 length, qint64 caseOption)
+{
+    QLineEdit *const lineEdit = lineEditWithTag(control);
+    if (!lineEdit) {
+        return;
+    }
+    delete lineEdit->findChild<CUI_ControlFormatter *>(QString(), Qt::FindDirectChildrenOnly);
+    lineEdit->setMaxLength(std::numeric_limits<int>::max());
+    new FieldFormatter(characters, pass, length, caseOption, lineEdit);
+}
+
+} // namespace tetrad

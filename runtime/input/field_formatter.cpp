@@ -1,0 +1,97 @@
+#include "runtime/input/field_formatter.h"
+
+#include <QEvent>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace tetrad {
+
+namespace {
+
+/// Turns the field's text into another one by a single edit of the part that differs.
+void editInto(QLineEdit *field, const QString &text)
+{
+    const QString old = field->text();
+    const auto shorter = std::min(old.size(), text.size());
+    qsizetype head = 0;
+    while (head < shorter && old[head] == text[head]) {
+        ++head;
+    }
+    qsizetype tail = 0;
+    while (tail < shorter - head && old[old.size() - 1 - tail] == text[text.size() - 1 - tail]) {
+        ++tail;
+    }
+    field->setSelection(static_cast<int>(head), static_cast<int>(old.size() - head - tail));
+    field->insert(text.mid(head, text.size() - head - tail));
+}
+
+bool mayReadOrEdit(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::Drop:
+    case QEvent::FocusOut:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+FieldFormatter::FieldFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption,
+                               QLineEdit *field)
+    : CUI_ControlFormatter(characters, pass, length, caseOption, field), m_field(field)
+{
+    field->setValidator(this);
+    field->installEventFilter(this);
+    // Queued, because the signal comes before the line edit takes the proposal back.
+    connect(field, &QLineEdit::inputRejected, this, &FieldFormatter::replaceText, Qt::QueuedConnection);
+}
+
+QValidator::State FieldFormatter::validate(QString &input, int &pos) const
+{
+    if (m_replacing) {
+        return Acceptable;
+    }
+    Replacement proposal{input, pos};
+    m_replacement.reset();
+    if (CUI_ControlFormatter::validate(proposal.text, proposal.cursor) == Invalid) {
+        return Invalid;
+    }
+    if (proposal.text == input) {
+        return Acceptable;
+    }
+    m_replacement = std::move(proposal);
+    return Invalid;
+}
+
+bool FieldFormatter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_field && mayReadOrEdit(event->type())) {
+        replaceText();
+    }
+    return CUI_ControlFormatter::eventFilter(watched, event);
+}
+
+void FieldFormatter::replaceText()
+{
+    if (!m_replacement) {
+        return;
+    }
+    const Replacement replacement = std::move(*m_replacement);
+    m_replacement.reset();
+    if (replacement.text == m_field->text()) {
+        return;
+    }
+    m_replacing = true;
+    editInto(m_field, replacement.text);
+    m_field->setCursorPosition(replacement.cursor);
+    m_replacing = false;
+}
+
+} // namespace tetrad

@@ -1,0 +1,271 @@
+#include "runtime/input/floating_panel.h"
+
+#include "runtime/app/modal.h"
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+#include "runtime/input/panel_layout.h"
+#include "runtime/strings/not_given.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+namespace tetrad {
+
+namespace {
+
+constexpr int shadowMargin = 14;
+constexpr int shadowOffset = 3;
+constexpr int textInset = 2; ///< of a label's text, as of a line edit's
+constexpr double cornerRadius = 10.0;
+constexpr double bodyOpacity = 0.93;
+
+QWidget *hostOfPanel()
+{
+    Window *const front = CUI_FrontWindow();
+    return front ? front->contentView() : nullptr;
+}
+
+/// The application's font at the largest size, 13 pixels at most, whose lines fit a label.
+QFont panelFont()
+{
+    constexpr int lineHeight = 16;
+    QFont font = QApplication::font();
+    int size = 13;
+    do {
+        font.setPixelSize(size);
+    } while (QFontMetrics(font).height() > lineHeight && --size > 8);
+    return font;
+}
+
+/// The application's palette with every colour set, so that nothing is inherited from the content. What
+/// is typed stands on the panel's body in the colour of the prompt.
+QPalette panelPalette()
+{
+    const QPalette source = QApplication::palette();
+    QPalette palette;
+    for (int group = 0; group < QPalette::NColorGroups; ++group) {
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            const auto colorGroup = static_cast<QPalette::ColorGroup>(group);
+            const auto colorRole = static_cast<QPalette::ColorRole>(role);
+            palette.setBrush(colorGroup, colorRole, source.brush(colorGroup, colorRole));
+        }
+    }
+    palette.setBrush(QPalette::Base, Qt::transparent);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setBrush(group, QPalette::Text, source.brush(group, QPalette::WindowText));
+    }
+    return palette;
+}
+
+/// The prompt as one line.
+QString inOneLine(QString prompt)
+{
+    for (QChar &character : prompt) {
+        if (character.category() == QChar::Other_Control || character.category() == QChar::Separator_Line) {
+            character = u' ';
+        }
+    }
+    return prompt;
+}
+
+/// What the console of the content gained since it was last asked; consoles are known by this slot.
+QString newConsoleText(const QWidget *content)
+{
+    if (!content) {
+        return {};
+    }
+    QString text;
+    const auto views = content->findChildren<QWidget *>();
+    for (QWidget *const view : views) {
+        QString gained;
+        if (view->metaObject()->indexOfMethod("takeNewText()") >= 0 &&
+            QMetaObject::invokeMethod(view, "takeNewText", Qt::DirectConnection, Q_RETURN_ARG(QString, gained))) {
+            text += gained;
+        }
+    }
+    return text;
+}
+
+/// Rings that add up to a shadow which fades outwards and stays outside the body.
+void paintShadow(QPainter *painter, const QRectF &body)
+{
+    QPainterPath outside;
+    outside.addRect(body.adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
+    outside.addRoundedRect(body, cornerRadius, cornerRadius);
+    painter->save();
+    painter->setClipPath(outside);
+    painter->setPen(Qt::NoPen);
+    for (int spread = shadowMargin - shadowOffset; spread > 0; --spread) {
+        painter->setBrush(QColor(0, 0, 0, 2 + (shadowMargin - spread) / 2));
+        painter->drawRoundedRect(body.adjusted(-spread, -spread, spread, spread).translated(0, shadowOffset),
+                                 cornerRadius + spread, cornerRadius + spread);
+    }
+    painter->restore();
+}
+
+void paintBody(QPainter *painter, const QRectF &body, const QPalette &palette)
+{
+    QColor fill = palette.color(QPalette::Window);
+    fill.setAlphaF(bodyOpacity);
+    QColor edge = palette.color(QPalette::WindowText);
+    edge.setAlphaF(0.25);
+    painter->setPen(QPen(edge, 1));
+    painter->setBrush(fill);
+    painter->drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+}
+
+} // namespace
+
+FloatingPanel::FloatingPanel(const QString &prompt, qint64 xPos, qint64 yPos)
+    : QWidget(hostOfPanel()), m_prompt(prompt), m_xPos(xPos), m_yPos(yPos)
+{
+    setAttribute(Qt::WA_NoMousePropagation);
+    if (QWidget *const content = parentWidget()) {
+        content->installEventFilter(this);
+    } else {
+        setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+        setWindowTitle(prompt);
+        setAttribute(Qt::WA_TranslucentBackground);
+    }
+    m_label = makeLabel(QString());
+    m_label->setAccessibleName(prompt);
+    adoptApplicationLook();
+}
+
+QRect FloatingPanel::bodyRect() const
+{
+    return geometry().adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
+}
+
+void FloatingPanel::resize()
+{
+    PanelMetrics metrics;
+    metrics.promptWidth = m_prompt.isEmpty() ? 0 : m_label->fontMetrics().horizontalAdvance(inOneLine(m_prompt));
+    metrics.entryWidth = entryTextWidth();
+    metrics.minimumWidth = minimumBodyWidth();
+    metrics.usableEntryWidth = usableEntryWidth();
+
+    const QRect host = hostRect();
+    const PanelGeometry parts = layOutPanel(metrics, m_wanted, host.size());
+    setGeometry(
+        parts.body.translated(host.topLeft()).adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
+    m_label->setGeometry(parts.label.translated(shadowMargin, shadowMargin));
+    m_entry->setGeometry(parts.entry.translated(shadowMargin, shadowMargin));
+    showPrompt(parts.label.width());
+}
+
+void FloatingPanel::center()
+{
+    const QRect host = hostRect();
+    m_wanted = wantedPlace(m_xPos, m_yPos, host.size());
+    if (!parentWidget() && m_xPos == notGiven && m_yPos == notGiven) {
+        m_wanted.setX((host.width() - minimumBodyWidth()) / 2);
+    }
+    resize();
+}
+
+qint64 FloatingPanel::run()
+{
+    window()->activateWindow();
+    show();
+    raise();
+    m_keyReceiver->setFocus(Qt::OtherFocusReason);
+    return runModalForWindow(this);
+}
+
+QLabel *FloatingPanel::makeLabel(const QString &text)
+{
+    auto *const label = new QLabel(this);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::NoTextInteraction);
+    label->setContentsMargins(textInset, 0, 0, 0);
+    label->setText(text);
+    return label;
+}
+
+void FloatingPanel::setKeyReceiver(QWidget *receiver)
+{
+    m_keyReceiver = receiver;
+    receiver->setAccessibleName(m_prompt.isEmpty() ? QCoreApplication::translate("Runtime", "Input") : m_prompt);
+    receiver->setAccessibleDescription(newConsoleText(parentWidget()));
+}
+
+bool FloatingPanel::event(QEvent *event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange) {
+        adoptApplicationLook();
+        resize();
+    }
+    return handled;
+}
+
+bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget()) {
+        if (event->type() == QEvent::Resize) {
+            resize();
+        } else if (event->type() == QEvent::ChildPolished) {
+            // The content got another view, made above the panel.
+            raise();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FloatingPanel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF body = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
+    paintShadow(&painter, body);
+    paintBody(&painter, body, palette());
+}
+
+void FloatingPanel::mousePressEvent(QMouseEvent *event)
+{
+    m_dragOffset = event->globalPosition().toPoint() - bodyRect().topLeft();
+}
+
+void FloatingPanel::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons() & Qt::LeftButton) {
+        m_wanted = event->globalPosition().toPoint() - m_dragOffset - hostRect().topLeft();
+        resize();
+        m_wanted = bodyRect().topLeft() - hostRect().topLeft();
+    }
+}
+
+// Keys that nothing in the panel used end here; the content below must not see them.
+void FloatingPanel::keyPressEvent(QKeyEvent *) {}
+
+void FloatingPanel::keyReleaseEvent(QKeyEvent *) {}
+
+QRect FloatingPanel::hostRect() const
+{
+    return parentWidget() ? parentWidget()->rect() : QGuiApplication::primaryScreen()->geometry();
+}
+
+void FloatingPanel::adoptApplicationLook()
+{
+    setPalette(panelPalette());
+    setFont(panelFont());
+}
+
+void FloatingPanel::showPrompt(int width)
+{
+    const QString line = inOneLine(m_prompt);
+    const QString shown = m_label->fontMetrics().elidedText(line, Qt::ElideMiddle, width - 2 * textInset);
+    if (shown != m_label->text()) {
+        m_label->setText(shown);
+        m_label->setToolTip(shown == line ? QString() : m_prompt);
+    }
+}
+
+} // namespace tetrad

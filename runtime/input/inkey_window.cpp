@@ -1,0 +1,131 @@
+#include "runtime/input/inkey_window.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "runtime/app/current_event.h"
+#include "runtime/app/modal.h"
+#include "runtime/input/inkey_format.h"
+#include "runtime/input/input_format.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTimer>
+
+#include <chrono>
+
+namespace tetrad {
+
+namespace {
+
+/// A key that may well be held down still from the answer before; its repetition is no new answer.
+bool isLeftover(const QKeyEvent *event)
+{
+    return event->isAutoRepeat() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                                     event->key() == Qt::Key_Tab || event->key() == Qt::Key_Escape);
+}
+
+QString inCaseOf(const QString &key, qint64 caseOption)
+{
+    switch (caseOption) {
+    case caseForceLower:
+        return key.toLower();
+    case caseForceUpper:
+        return key.toUpper();
+    default:
+        return key;
+    }
+}
+
+} // namespace
+
+ZRInkeyWindow::ZRInkeyWindow(const QString &prompt, qint64 xPos, qint64 yPos)
+    : FloatingPanel(prompt, xPos, yPos), m_cursorLabel(makeLabel(QStringLiteral("_")))
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setEntry(m_cursorLabel);
+    setKeyReceiver(this);
+    center();
+}
+
+void ZRInkeyWindow::keyDown(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        endWith(QString(), event);
+    } else {
+        takeKey(event->text(), event);
+    }
+}
+
+void ZRInkeyWindow::timerFired()
+{
+    m_cursorLabel->setHidden(!m_cursorLabel->isHidden());
+}
+
+void ZRInkeyWindow::windowDidBecomeKey()
+{
+    if (m_cursorTimer) {
+        return;
+    }
+    // The panel owns the one timer there is: a second one, started with the panel and stopped by
+    // nobody, would toggle the cursor out of step and outlive the panel.
+    m_cursorTimer = new QTimer(this);
+    connect(m_cursorTimer, &QTimer::timeout, this, &ZRInkeyWindow::timerFired);
+    m_cursorTimer->start(std::chrono::milliseconds(500));
+}
+
+int ZRInkeyWindow::entryTextWidth() const
+{
+    return m_cursorLabel->fontMetrics().horizontalAdvance(QLatin1Char('_'));
+}
+
+// Tab is a key like any other here.
+bool ZRInkeyWindow::focusNextPrevChild(bool)
+{
+    return false;
+}
+
+void ZRInkeyWindow::focusInEvent(QFocusEvent *event)
+{
+    FloatingPanel::focusInEvent(event);
+    windowDidBecomeKey();
+}
+
+void ZRInkeyWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (!isLeftover(event)) {
+        keyDown(event);
+    }
+}
+
+void ZRInkeyWindow::inputMethodEvent(QInputMethodEvent *event)
+{
+    takeKey(event->commitString(), event);
+}
+
+bool ZRInkeyWindow::takeKey(QString key, QEvent *event)
+{
+    if (key.isEmpty()) {
+        return false;
+    }
+    if (const ZRInkeyFormat *const format = pendingInkeyFormat()) {
+        key = inCaseOf(key, format->caseOption);
+        if (!format->characterSet.containsFirstOf(key)) {
+            return false;
+        }
+    }
+    endWith(key, event);
+    return true;
+}
+
+void ZRInkeyWindow::endWith(const QString &key, QEvent *event)
+{
+    const CurrentEventScope current(event);
+    CUI_AppDelegateObj()->setInkeyResponseString(key);
+    stopModalWithCode(modalStopped);
+    delete m_cursorTimer;
+    m_cursorTimer = nullptr;
+}
+
+} // namespace tetrad

@@ -1,0 +1,30 @@
+#include "runtime/input/key_input.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "runtime/app/modal.h"
+#include "runtime/input/inkey_format.h"
+#include "runtime/input/inkey_window.h"
+
+#include <QPointer>
+
+namespace tetrad {
+
+QString ZRInkey(qint64 x, qint64 y, const QString &prompt, const QString &characters, qint64 pass, qint64 caseOption)
+{
+    if (characters.isNull()) {
+        InkeyRemoveFormat();
+    } else if (!characters.isEmpty()) {
+        InkeySetFormat(characters, pass, caseOption);
+    } // An empty list deliberately keeps the pending format, as it does for ZRInput.
+
+    CUI_AppDelegate *const delegate = CUI_AppDelegateObj();
+    const QPointer<ZRInkeyWindow> panel = new ZRInkeyWindow(prompt, x, y);
+    delegate->setInkeyWnd(panel);
+    const qint64 code = panel->run();
+    delegate->setInkeyWnd(nullptr);
+    delete panel.data();
+    return code == modalStopped ? delegate->inkeyResponseString() : QString();
+}
+
+} // namespace tetrad

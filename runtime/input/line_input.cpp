@@ -1,0 +1,37 @@
+#include "runtime/input/line_input.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "runtime/app/modal.h"
+#include "runtime/input/control_formatter.h"
+#include "runtime/input/input_format.h"
+#include "runtime/input/line_input_window.h"
+
+#include <QLineEdit>
+#include <QPointer>
+
+namespace tetrad {
+
+QString ZRInput(qint64 x, qint64 y, const QString &prompt, const QString &characters, qint64 pass, qint64 maxLength,
+                qint64 caseOption)
+{
+    if (characters.isNull()) {
+        InputRemoveFormat();
+    } else if (!characters.isEmpty()) {
+        InputSetFormat(characters, pass, maxLength, caseOption);
+    } // An empty list deliberately keeps the pending format: programs set it once and ask many times.
+
+    CUI_AppDelegate *const delegate = CUI_AppDelegateObj();
+    const QPointer<ZRInputWindow> panel = new ZRInputWindow(prompt, x, y);
+    delegate->setInputWnd(panel);
+    if (const ZRInputFormat *const format = pendingInputFormat()) {
+        ControlSetFormat(tagFromObject(panel->field()), format->characters, format->pass, format->maxLength,
+                         format->caseOption);
+    }
+    const qint64 code = panel->run();
+    delegate->setInputWnd(nullptr);
+    delete panel.data();
+    return code == modalStopped ? delegate->inputResponseString() : QString();
+}
+
+} // namespace tetrad

@@ -1,0 +1,114 @@
+#include "runtime/input/line_input_window.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "runtime/app/current_event.h"
+#include "runtime/app/modal.h"
+
+#include <QFontMetrics>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <limits>
+
+namespace tetrad {
+
+namespace {
+
+bool endsEditing(const QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    default:
+        return false;
+    }
+}
+
+QLineEdit *makeField(QWidget *panel)
+{
+    auto *const field = new QLineEdit(panel);
+    field->setFrame(false);
+    field->setAttribute(Qt::WA_MacShowFocusRect, false);
+    // A line edit cuts at 32767 by itself; a longer line is an answer like any other.
+    field->setMaxLength(std::numeric_limits<int>::max());
+    return field;
+}
+
+} // namespace
+
+ZRInputWindow::ZRInputWindow(const QString &prompt, qint64 xPos, qint64 yPos)
+    : FloatingPanel(prompt, xPos, yPos), m_field(makeField(this))
+{
+    m_field->installEventFilter(this);
+    connect(m_field, &QLineEdit::textChanged, this, &ZRInputWindow::controlTextDidChange);
+    setEntry(m_field);
+    setKeyReceiver(m_field);
+    center();
+}
+
+void ZRInputWindow::controlTextDidChange()
+{
+    resize();
+}
+
+void ZRInputWindow::controlTextDidEndEditing(QEvent *event)
+{
+    const CurrentEventScope current(event);
+    CUI_AppDelegateObj()->setInputResponseString(m_field->text());
+    stopModalWithCode(modalStopped);
+}
+
+bool ZRInputWindow::doCommandBySelector(QByteArrayView command)
+{
+    if (command != "cancelOperation") {
+        return false;
+    }
+    abortModal();
+    return true;
+}
+
+int ZRInputWindow::entryTextWidth() const
+{
+    // Wider than any content; measuring more would only cost time.
+    constexpr int enough = 4096;
+    return m_field->fontMetrics().horizontalAdvance(m_field->text().left(enough) + m_composition);
+}
+
+bool ZRInputWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_field) {
+        if (event->type() == QEvent::KeyPress && fieldKeyPressed(static_cast<QKeyEvent *>(event))) {
+            return true;
+        }
+        if (event->type() == QEvent::InputMethod) {
+            m_composition = static_cast<QInputMethodEvent *>(event)->preeditString();
+            resize();
+        }
+    }
+    return FloatingPanel::eventFilter(watched, event);
+}
+
+bool ZRInputWindow::fieldKeyPressed(QKeyEvent *event)
+{
+    const bool cancels = event->key() == Qt::Key_Escape;
+    if (!cancels && !endsEditing(event)) {
+        return false;
+    }
+    // A key still held down from the last question or alert must not answer this one.
+    if (event->isAutoRepeat()) {
+        return true;
+    }
+    if (cancels) {
+        return doCommandBySelector("cancelOperation");
+    }
+    controlTextDidEndEditing(event);
+    return true;
+}
+
+} // namespace tetrad
