@@ -2,6 +2,7 @@
 
 #include "runtime/app/alert_delegate.h"
 #include "runtime/app/alert_keys.h"
+#include "runtime/app/alert_text.h"
 #include "runtime/app/alerts.h"
 #include "runtime/app/application.h"
 #include "runtime/app/menus.h"
@@ -14,7 +15,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 
 #include <utility>
@@ -38,18 +38,6 @@ QMessageBox::Icon iconOf(qint64 style)
         return QMessageBox::Critical;
     default:
         return QMessageBox::Warning;
-    }
-}
-
-// While a sheet blocks its window, the menus' shortcuts fire only through a widget that is not blocked.
-void addMenuActions(QWidget *widget)
-{
-    const MainMenu *const menu = mainMenu();
-    if (!menu) {
-        return;
-    }
-    for (const QMenu *each : menu->menus) {
-        widget->addActions(each->actions());
     }
 }
 
@@ -131,6 +119,7 @@ QPushButton *Alert::addAlertButton(const QString &title)
     button->setProperty(titleKey, title);
     m_buttons.append(button);
     if (m_buttons.size() == 1) {
+        m_returnButton = button;
         setDefaultButton(button);
     }
     return button;
@@ -154,7 +143,10 @@ void Alert::setKeyEquivalent(quint64 index, const QString &key)
     button->setAutoDefault(isDefault);
     button->setDefault(isDefault);
     if (isDefault) {
+        m_returnButton = button;
         setDefaultButton(button);
+    } else if (m_returnButton == button) {
+        m_returnButton = nullptr;
     }
 }
 
@@ -230,7 +222,8 @@ void Alert::beginSheet(QWidget *window, std::function<void(qint64)> completion)
 {
     attachTo(window, Qt::WindowModal);
     prepareToShow();
-    addMenuActions(this);
+    // The window that the sheet blocks cannot fire them.
+    addMenuShortcutsTo(this);
     m_sheetWindow = window->window();
     m_completion = std::move(completion);
     auto *const owner = qobject_cast<Window *>(m_sheetWindow);
@@ -274,6 +267,9 @@ void Alert::prepareToShow()
     if (m_buttons.isEmpty()) {
         addAlertButton(tr("OK"));
     }
+    if (!isVisible()) {
+        fitTextsToScreen(this);
+    }
     for (QWidget *child : findChildren<QWidget *>()) {
         child->installEventFilter(this);
     }
@@ -306,22 +302,33 @@ void Alert::endSheet()
     }
 }
 
-bool Alert::event(QEvent *event)
+// Return belongs to the focused button, else to the one whose key it is. The dialog itself would press a
+// button that lost the key, since it never forgets the first default it had.
+bool Alert::takesKey(QObject *receiver, QEvent *event)
 {
     if (isHeldKey(event)) {
         event->accept();
         return true;
     }
-    return QMessageBox::event(event);
+    const auto *focused = qobject_cast<QPushButton *>(receiver);
+    if (!isReturnPress(event) || (focused && focused->autoDefault())) {
+        return false;
+    }
+    event->accept();
+    if (m_returnButton) {
+        m_returnButton->click();
+    }
+    return true;
+}
+
+bool Alert::event(QEvent *event)
+{
+    return takesKey(this, event) || QMessageBox::event(event);
 }
 
 bool Alert::eventFilter(QObject *watched, QEvent *event)
 {
-    if (isHeldKey(event)) {
-        event->accept();
-        return true;
-    }
-    return QMessageBox::eventFilter(watched, event);
+    return takesKey(watched, event) || QMessageBox::eventFilter(watched, event);
 }
 
 void Alert::keyPressEvent(QKeyEvent *event)
@@ -331,7 +338,12 @@ void Alert::keyPressEvent(QKeyEvent *event)
         event->accept();
         return;
     }
-    QMessageBox::keyPressEvent(event);
+    if (event->matches(QKeySequence::Copy)) {
+        QMessageBox::keyPressEvent(event);
+        return;
+    }
+    // The box presses a button by its key whatever the Shift key says; shortcuts have done that already.
+    QDialog::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void Alert::closeEvent(QCloseEvent *event)

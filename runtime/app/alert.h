@@ -91,12 +91,14 @@ protected:
 private:
     void attachTo(QWidget *window, Qt::WindowModality modality);
     void prepareToShow();
+    bool takesKey(QObject *receiver, QEvent *event);
     void onFinished();
     void endSheet();
     void updateAccessibleName();
 
     QList<QPushButton *> m_buttons;
     QPushButton *m_helpButton = nullptr;
+    QPushButton *m_returnButton = nullptr;
     QPointer<CUI_AlertDelegate> m_delegate;
     QPointer<QWidget> m_sheetWindow;
     std::function<void(qint64)> m_completion;

@@ -47,4 +47,13 @@ bool isHeldKey(const QEvent *event)
     }
 }
 
+bool isReturnPress(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 } // namespace tetrad

@@ -16,4 +16,7 @@ QKeySequence keySequenceOf(QChar key);
 /// Keys that only move about may repeat.
 bool isHeldKey(const QEvent *event);
 
+/// Whether Return or Enter was pressed.
+bool isReturnPress(const QEvent *event);
+
 } // namespace tetrad

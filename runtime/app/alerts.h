@@ -5,8 +5,7 @@
 #include <QString>
 #include <QVariant>
 
-namespace tetrad
-{
+namespace tetrad {
 
 class Alert;
 

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// Returns the index. One above the bound is first reported as a range error, which is fatal. The
 /// comparison is unsigned, so a negative index always reports.

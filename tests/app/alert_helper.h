@@ -1,0 +1,61 @@
+#pragma once
+
+#include "runtime/app/alert.h"
+#include "runtime/app/modal.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace tetrad::testing_helpers {
+
+/// Calls `action` with the alert that is run next, once it is on the screen and active; start it before the call
+/// that blocks.
+inline void whenAlertRuns(std::function<void(Alert *)> action)
+{
+    QTimer::singleShot(0, qApp, [action = std::move(action)] {
+        auto *const alert = qobject_cast<Alert *>(modalWindow());
+        if (alert && alert->isVisible() && alert->isActiveWindow()) {
+            action(alert);
+        } else {
+            whenAlertRuns(action);
+        }
+    });
+}
+
+inline QStringList titlesOf(const Alert *alert)
+{
+    QStringList titles;
+    for (quint64 index = 0; index < quint64(alert->alertButtons().size()); ++index) {
+        titles << alert->buttonTitle(index);
+    }
+    return titles;
+}
+
+/// A real key press and release for whatever has the focus in the alert; `held` makes it one repetition of
+/// a key that was already down.
+inline void pressKey(Alert *alert, Qt::Key key, bool held = false, Qt::KeyboardModifiers modifiers = {})
+{
+    QWidget *const target = alert->focusWidget() ? alert->focusWidget() : alert;
+    const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(char16_t(key))) : QString();
+    const QPointer<QWidget> alive(target);
+    QTest::simulateEvent(target, true, key, modifiers, text, held);
+    if (alive) {
+        QTest::simulateEvent(target, false, key, modifiers, text, held);
+    }
+}
+
+/// Whether every window the test opened is off the screen again.
+inline bool noAlertLeft()
+{
+    for (const QWidget *widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<const Alert *>(widget) && widget->isVisible()) {
+            return false;
+        }
+    }
+    return modalWindow() == nullptr;
+}
+
+} // namespace tetrad::testing_helpers
