@@ -10,7 +10,7 @@ quint8 gZRFloatMaxDigits = 10;
 
 namespace {
 
-// Single precision on purpose: a fraction of exactly 1e-6 still prints, one a little smaller does not.
+// Single precision on purpose: it is a little below 1e-6, so that a fraction of 1e-6 still prints.
 constexpr float smallestFraction = 1e-6F;
 
 /// The digits of a fraction, as in "25" of "-0.2500000000". Leading zeros go along with the sign and

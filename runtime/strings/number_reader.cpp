@@ -11,49 +11,14 @@ namespace tetrad {
 
 namespace {
 
-/// A number cut out of a text: its sign apart, the rest in ASCII, empty if there is no number.
+/// The start of a text as far as it may belong to a number: its sign apart, the rest in ASCII.
 struct NumberText
 {
     bool negative = false;
     QByteArray digits;
 };
 
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
-
-qsizetype skipDigits(QStringView text, qsizetype from)
-{
-    while (from < text.size() && isDigit(text[from])) {
-        ++from;
-    }
-    return from;
-}
-
-bool isAt(QStringView text, qsizetype at, QStringView choices)
-{
-    return at < text.size() && choices.contains(text[at]);
-}
-
-/// Where the number at the start of the text ends if it may have a point and an exponent; 0 if there is none.
-qsizetype decimalEnd(QStringView text)
-{
-    const qsizetype integerEnd = skipDigits(text, 0);
-    const bool point = isAt(text, integerEnd, u".");
-    const qsizetype end = point ? skipDigits(text, integerEnd + 1) : integerEnd;
-    if (end == (point ? 1 : 0)) {
-        return 0;
-    }
-    if (!isAt(text, end, u"eE")) {
-        return end;
-    }
-    const qsizetype exponent = end + (isAt(text, end + 1, u"+-") ? 2 : 1);
-    const qsizetype exponentEnd = skipDigits(text, exponent);
-    return exponentEnd > exponent ? exponentEnd : end;
-}
-
-NumberText leadingNumber(QStringView text, qsizetype (*findEnd)(QStringView))
+NumberText leadingNumber(QStringView text)
 {
     while (!text.isEmpty() && text.front().isSpace()) {
         text = text.sliced(1);
@@ -62,7 +27,14 @@ NumberText leadingNumber(QStringView text, qsizetype (*findEnd)(QStringView))
     if (negative || text.startsWith(u'+')) {
         text = text.sliced(1);
     }
-    return {negative, text.first(findEnd(text)).toLatin1()};
+    qsizetype end = 0;
+    while (end < text.size() && QStringView(u"0123456789.eE+-").contains(text[end])) {
+        ++end;
+    }
+    text = text.first(end);
+    // Past its sign a number may not start with another.
+    const bool startsNumber = !text.isEmpty() && (text.front() == u'.' || text.front().isDigit());
+    return {negative, startsNumber ? text.toLatin1() : QByteArray()};
 }
 
 /// Tells a number beyond the largest double from one below the smallest: whether its first digit
@@ -82,10 +54,11 @@ bool isBeyondLargest(const QByteArray &number)
 
 double StringDoubleValue(const QString &text)
 {
-    const auto [negative, digits] = leadingNumber(text, decimalEnd);
+    auto [negative, digits] = leadingNumber(text);
     double value = 0;
-    const auto read = std::from_chars(digits.begin(), digits.end(), value);
+    const auto read = std::from_chars(digits.cbegin(), digits.cend(), value);
     if (read.ec == std::errc::result_out_of_range) {
+        digits.truncate(read.ptr - digits.cbegin());
         value = isBeyondLargest(digits) ? std::numeric_limits<double>::infinity() : 0;
     }
     return negative ? -value : value;
@@ -93,7 +66,7 @@ double StringDoubleValue(const QString &text)
 
 qint64 StringIntegerValue(const QString &text)
 {
-    auto [negative, digits] = leadingNumber(text, [](QStringView rest) { return skipDigits(rest, 0); });
+    auto [negative, digits] = leadingNumber(text);
     if (negative) {
         digits.prepend('-');
     }

@@ -33,6 +33,7 @@ TEST(InString, searchesByStartAndOptions)
         {"other case", 0, u"ABC"_qs, u"c"_qs, searchLiteral, notFound},
         {"other case allowed", 0, u"ABC"_qs, u"c"_qs, searchCaseInsensitive, 2},
         {"backwards over everything", -5, u"ABCABC"_qs, u"B"_qs, searchBackwards, 4},
+        {"its last character included", -5, u"ABCABC"_qs, u"C"_qs, searchBackwards, 5},
         {"backwards from beyond the end", 99, u"ABCABC"_qs, u"B"_qs, searchBackwards, 4},
         {"backwards, match at start", 4, u"ABCABC"_qs, u"B"_qs, searchBackwards, 4},
         {"backwards, match after start", 3, u"ABCABC"_qs, u"B"_qs, searchBackwards, 1},
