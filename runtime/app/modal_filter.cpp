@@ -191,7 +191,7 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         return false;
     }
     if (isKey(type)) {
-        return m_widget == nullptr ? keepKey(event) : redirectKey(event);
+        return redirectKey(event);
     }
     if (type == QEvent::Close && event->spontaneous()) {
         event->ignore();
@@ -220,8 +220,14 @@ bool ModalFilter::keepKey(QEvent *event)
     return true;
 }
 
+// With the run ended this can only be the very key that ended it, on its way from the focus outwards: it
+// must not be kept as if it had been typed again.
 bool ModalFilter::redirectKey(QEvent *event)
 {
+    if (m_widget == nullptr) {
+        event->setAccepted(event->type() != QEvent::ShortcutOverride);
+        return true;
+    }
     const QScopedValueRollback guard(m_redirecting, true);
     activateAgain();
     focusInside();

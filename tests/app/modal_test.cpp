@@ -1,0 +1,283 @@
+#include "runtime/app/modal.h"
+
+#include "runtime/app/application.h"
+#include "runtime/app/window.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+using namespace tetrad;
+
+// A window with a panel raised over it, and one beside it; each has a button and a field.
+class Modal : public testing::Test
+{
+protected:
+    QWidget carrier;
+    QPushButton *outsideButton = new QPushButton(&carrier);
+    QLineEdit *outsideField = new QLineEdit(&carrier);
+    QWidget *panel = new QWidget(&carrier);
+    QLineEdit *field = new QLineEdit(panel);
+    QPushButton *button = new QPushButton(panel);
+    QWidget other;
+    QPushButton *otherButton = new QPushButton(&other);
+
+    void SetUp() override
+    {
+        CocoaInit();
+        carrier.setGeometry(0, 0, 400, 300);
+        outsideButton->setGeometry(0, 0, 80, 30);
+        outsideField->setGeometry(100, 0, 80, 30);
+        panel->setGeometry(50, 100, 200, 80);
+        field->setGeometry(0, 0, 80, 30);
+        button->setGeometry(100, 0, 80, 30);
+        panel->hide();
+        other.setGeometry(500, 0, 200, 200);
+        other.show();
+        carrier.show();
+        carrier.activateWindow();
+        outsideField->setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return outsideField->hasFocus(); }));
+    }
+
+    // Runs the panel and, inside the run, what the player does; the run is aborted after that if it is
+    // still on.
+    qint64 runWhile(const std::function<void()> &act)
+    {
+        QTimer::singleShot(0, panel, [act] {
+            act();
+            abortModal();
+        });
+        return runModalForWindow(panel);
+    }
+};
+
+void clickInWindow(const QWidget &inside)
+{
+    QWidget *top = inside.window();
+    QTest::mouseClick(top->windowHandle(), Qt::LeftButton, {}, inside.mapTo(top, inside.rect().center()));
+}
+
+TEST_F(Modal, EveryWayToEndGivesItsCode)
+{
+    const struct
+    {
+        const char *name;
+        std::function<void()> act;
+        qint64 code;
+    } rows[] = {
+        {"stopped", [] { stopModalWithCode(modalStopped); }, modalStopped},
+        {"any code", [] { stopModalWithCode(1001); }, 1001},
+        {"aborted", [] { abortModal(); }, modalAborted},
+        {"the first end counts", [] { stopModalWithCode(7), stopModalWithCode(8); }, 7},
+        {"hidden under the run", [this] { panel->hide(), QCoreApplication::processEvents(); }, modalAborted},
+        {"stopped after a hide", [this] { panel->hide(), stopModalWithCode(5); }, 5},
+        {"shown again at once is not the end",
+         [this] { panel->hide(), panel->show(), QCoreApplication::processEvents(), stopModalWithCode(6); }, 6},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(runWhile(row.act), row.code);
+        EXPECT_EQ(modalWindow(), nullptr);
+    }
+}
+
+TEST_F(Modal, DeletedWidgetAborts)
+{
+    QTimer::singleShot(0, &carrier, [this] { delete panel; });
+    EXPECT_EQ(runModalForWindow(panel), modalAborted);
+}
+
+TEST_F(Modal, WidgetThatCannotBeSeenAborts)
+{
+    carrier.hide();
+    EXPECT_EQ(runModalForWindow(panel), modalAborted);
+    EXPECT_EQ(runModalForWindow(nullptr), modalAborted);
+}
+
+TEST_F(Modal, NothingToStop)
+{
+    stopModalWithCode(1);
+    EXPECT_EQ(runWhile([] {}), modalAborted);
+}
+
+TEST_F(Modal, ClicksReachOnlyTheWidget)
+{
+    QSignalSpy inside(button, &QPushButton::clicked);
+    QSignalSpy outside(outsideButton, &QPushButton::clicked);
+    QSignalSpy elsewhere(otherButton, &QPushButton::clicked);
+    runWhile([this] {
+        clickInWindow(*outsideButton);
+        clickInWindow(*outsideField);
+        clickInWindow(*otherButton);
+        QTest::mouseClick(outsideButton, Qt::LeftButton);
+        EXPECT_TRUE(field->hasFocus());
+        clickInWindow(*button);
+    });
+    EXPECT_EQ(outside.count() + elsewhere.count(), 0);
+    EXPECT_EQ(inside.count(), 1);
+    clickInWindow(*outsideButton);
+    EXPECT_EQ(outside.count(), 1) << "the filter must be gone after the run";
+}
+
+TEST_F(Modal, FocusTakenOutsideComesBackWithItsKeys)
+{
+    runWhile([this] {
+        outsideField->setFocus();
+        EXPECT_TRUE(field->hasFocus());
+        QTest::keyClicks(outsideField, QStringLiteral("12"));
+        QTest::keyClick(other.windowHandle(), Qt::Key_3);
+    });
+    EXPECT_EQ(field->text(), u"123");
+    EXPECT_EQ(outsideField->text(), QString());
+}
+
+TEST_F(Modal, MarkedWidgetsWork)
+{
+    QSignalSpy clicked(outsideButton, &QPushButton::clicked);
+    carrier.setProperty("worksWhenModal", true);
+    runWhile([this] { clickInWindow(*outsideButton); });
+    EXPECT_EQ(clicked.count(), 1);
+}
+
+TEST_F(Modal, CarrierScrolls)
+{
+    QScrollArea area(&carrier);
+    area.setGeometry(260, 100, 100, 100);
+    auto *content = new QWidget;
+    content->setFixedSize(50, 1000);
+    area.setWidget(content);
+    area.show();
+    runWhile([&area, content] {
+        const QWidget *top = content->window();
+        const QPointF at = content->mapTo(top, QPoint(5, 5));
+        QWheelEvent wheel(at, top->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel);
+        qApp->notify(top->windowHandle(), &wheel);
+        EXPECT_GT(area.verticalScrollBar()->value(), 0);
+        const int before = area.verticalScrollBar()->value();
+        const QScrollBar *bar = area.verticalScrollBar();
+        QTest::mouseClick(bar->window()->windowHandle(), Qt::LeftButton, {},
+                          bar->mapTo(bar->window(), QPoint(3, bar->height() - 25)));
+        EXPECT_GT(bar->value(), before);
+    });
+}
+
+TEST_F(Modal, NestedRunsEndInTurn)
+{
+    QWidget inner(&carrier, Qt::Window);
+    QLineEdit innerField(&inner);
+    qint64 innerCode = 0;
+    const qint64 code = runWhile([&] {
+        QTimer::singleShot(0, &inner, [&] {
+            EXPECT_EQ(modalWindow(), &inner);
+            QTest::keyClick(field, Qt::Key_7);
+            stopModalWithCode(11);
+        });
+        innerCode = runModalForWindow(&inner);
+        EXPECT_EQ(modalWindow(), panel);
+        inner.hide();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return field->hasFocus(); }));
+        stopModalWithCode(12);
+    });
+    EXPECT_EQ(innerCode, 11);
+    EXPECT_EQ(code, 12);
+    EXPECT_EQ(innerField.text(), u"7");
+    EXPECT_EQ(field->text(), QString());
+}
+
+TEST_F(Modal, OuterWidgetGoneWhileInnerRuns)
+{
+    QWidget inner;
+    EXPECT_EQ(runWhile([&] {
+                  QTimer::singleShot(0, &inner, [&] {
+                      delete panel;
+                      stopModalWithCode(3);
+                  });
+                  EXPECT_EQ(runModalForWindow(&inner), 3);
+              }),
+              modalAborted);
+}
+
+TEST_F(Modal, StopsFromInsideAnOpenMenu)
+{
+    QMenu menu;
+    menu.addAction(QStringLiteral("Item"));
+    EXPECT_EQ(runWhile([&] {
+                  QTimer::singleShot(0, &menu, [] { stopModalWithCode(4); });
+                  menu.exec(carrier.mapToGlobal(QPoint(10, 10)));
+              }),
+              4);
+    EXPECT_FALSE(menu.isVisible());
+}
+
+TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
+{
+    QObject::connect(field, &QLineEdit::returnPressed, panel, [] { stopModalWithCode(modalStopped); });
+    const auto type = [this](Qt::Key key) { QTest::keyClick(carrier.windowHandle(), key); };
+    EXPECT_EQ(runWhile([&] {
+                  for (const auto key : {Qt::Key_1, Qt::Key_Return, Qt::Key_2, Qt::Key_3, Qt::Key_Return, Qt::Key_4}) {
+                      type(key);
+                  }
+              }),
+              modalStopped);
+    EXPECT_EQ(field->text(), u"1");
+    field->clear();
+    EXPECT_EQ(runModalForWindow(panel), modalStopped);
+    EXPECT_EQ(field->text(), u"23");
+    field->clear();
+    EXPECT_EQ(runWhile([] {}), modalAborted);
+    EXPECT_EQ(field->text(), u"4");
+}
+
+TEST_F(Modal, ShortcutsOfAWindowWithoutTheFocusWork)
+{
+    QMenuBar bar(&carrier);
+    QMenu *menu = bar.addMenu(QStringLiteral("Menu"));
+    QAction *item = menu->addAction(QStringLiteral("Item"));
+    item->setShortcut(Qt::CTRL | Qt::Key_K);
+    item->setShortcutContext(Qt::ApplicationShortcut);
+    bar.show();
+    QSignalSpy triggered(item, &QAction::triggered);
+    runWhile([this] { QTest::keyClick(carrier.windowHandle(), Qt::Key_K, Qt::ControlModifier); });
+    EXPECT_EQ(triggered.count(), 1);
+}
+
+TEST_F(Modal, CloseRequests)
+{
+    const auto request = [](QWidget &window) {
+        QCloseEvent close;
+        return QTest::qWaitForWindowExposed(&window) &&
+               (QSpontaneKeyEvent::setSpontaneous(&close), qApp->notify(&window, &close)) && close.isAccepted();
+    };
+    Window first(QRectF(0, 0, 100, 100));
+    Window second(QRectF(0, 0, 100, 100));
+    panel->setParent(first.contentView());
+    EXPECT_FALSE(closeMeansQuit(&first)) << "no run";
+    first.show();
+    second.show();
+    runWhile([&] {
+        request(other);
+        EXPECT_TRUE(other.isVisible()) << "not a window of the runtime";
+        EXPECT_TRUE(closeMeansQuit(&first)) << "carries the panel";
+        EXPECT_FALSE(closeMeansQuit(&second));
+        first.hide();
+        EXPECT_TRUE(closeMeansQuit(&second)) << "the last one in sight";
+    });
+}
+
+} // namespace
