@@ -133,6 +133,7 @@ FloatingPanel::FloatingPanel(const QString &prompt, qint64 xPos, qint64 yPos)
         setWindowTitle(prompt);
         setAttribute(Qt::WA_TranslucentBackground);
     }
+    window()->installEventFilter(this);
     m_label = makeLabel(QString());
     m_label->setAccessibleName(prompt);
     adoptApplicationLook();
@@ -196,25 +197,18 @@ void FloatingPanel::setKeyReceiver(QWidget *receiver)
     receiver->setAccessibleDescription(newConsoleText(parentWidget()));
 }
 
-bool FloatingPanel::event(QEvent *event)
-{
-    const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange) {
-        adoptApplicationLook();
-        resize();
-    }
-    return handled;
-}
-
 bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == parentWidget()) {
-        if (event->type() == QEvent::Resize) {
-            resize();
-        } else if (event->type() == QEvent::ChildPolished) {
-            // The content got another view, made above the panel.
-            raise();
-        }
+    const QEvent::Type type = event->type();
+    if (watched == parentWidget() && type == QEvent::Resize) {
+        resize();
+    } else if (watched == parentWidget() && type == QEvent::ChildPolished) {
+        // The content got another view, made above the panel.
+        raise();
+    } else if (type == QEvent::ApplicationPaletteChange || type == QEvent::ApplicationFontChange) {
+        // Only windows are told.
+        adoptApplicationLook();
+        resize();
     }
     return QWidget::eventFilter(watched, event);
 }

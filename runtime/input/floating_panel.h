@@ -61,7 +61,6 @@ protected:
     virtual int minimumBodyWidth() const = 0;
     virtual int usableEntryWidth() const = 0;
 
-    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

@@ -1,0 +1,149 @@
+#include "panel_helper.h"
+
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "runtime/input/inkey_format.h"
+#include "runtime/input/inkey_window.h"
+#include "runtime/input/input_format.h"
+#include "runtime/input/key_input.h"
+#include "runtime/strings/not_given.h"
+
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QTimer>
+
+using namespace tetrad;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class KeyInput : public PanelTest
+{
+protected:
+    QString ask(const QString &characters, qint64 pass, qint64 caseOption, std::function<void(ZRInkeyWindow &)> user)
+    {
+        const WithPanel<ZRInkeyWindow> played(std::move(user));
+        const QString key = ZRInkey(10, 190, u"Key:"_s, characters, pass, caseOption);
+        EXPECT_EQ(CUI_AppDelegateObj()->inkeyWnd(), nullptr);
+        return key;
+    }
+    static void press(const QString &text)
+    {
+        EXPECT_EQ(QApplication::focusWidget(), modalWindow());
+        QTest::keyClicks(QApplication::focusWidget(), text);
+    }
+};
+
+struct KeyCase
+{
+    const char *shows;
+    QString characters;
+    qint64 pass;
+    qint64 caseOption;
+    QString refused; ///< pressed first; the panel must go on waiting
+    QString pressed;
+    QString expected;
+};
+
+class KeyFilter : public KeyInput, public testing::WithParamInterface<KeyCase>
+{};
+
+TEST_P(KeyFilter, takesTheFirstAcceptedKey)
+{
+    const KeyCase &row = GetParam();
+    CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
+    EXPECT_EQ(ask(row.characters, row.pass, row.caseOption,
+                  [&](ZRInkeyWindow &panel) {
+                      press(row.refused);
+                      EXPECT_EQ(modalWindow(), &panel);
+                      EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString(), u"before"_s);
+                      EXPECT_NE(panel.cursorTimer(), nullptr);
+                      press(row.pressed);
+                      EXPECT_EQ(panel.cursorTimer(), nullptr) << "the cursor still blinks";
+                  }),
+              row.expected);
+}
+
+const KeyCase keyCases[] = {
+    {"anyWithoutAFormat", QString(), notGiven, notGiven, u""_s, u"x"_s, u"x"_s},
+    {"listed", u"yn"_s, 1, notGiven, u"xY 1"_s, u"y"_s, u"y"_s},
+    {"notListed", u"yn"_s, 0, notGiven, u"yn"_s, u"Y"_s, u"Y"_s},
+    {"raisedBeforeTheList", u"Q"_s, 1, caseForceUpper, u"x"_s, u"q"_s, u"Q"_s},
+    {"loweredBeforeTheList", u"q"_s, 1, caseForceLower, u"x"_s, u"Q"_s, u"q"_s},
+    {"capitalIsLoweredOutOfItsList", u"Qa"_s, 1, caseForceLower, u"Qq"_s, u"A"_s, u"a"_s},
+};
+
+INSTANTIATE_TEST_SUITE_P(, KeyFilter, testing::ValuesIn(keyCases), [](const auto &row) { return row.param.shows; });
+
+TEST_F(KeyInput, escapeGivesNoKeyWithTheCodeOfAnAnswer)
+{
+    CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
+    const WithPanel<ZRInkeyWindow> played([](ZRInkeyWindow &panel) { QTest::keyClick(&panel, Qt::Key_Escape); });
+    ZRInkeyWindow panel(u""_s, notGiven, notGiven);
+    EXPECT_EQ(panel.run(), modalStopped);
+    EXPECT_TRUE(CUI_AppDelegateObj()->inkeyResponseString().isNull());
+}
+
+TEST_F(KeyInput, keysThatAreNoAnswerAreWaitedOver)
+{
+    const QString key = ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &panel) {
+        for (const Qt::Key silent : {Qt::Key_Shift, Qt::Key_Left, Qt::Key_F5}) {
+            QTest::keyClick(&panel, silent);
+        }
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+        QCoreApplication::sendEvent(&panel, &held);
+        EXPECT_EQ(modalWindow(), &panel);
+        QTest::keyClick(&panel, Qt::Key_Tab);
+    });
+    EXPECT_EQ(key, u"\t"_s);
+}
+
+TEST_F(KeyInput, composedKeysPassTheFilterToo)
+{
+    EXPECT_EQ(ask(u"é"_s, 1, notGiven,
+                  [](ZRInkeyWindow &panel) {
+                      for (const QString &composed : {u"è"_s, u"é"_s}) {
+                          QInputMethodEvent commit;
+                          commit.setCommitString(composed);
+                          QCoreApplication::sendEvent(&panel, &commit);
+                      }
+                  }),
+              u"é"_s);
+}
+
+TEST_F(KeyInput, theFormatPersistsUntilItIsRemoved)
+{
+    ask(u"y"_s, 1, notGiven, [](ZRInkeyWindow &) { press(u"y"_s); });
+    EXPECT_EQ(ask(u""_s, 0, notGiven, [](ZRInkeyWindow &) { press(u"ny"_s); }), u"y"_s);
+    EXPECT_EQ(ask(QString(), 0, notGiven, [](ZRInkeyWindow &) { press(u"n"_s); }), u"n"_s);
+}
+
+TEST_F(KeyInput, theCursorBlinksAndStandsAfterThePrompt)
+{
+    ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &panel) {
+        ASSERT_NE(panel.cursorTimer(), nullptr);
+        EXPECT_EQ(panel.cursorTimer()->interval(), 500);
+        EXPECT_TRUE(panel.cursorLabel()->isVisible());
+        const QPointer<QTimer> timer = panel.cursorTimer();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return panel.cursorLabel()->isHidden(); }));
+        panel.windowDidBecomeKey();
+        EXPECT_EQ(panel.cursorTimer(), timer) << "a second timer would toggle out of step";
+        EXPECT_GT(panel.cursorLabel()->x(), panel.promptLabel()->geometry().right());
+        press(u"k"_s);
+        EXPECT_EQ(timer, nullptr);
+    });
+}
+
+TEST_F(KeyInput, withoutAPromptItIsFortyWideAtLeast)
+{
+    const ZRInkeyWindow panel(u""_s, 10, 190);
+    EXPECT_EQ(panel.bodyRect(), QRect(10, 154, 40, 36));
+}
+
+TEST_F(KeyInput, aWindowDeletedUnderTheRunGivesNone)
+{
+    EXPECT_TRUE(ask(QString(), notGiven, notGiven, [&](ZRInkeyWindow &) { delete host; }).isNull());
+}
+
+} // namespace

@@ -1,0 +1,142 @@
+#include "panel_helper.h"
+
+#include "runtime/input/line_input_window.h"
+#include "runtime/strings/not_given.h"
+
+#include <QAccessible>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace tetrad;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Stands in for the console's view, which is known by its slot alone.
+class Console : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+    Q_INVOKABLE QString takeNewText() { return std::exchange(m_new, QString()); }
+
+private:
+    QString m_new = u"Level: Easy"_s;
+};
+
+class Panel : public PanelTest
+{
+protected:
+    static QRect bodyOf(qint64 x, qint64 y) { return ZRInputWindow(u"Prompt:"_s, x, y).bodyRect(); }
+    void resizeContent(int width, int height)
+    {
+        host->contentView()->resize(width, height);
+        QCoreApplication::processEvents();
+    }
+};
+
+TEST_F(Panel, standsOverTheContent)
+{
+    const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
+    EXPECT_EQ(panel.parentWidget(), host->contentView());
+    EXPECT_EQ(panel.bodyRect().topLeft(), QPoint(10, 154));
+    EXPECT_EQ(panel.bodyRect().height(), 36);
+    EXPECT_TRUE(panel.canBecomeKeyWindow());
+    const int middle = (host->contentView()->height() - 36) / 2;
+    EXPECT_EQ(bodyOf(notGiven, notGiven).topLeft(), QPoint(20, middle));
+}
+
+TEST_F(Panel, growsWithTheTextUntilTheEdgeWhereTheFieldScrolls)
+{
+    const ZRInputWindow panel(u""_s, 10, 190);
+    EXPECT_EQ(panel.bodyRect().width(), 110);
+    panel.field()->setText(QString(30, u'0'));
+    const int grown = panel.field()->fontMetrics().horizontalAdvance(QString(30, u'0')) + 25;
+    EXPECT_EQ(panel.bodyRect().width(), grown);
+    panel.field()->setText(QString(200'000, u'0'));
+    EXPECT_EQ(panel.bodyRect().right(), host->contentView()->rect().right());
+    panel.field()->setText(QString());
+    EXPECT_EQ(panel.bodyRect().width(), 110);
+}
+
+TEST_F(Panel, textFitsItsLine)
+{
+    const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
+    EXPECT_EQ(panel.field()->height(), 16);
+    EXPECT_LE(QFontMetrics(panel.field()->font()).height(), 16);
+    EXPECT_EQ(panel.label()->font(), panel.field()->font());
+}
+
+TEST_F(Panel, aSmallerWindowPushesItInAndALargerOneRestoresIt)
+{
+    const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
+    const QRect before = panel.bodyRect();
+    resizeContent(150, 100);
+    EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
+    resizeContent(580, 250);
+    EXPECT_EQ(panel.bodyRect(), before);
+}
+
+TEST_F(Panel, isDraggedWithinTheContentByItsBackground)
+{
+    ZRInputWindow panel(u""_s, 10, 190);
+    panel.show();
+    const QPoint grip(80, 30);
+    QTest::mousePress(&panel, Qt::LeftButton, {}, grip);
+    const auto dragTo = [&](QPoint shift) {
+        const QPointF at = panel.mapFromGlobal(host->contentView()->mapToGlobal(QPoint(100, 154)) + shift);
+        QMouseEvent move(QEvent::MouseMove, at, panel.mapToGlobal(at), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&panel, &move);
+    };
+    dragTo(QPoint(0, 0));
+    const QPoint start = panel.bodyRect().topLeft();
+    dragTo(QPoint(40, -30));
+    EXPECT_EQ(panel.bodyRect().topLeft(), start + QPoint(40, -30));
+    dragTo(QPoint(9000, 9000));
+    EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
+    panel.center();
+    EXPECT_EQ(panel.bodyRect().topLeft(), QPoint(10, 154));
+}
+
+TEST_F(Panel, aPromptTooLongIsElidedAndStaysReadable)
+{
+    const QString prompt = u"Very long prompt, "_s.repeated(30);
+    const ZRInputWindow panel(prompt, 10, 190);
+    EXPECT_TRUE(panel.label()->text().contains(u'\u2026'));
+    EXPECT_EQ(panel.label()->toolTip(), prompt);
+    EXPECT_EQ(panel.field()->accessibleName(), prompt);
+    EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
+}
+
+TEST_F(Panel, isNamedByItsPromptAndDescribedByWhatIsNew)
+{
+    const Console console(host->contentView());
+    EXPECT_EQ(ZRInputWindow(u"Enter:"_s, 10, 190).field()->accessibleDescription(), u"Level: Easy"_s);
+    const ZRInputWindow second(u""_s, 10, 190);
+    EXPECT_EQ(second.field()->accessibleDescription(), QString());
+    EXPECT_EQ(second.field()->accessibleName(), u"Input"_s);
+}
+
+TEST_F(Panel, takesTheApplicationsColoursWhateverTheContentHas)
+{
+    QPalette odd;
+    odd.setColor(QPalette::WindowText, Qt::magenta);
+    host->contentView()->setPalette(odd);
+    const ZRInputWindow panel(u"Enter:"_s, 10, 190);
+    const QPalette before = QApplication::palette();
+    EXPECT_EQ(panel.label()->palette().color(QPalette::WindowText), before.color(QPalette::WindowText));
+
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(panel.label()->palette().color(QPalette::WindowText), QColor(Qt::white));
+    EXPECT_EQ(panel.field()->palette().color(QPalette::Text), QColor(Qt::white));
+    QApplication::setPalette(before);
+}
+
+} // namespace
+
+#include "panel_test.moc"
