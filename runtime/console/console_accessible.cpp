@@ -145,15 +145,35 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     return view ? new ConsoleAccessible(view) : nullptr;
 }
 
+/// Asked for every printed line, so the answer is kept.
+struct Listening : QAccessible::ActivationObserver
+{
+    bool active = QAccessible::isActive();
+
+    void accessibilityActiveChanged(bool nowActive) override { active = nowActive; }
+};
+
+Listening &listening()
+{
+    static Listening observer;
+    return observer;
+}
+
 } // namespace
 
 void installConsoleAccessibility()
 {
     static const bool once = [] {
         QAccessible::installFactory(makeInterface);
+        QAccessible::installActivationObserver(&listening());
         return true;
     }();
     Q_UNUSED(once);
+}
+
+bool assistiveTechnologyListens()
+{
+    return listening().active;
 }
 
 void announceInsertion(CUI_PrintToWindowView *view)
@@ -174,9 +194,6 @@ void announceRemoval(CUI_PrintToWindowView *view, const QString &removed)
 
 void announceSelection(CUI_PrintToWindowView *view)
 {
-    if (!QAccessible::isActive()) {
-        return;
-    }
     const ConsoleReader &reader = view->reader();
     QAccessibleTextSelectionEvent event(view, static_cast<int>(reader.selectionStart()),
                                         static_cast<int>(reader.selectionEnd()));

@@ -10,7 +10,10 @@ class CUI_PrintToWindowView;
 /// has an effect.
 void installConsoleAccessibility();
 
-// What an assistive technology is told; each does nothing while none listens.
+/// Whether an assistive technology wants to know what changes.
+bool assistiveTechnologyListens();
+
+// What a listening assistive technology is told.
 
 /// The text grew by what was printed since the last announcement.
 void announceInsertion(CUI_PrintToWindowView *view);

@@ -19,7 +19,7 @@ struct LineStyle
     /// 1 round, 2 square; 0 leaves the default, which ends flush with the line's end.
     quint32 capStyle = 0;
     /// Lengths drawn and left out in turn; empty: solid.
-    QList<double> dashPattern;
+    QList<double> dashPattern = {};
     double dashPhase = 0;
     /// Invalid: black.
     QColor strokeColor = Qt::black;

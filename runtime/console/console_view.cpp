@@ -5,7 +5,6 @@
 #include "runtime/console/console_selection.h"
 #include "runtime/console/text_layout.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QEvent>
@@ -90,7 +89,9 @@ QPointF CUI_PrintToWindowView::addString(const QString &string)
     }
     addPiece(text.mid(start).toString(), true);
     fixFrameHeight(m_currentPoint.y() + m_attributes.facts().lineHeight);
-    announceGrowth();
+    if (assistiveTechnologyListens()) {
+        announceInsertion(this);
+    }
     return m_currentPoint;
 }
 
@@ -179,8 +180,7 @@ void CUI_PrintToWindowView::resetAttributes()
 
 void CUI_PrintToWindowView::clear()
 {
-    const qsizetype oldLength = QAccessible::isActive() ? m_reader.text().text().size() : 0;
-    const QString removed = oldLength > 0 ? m_reader.text().text() : QString();
+    const QString removed = assistiveTechnologyListens() ? m_reader.text().text() : QString();
     m_items.clear();
     m_itemPainter.forget();
     m_reader.clear();
@@ -193,7 +193,7 @@ void CUI_PrintToWindowView::clear()
     const QWidget *content = m_scrollView ? m_scrollView->parentWidget() : nullptr;
     resize(content ? content->width() : width(), 1);
     update();
-    if (oldLength > 0) {
+    if (!removed.isEmpty()) {
         announceRemoval(this, removed);
     }
 }
@@ -320,13 +320,6 @@ QPointF CUI_PrintToWindowView::mirrored(QPointF point) const
     return m_flipView ? point : QPointF(point.x(), m_documentHeight - point.y());
 }
 
-void CUI_PrintToWindowView::announceGrowth()
-{
-    if (QAccessible::isActive()) {
-        announceInsertion(this);
-    }
-}
-
 QString CUI_PrintToWindowView::takeNewText()
 {
     return m_reader.takeNew();
@@ -337,7 +330,9 @@ void CUI_PrintToWindowView::select(qsizetype anchor, qsizetype caret)
     m_reader.select(anchor, caret);
     scrollTo(m_reader.characterRect(m_reader.caret()));
     update();
-    announceSelection(this);
+    if (assistiveTechnologyListens()) {
+        announceSelection(this);
+    }
 }
 
 void CUI_PrintToWindowView::scrollTo(const QRectF &rect)

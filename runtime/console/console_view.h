@@ -173,7 +173,6 @@ private:
     void append(DisplayList::Entry entry, const QRectF &ink);
     void scheduleRefresh();
     void refresh();
-    void announceGrowth();
 
     QPointer<CUI_PrintToWindowScrollView> m_scrollView;
     ConsoleSelection *m_selection = nullptr; ///< A child of this.

@@ -86,7 +86,7 @@ QFont drawnFont(const FontChoice &choice)
     return font;
 }
 
-double naturalWidth(const QString &text, const QFont &font)
+double advanceOf(const QString &text, const QFont &font)
 {
     QTextLayout layout(text, font);
     QTextOption option;
@@ -96,7 +96,7 @@ double naturalWidth(const QString &text, const QFont &font)
     layout.beginLayout();
     QTextLine line = layout.createLine();
     layout.endLayout();
-    return line.naturalTextWidth();
+    return line.horizontalAdvance();
 }
 
 double plainAdvance(const QFont &font)
@@ -108,9 +108,9 @@ double plainAdvance(const QFont &font)
     for (char16_t c = 0x20; c < 0x7F; ++c) {
         printable += QChar(c);
     }
-    const double advance = naturalWidth(QStringLiteral("0"), font);
+    const double advance = advanceOf(QStringLiteral("0"), font);
     for (const QString &text : {printable, QString(1000, u' '), QStringLiteral("fi -> != =="), QStringLiteral("W")}) {
-        if (naturalWidth(text, font) != static_cast<double>(text.size()) * advance) {
+        if (advanceOf(text, font) != static_cast<double>(text.size()) * advance) {
             return 0;
         }
     }

@@ -73,9 +73,10 @@ double widestLine(const QTextLayout &layout)
 {
     double width = 0;
     for (int i = 0; i < layout.lineCount(); ++i) {
-        width = std::max(width, layout.lineAt(i).naturalTextWidth());
+        width = std::max(width, layout.lineAt(i).horizontalAdvance());
     }
-    return width;
+    // A blank that hangs over the end of a full line does not count.
+    return std::min(width, measuringLimit);
 }
 
 QRectF boxInk(double width, const FontFacts &facts)

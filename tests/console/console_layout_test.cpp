@@ -1,0 +1,163 @@
+#include "tests/console/printing.h"
+
+#include <QCoreApplication>
+#include <QTextLayout>
+
+namespace tetrad {
+namespace {
+
+struct PrintCase
+{
+    const char *name;
+    QString printed;
+    const char *items; ///< as Console::items gives them
+    double endColumn;
+    double endLine;
+};
+
+class Printing : public Console, public testing::WithParamInterface<PrintCase>
+{};
+
+TEST_P(Printing, placesOnePieceAfterTheOther)
+{
+    const PrintCase &test = GetParam();
+    const QPointF end = view.addString(test.printed);
+    EXPECT_EQ(items(), QString::fromUtf8(test.items));
+    EXPECT_DOUBLE_EQ(end.x(), 3 + test.endColumn * advance);
+    EXPECT_DOUBLE_EQ(end.y(), test.endLine * lineHeight);
+    EXPECT_EQ(view.currentPoint(), end);
+    EXPECT_DOUBLE_EQ(view.viewH(), (test.endLine + 1) * lineHeight + 20);
+    EXPECT_DOUBLE_EQ(view.documentSize().height(), view.viewH());
+}
+
+INSTANTIATE_TEST_SUITE_P(Console, Printing,
+                         testing::Values(PrintCase{"line", u"abc"_qs, "abc@3,0 @3,1", 0, 1},
+                                         PrintCase{"nothingIsAnEmptyLine", u""_qs, "@3,0 @3,1", 0, 1},
+                                         PrintCase{"backspaceStaysOnTheLine", u"abc\b"_qs, "abc\b@3,0", 3, 0},
+                                         PrintCase{"newlineInside", u"a\nb"_qs, "a@3,0 b@3,1 @3,2", 0, 2},
+                                         PrintCase{"ownNewlineAndOneMore", u"a\n"_qs, "a@3,0 @3,1 @3,2", 0, 2},
+                                         PrintCase{"everyNewline", u"1\n2\v3\f4\r5\u00856\u20287\u20298"_qs,
+                                                   "1@3,0 2@3,1 3@3,2 4@3,3 5@3,4 6@3,5 7@3,6 8@3,7 @3,8", 0, 8},
+                                         PrintCase{"otherControlsHaveNoWidth", u"\x01\x02z\u007f\u0090\b"_qs,
+                                                   "\x01\x02z\x7f\xc2\x90\b@3,0", 1, 0},
+                                         PrintCase{"blanksAtTheEndCount", u"a  \b"_qs, "a  \b@3,0", 3, 0}),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(Console, aTabGoesToTheNextMultipleOfItsInterval)
+{
+    view.setTabInterval(50);
+    EXPECT_DOUBLE_EQ(view.addString(u"abc\t"_qs).x(), 3 + 50);
+    EXPECT_DOUBLE_EQ(view.addString(u"12345678\t"_qs).x(), 3 + 50 + 100);
+    EXPECT_EQ(view.currentPoint().y(), 0);
+    view.setTabInterval(0);
+    EXPECT_DOUBLE_EQ(view.addString(u"\t"_qs).x(), 3 + 50 + 100);
+}
+
+TEST_F(Console, alignmentUsesTheWidthOfTheViewButTheCurrentPointMovesOn)
+{
+    const auto placed = [this](qint64 alignment) {
+        view.setCurrentPoint({7, 0});
+        view.setAlignment(alignment);
+        view.addString(u"abcd\b"_qs);
+        EXPECT_DOUBLE_EQ(view.currentPoint().x(), 7 + 4 * advance);
+        return view.items().item(view.items().size() - 1).pt().x();
+    };
+    EXPECT_DOUBLE_EQ(placed(0), 7);
+    EXPECT_DOUBLE_EQ(placed(1), (400 - 4 * advance) / 2);
+    EXPECT_DOUBLE_EQ(placed(2), 400 - 4 * advance);
+    EXPECT_DOUBLE_EQ(placed(3), 7);
+}
+
+TEST_F(Console, aCellHasNoInset)
+{
+    view.setColumnRow(4, 30);
+    EXPECT_EQ(view.currentPoint(), QPointF(4 * advance, 30 * lineHeight));
+    EXPECT_DOUBLE_EQ(view.viewH(), 30 * lineHeight + 20);
+}
+
+TEST_F(Console, theDocumentOnlyGrows)
+{
+    view.fixFrameHeight(100);
+    EXPECT_EQ(view.viewH(), 120);
+    view.fixFrameHeight(119.5);
+    EXPECT_EQ(view.viewH(), 120);
+    view.fixFrameHeight(120);
+    EXPECT_EQ(view.viewH(), 140);
+    view.fixFrameHeight(qQNaN());
+    EXPECT_EQ(view.viewH(), 140);
+    QCoreApplication::sendPostedEvents(&view);
+    EXPECT_EQ(view.height(), 140);
+    view.setViewH(0);
+    view.fixFrameHeight(10);
+    EXPECT_EQ(view.viewH(), 30);
+    EXPECT_EQ(view.documentSize().height(), 140);
+}
+
+TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
+{
+    view.setForegroundColor(Qt::green);
+    view.setFontSize(18);
+    view.setAlignment(2);
+    view.setCurrentLineWidth(4);
+    view.setTextInset(5);
+    view.addString(u"abc"_qs, {50, 500});
+    EXPECT_EQ(view.textString(), u"abc\n"_qs);
+    view.clear();
+    EXPECT_EQ(view.items().size(), 0U);
+    EXPECT_TRUE(view.textString().isNull());
+    EXPECT_EQ(view.viewH(), 0);
+    EXPECT_EQ(view.documentSize().height(), 1.0);
+    EXPECT_EQ(view.height(), 1);
+    EXPECT_EQ(view.currentPoint(), QPointF(5, 0));
+    view.addString(u"x\b"_qs);
+    EXPECT_TRUE(view.dump().endsWith(u"\"x\\x08\" size 18 color #00ff00\n"_qs)) << view.dump().toStdString();
+    EXPECT_EQ(view.currentAlignment(), 2);
+    EXPECT_EQ(view.currentLineWidth(), 4);
+    view.resetAttributes();
+    EXPECT_EQ(view.currentAlignment(), 0);
+    view.addString(u"y\b"_qs, {1, 2});
+    EXPECT_TRUE(view.dump().endsWith(u"text (1,2) \"y\\x08\" size 12 color standard\n"_qs));
+}
+
+TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
+{
+    view.addString(u"a\b"_qs);
+    view.setAttributes({{u"backgroundColor"_qs, QColor(Qt::blue)}, {u"mood"_qs, 7}});
+    view.setFontName(u"No Such Family"_qs);
+    view.setFontSize(-1);
+    const QVariantMap now = view.currentAttributes();
+    EXPECT_EQ(now.value(u"mood"_qs), 7);
+    EXPECT_EQ(now.value(u"font"_qs).value<QFont>().family(), u"Menlo"_qs);
+    EXPECT_EQ(now.value(u"font"_qs).value<QFont>().pixelSize(), 12);
+    EXPECT_EQ(now.value(u"paragraphStyle"_qs).value<ParagraphStyle>(), ParagraphStyle());
+    EXPECT_FALSE(view.items().item(0).attributes().backgroundColor().isValid());
+}
+
+TEST(Measuring, agreesWithLayingOut)
+{
+    for (const double size : {9.0, 12.0, 12.5, 18.0}) {
+        TextAttributes attributes;
+        attributes.setFontSize(size);
+        for (const QString &text : {u"1-3/4"_qs, u" 24 "_qs, u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_qs}) {
+            QTextLayout layout(text, attributes.facts().font);
+            layout.beginLayout();
+            QTextLine line = layout.createLine();
+            line.setLineWidth(9000);
+            layout.endLayout();
+            const double trailing = line.cursorToX(static_cast<int>(text.size()));
+            EXPECT_DOUBLE_EQ(measureText(text, attributes).width, trailing) << size << text.toStdString();
+        }
+    }
+}
+
+TEST(Measuring, theBoundingRectangleIsNotWiderThanTheLimit)
+{
+    for (const QString &text : {QString(5000, u'x'), QString(5000, u'\u00e9'), u"ab "_qs.repeated(3000)}) {
+        const double width = measureText(text, TextAttributes()).width;
+        EXPECT_LE(width, 10000);
+        EXPECT_GT(width, 9900);
+    }
+}
+
+} // namespace
+} // namespace tetrad

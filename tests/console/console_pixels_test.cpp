@@ -1,0 +1,217 @@
+#include "runtime/console/emoji_runs.h"
+#include "tests/console/printing.h"
+
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QRandomGenerator>
+#include <QRawFont>
+
+namespace tetrad {
+namespace {
+
+struct EmojiCase
+{
+    const char *name;
+    QString text;
+    QList<TextRun> runs;
+};
+
+void PrintTo(const EmojiCase &test, std::ostream *out)
+{
+    *out << test.name;
+}
+
+class Emoji : public testing::TestWithParam<EmojiCase>
+{};
+
+TEST_P(Emoji, areFoundInTheText)
+{
+    EXPECT_EQ(emojiRuns(GetParam().text), GetParam().runs);
+}
+
+INSTANTIATE_TEST_SUITE_P(Console, Emoji,
+                         testing::Values(EmojiCase{"digitsNever", u"0123456789#*+-/() 1\ufe0f"_qs, {}},
+                                         EmojiCase{"whiteCircle", u"\u26aa Easy"_qs, {{0, 1}}},
+                                         EmojiCase{"levelLabel", u"a 🔴 🔴 Medium"_qs, {{2, 2}, {5, 2}}},
+                                         EmojiCase{"neighboursAreOneRun", u"🟡🟡"_qs, {{0, 4}}},
+                                         EmojiCase{"selectorMakesOne", u"x\u2764\ufe0fy"_qs, {{1, 2}}},
+                                         EmojiCase{"withoutSelectorAText", u"\u2764"_qs, {}},
+                                         EmojiCase{"textSelectorUnmakesOne", u"\u26aa\ufe0e"_qs, {}},
+                                         EmojiCase{"skinToneAndJoiner", u"👩🏽\u200d🚀!"_qs, {{0, 7}}},
+                                         EmojiCase{"loneSurrogate", QString(QChar(0xD83D)) + QChar(u'a'), {}}),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST(Fonts, emojiAreSetInTheColourFontAndNothingElse)
+{
+    if (!QFontDatabase::hasFamily(u"Noto Color Emoji"_qs)) {
+        GTEST_SKIP() << "install fonts-noto-color-emoji";
+    }
+    const ShapedText label(u"\u26aa 0123456789"_qs, TextAttributes());
+    QMap<QString, qsizetype> glyphs;
+    for (const QGlyphRun &run : label.glyphRuns()) {
+        glyphs[run.rawFont().familyName()] += run.glyphIndexes().size();
+    }
+    const QString textFamily = QRawFont::fromFont(TextAttributes().facts().font).familyName();
+    EXPECT_EQ(glyphs, (QMap<QString, qsizetype>{{u"Noto Color Emoji"_qs, 1}, {textFamily, 11}}));
+}
+
+TEST_F(Console, anEmojiIsDrawnInColour)
+{
+    view.setForegroundColor(Qt::black);
+    view.addString(u"🔴"_qs, {10, 10});
+    const QImage image = picture(1);
+    int red = 0;
+    for (int x = 0; x < 40; ++x) {
+        for (int y = 0; y < 40; ++y) {
+            red += image.pixelColor(x, y).hsvSaturation() > 100;
+        }
+    }
+    EXPECT_GT(red, 20);
+}
+
+class Scaled : public Console, public testing::WithParamInterface<double>
+{};
+
+TEST_P(Scaled, aFilledRectangleHidesWhatIsUnderIt)
+{
+    view.setBackgroundColor(Qt::black);
+    view.setForegroundColor(Qt::red);
+    view.addRect({0, 0, 400, 300}, Qt::black, Qt::black);
+    const QImage before = picture(GetParam());
+    view.setBackgroundColor(QColor());
+    view.addString(u"Number of digits was not 4: |gjpqy_[]{}"_qs, {10, 200});
+    EXPECT_NE(picture(GetParam()), before);
+    view.addRect({10, 200, 400, 15}, Qt::black, Qt::black);
+    EXPECT_EQ(picture(GetParam()), before);
+}
+
+TEST_P(Scaled, rowsTouchWithoutSeamOrOverlap)
+{
+    view.setBackgroundColor(QColor(0, 0, 255, 128));
+    view.setForegroundColor(Qt::transparent);
+    for (int row = 0; row < 12; ++row) {
+        view.addString(u"xxxxxxxxxxxx"_qs);
+    }
+    const QImage image = picture(GetParam());
+    const int x = qRound(20 * GetParam());
+    for (int y = 0; y < qFloor(12 * lineHeight * GetParam()); ++y) {
+        EXPECT_EQ(image.pixelColor(x, y), image.pixelColor(x, 0)) << y;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Console, Scaled, testing::Values(1, 1.25, 1.5, 2));
+
+/// Operations at random places, colours, sizes, widths and alignments, many on top of each other.
+void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int count, int height)
+{
+    const auto place = [&] {
+        return QPointF(random.bounded(440) - 20 + random.generateDouble(), random.bounded(height));
+    };
+    const auto rect = [&] {
+        const int tall = random.bounded(20) == 0 ? height : 40;
+        return QRectF(place(), QSizeF(random.bounded(120) - 20, random.bounded(tall) - 5));
+    };
+    const auto color = [&] {
+        return random.bounded(4) == 0 ? QColor() : QColor::fromRgba(random.generate() | 0x40000000);
+    };
+    const QStringList texts{u"Make 24"_qs,
+                            u"gjpqy ÅÉ"_qs,
+                            u"🔴 Medium\b"_qs,
+                            u"a\tb\t"_qs,
+                            u"שלום 12"_qs,
+                            u"two\nlines"_qs,
+                            u"e\u0301\u0302\u0303\u0304"_qs,
+                            u""_qs};
+    for (int i = 0; i < count; ++i) {
+        view.setCurrentLineWidth(random.bounded(12) - 2 + random.bounded(2) * 0.5);
+        view.setCurrentLineCapStyle(random.bounded(4));
+        view.setCurrentLineDashPattern(random.bounded(3) == 0 ? QList<double>{6, 3, 1} : QList<double>());
+        view.setCurrentStrokeColor(color());
+        view.setForegroundColor(color());
+        view.setBackgroundColor(color());
+        view.setAlignment(random.bounded(4));
+        switch (random.bounded(8)) {
+        case 0:
+            view.addRect(rect(), color(), color());
+            break;
+        case 1:
+            view.addOval(rect(), color(), color());
+            break;
+        case 2:
+            view.addLines({place(), place()}, random.bounded(2) == 0);
+            break;
+        case 3:
+            view.setFontSize(6 + random.bounded(30));
+            break;
+        default:
+            view.addString(texts.at(random.bounded(static_cast<int>(texts.size()))), place());
+        }
+    }
+}
+
+/// Draws every item of a view's list, wherever it is.
+class WholeList : public QWidget
+{
+public:
+    explicit WholeList(const CUI_PrintToWindowView &view) : m_view(view) { resize(view.size()); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const ItemPainter::Canvas canvas{painter, m_view.palette().color(QPalette::WindowText), !m_view.flipView(),
+                                         m_view.documentSize().height()};
+        ItemPainter itemPainter;
+        for (quint32 i = 0; i < m_view.items().size(); ++i) {
+            itemPainter.draw(canvas, m_view.items(), i);
+        }
+    }
+
+private:
+    const CUI_PrintToWindowView &m_view;
+};
+
+QImage partOf(QWidget &widget, const QRect &seen, double scale)
+{
+    QImage image(seen.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    widget.render(&painter, QPoint(), seen, QWidget::RenderFlags());
+    return image;
+}
+
+TEST(Culling, changesNoPixel)
+{
+    constexpr int height = 3000;
+    QRandomGenerator random(20260101);
+    for (int round = 0; round < 6; ++round) {
+        CUI_PrintToWindowView view({0, 0, 400, 1});
+        view.setFlipView(round % 3 != 2);
+        printAtRandom(view, random, 400, height);
+        QCoreApplication::sendPostedEvents(&view);
+        WholeList whole(view);
+        for (int part = 0; part < 8; ++part) {
+            const double scale = part % 2 == 0 ? 1 : 1.5;
+            const QRect seen(random.bounded(100), random.bounded(height), 200 + random.bounded(200),
+                             1 + random.bounded(250));
+            EXPECT_EQ(partOf(view, seen, scale), partOf(whole, seen, scale)) << "round " << round << " part " << part;
+        }
+    }
+}
+
+TEST(Culling, looksAtNoMoreThanWhatIsNear)
+{
+    CUI_PrintToWindowView view({0, 0, 400, 1});
+    for (int i = 0; i < 20000; ++i) {
+        view.addString(u"line"_qs);
+    }
+    view.addRect({0, 0, 10, 200000}, Qt::black, QColor());
+    const double middle = view.documentSize().height() / 2;
+    const auto near = view.items().itemsIn(middle, middle + 250);
+    EXPECT_EQ(near.back(), view.items().size() - 1) << "the tall one is near everywhere";
+    EXPECT_LT(near.size(), 60U);
+}
+
+} // namespace
+} // namespace tetrad

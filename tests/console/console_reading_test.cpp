@@ -1,0 +1,159 @@
+#include "runtime/console/console_scroll_view.h"
+#include "tests/console/printing.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+
+namespace tetrad {
+namespace {
+
+TEST_F(Console, readsAsOneText)
+{
+    view.addString(u"Numbers:\b"_qs);
+    view.addString(u" 1\b"_qs);
+    view.addString(u" 3\b"_qs);
+    view.addString(u""_qs);
+    view.addRect({0, 0, 9, 9}, Qt::black, QColor());
+    view.addString(u"left\b"_qs, {3, 100});
+    view.addString(u"right\b"_qs, {200, 100});
+    view.addString(u"below\tit"_qs, {3, 150});
+    EXPECT_EQ(view.reader().text().text(), u"Numbers: 1 3\nleft right\nbelow it\n"_qs);
+    EXPECT_EQ(view.takeNewText(), u"Numbers: 1 3\nleft right\nbelow it"_qs);
+    EXPECT_EQ(view.takeNewText(), QString());
+    view.addString(u"\nnews"_qs);
+    EXPECT_EQ(view.takeNewText(), u"news"_qs);
+    view.clear();
+    view.addString(u"again"_qs);
+    EXPECT_EQ(view.takeNewText(), u"again"_qs);
+}
+
+/// The events themselves need a platform with an accessibility bridge; here it shows that they are due and when.
+TEST_F(Console, announcesWhatIsPrintedOnlyToAListeningAssistiveTechnology)
+{
+    view.addString(u"one\b"_qs);
+    EXPECT_EQ(view.reader().takeUnannounced(), u"one"_qs);
+    view.addString(u" two"_qs);
+    QAccessible::setActive(true);
+    view.addString(u"three"_qs);
+    EXPECT_EQ(view.reader().takeUnannounced(), QString()) << "announced with what was printed before";
+    QAccessible::setActive(false);
+    view.clear();
+    view.addString(u"four"_qs);
+    EXPECT_EQ(view.reader().takeUnannounced(), u"four\n"_qs);
+}
+
+/// A console in a window beside a field, with more lines than fit.
+class ReadConsole : public testing::Test
+{
+protected:
+    QWidget window;
+    CUI_PrintToWindowScrollView *scrollView = nullptr;
+    CUI_PrintToWindowView *view = nullptr;
+    QLineEdit *field = nullptr;
+
+    void SetUp() override
+    {
+        window.resize(400, 200);
+        scrollView = new CUI_PrintToWindowScrollView(&window);
+        view = CUI_PrintToWindowView::viewWithFrame({0, 0, 400, 1});
+        scrollView->setDocumentView(view);
+        view->setScrollView(scrollView);
+        field = new QLineEdit(&window);
+        for (int i = 0; i < 100; ++i) {
+            view->addString(QString::number(i));
+        }
+        window.show();
+        window.activateWindow();
+        field->setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return field->hasFocus(); }));
+        QCoreApplication::processEvents();
+    }
+
+    int scrolled() const { return scrollView->verticalScrollBar()->value(); }
+    int end() const { return scrollView->verticalScrollBar()->maximum(); }
+};
+
+TEST_F(ReadConsole, isAReadOnlyTerminalToAssistiveTechnology)
+{
+    QAccessibleInterface *console = QAccessible::queryAccessibleInterface(view);
+    ASSERT_NE(console, nullptr);
+    EXPECT_EQ(console->role(), QAccessible::Terminal);
+    EXPECT_FALSE(console->text(QAccessible::Name).isEmpty());
+    EXPECT_TRUE(console->state().readOnly && console->state().multiLine && console->state().focusable);
+    QAccessibleTextInterface *text = console->textInterface();
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->characterCount(), 10 * 2 + 90 * 3);
+    EXPECT_EQ(text->text(18, 23), u"9\n10\n"_qs);
+    int start = 0;
+    int stop = 0;
+    EXPECT_EQ(text->textAtOffset(21, QAccessible::LineBoundary, &start, &stop), u"10\n"_qs);
+    EXPECT_TRUE(text->attributes(21, &start, &stop).contains(u"font-family:\"Menlo\""_qs));
+    const QRect zero = text->characterRect(21);
+    EXPECT_NEAR(text->characterRect(20).right(), zero.left(), 1);
+    EXPECT_EQ(text->characterRect(20).top(), zero.top());
+    EXPECT_EQ(text->offsetAtPoint(zero.center()), 21);
+    EXPECT_EQ(text->offsetAtPoint(zero.center() + QPoint(100, 0)), -1);
+    text->scrollToSubstring(text->characterCount() - 3, text->characterCount());
+    EXPECT_GT(scrolled(), 1000);
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(278).center()), 278);
+}
+
+TEST_F(ReadConsole, isReadByKeyboardAndGivesTheFocusBackWhenOneTypes)
+{
+    EXPECT_EQ(view->focusPolicy(), Qt::NoFocus);
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_End);
+    EXPECT_GT(scrolled(), end() - 40);
+    const int bottom = scrolled();
+    QTest::keyClick(view, Qt::Key_PageUp);
+    QTest::keyClick(view, Qt::Key_PageUp);
+    EXPECT_LT(scrolled(), bottom - 100);
+    QTest::keyClick(view, Qt::Key_Home);
+    EXPECT_EQ(scrolled(), 0);
+    EXPECT_FALSE(view->canCopy());
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"0\n1"_qs);
+    QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(view->reader().selectedText(), view->reader().text().text());
+    EXPECT_TRUE(view->hasFocus());
+    QTest::keyClick(view, '7');
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_EQ(field->text(), u"7"_qs);
+}
+
+TEST_F(ReadConsole, isSelectedByDragging)
+{
+    const QRect first = view->reader().characterRect(0).toAlignedRect();
+    QTest::mouseClick(view, Qt::LeftButton, {}, first.center());
+    EXPECT_TRUE(field->hasFocus()) << "a click leaves the focus where it is";
+    QTest::mousePress(view, Qt::LeftButton, {}, first.topLeft() + QPoint(1, 3));
+    QTest::mouseMove(view, view->reader().characterRect(20).toAlignedRect().topRight() + QPoint(3, 3));
+    QTest::mouseRelease(view, Qt::LeftButton, {}, view->reader().characterRect(21).toAlignedRect().center());
+    EXPECT_TRUE(view->reader().selectedText().startsWith(u"0\n1\n2"_qs));
+    EXPECT_TRUE(view->property("canCopy").toBool());
+    view->clear();
+    EXPECT_FALSE(view->property("canCopy").toBool());
+}
+
+TEST_F(ReadConsole, startsOverAtTheTopAndFollowsTheWidth)
+{
+    EXPECT_LT(view->width(), 400) << "beside the bar";
+    scrollView->verticalScrollBar()->setValue(end());
+    view->clear();
+    view->addString(u"top"_qs);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(scrolled(), 0);
+    EXPECT_EQ(end(), 0);
+    EXPECT_EQ(view->width(), 400);
+    window.resize(300, 100);
+    EXPECT_EQ(view->width(), 300);
+}
+
+} // namespace
+} // namespace tetrad

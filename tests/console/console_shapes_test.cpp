@@ -1,0 +1,138 @@
+#include "tests/console/printing.h"
+
+namespace tetrad {
+namespace {
+
+TEST_F(Console, aPolylineIsASegmentPerPoint)
+{
+    view.addLines({{1, 2}}, false);
+    EXPECT_EQ(view.items().size(), 0U);
+    EXPECT_EQ(view.currentLinePoint(), QPointF(1, 2));
+    EXPECT_EQ(view.viewH(), 0);
+    view.setCurrentLineWidth(4);
+    view.setCurrentLineCapStyle(1);
+    view.setCurrentLineDashPattern({5, 2.5});
+    view.setCurrentLineDashPhase(1);
+    view.setCurrentStrokeColor(Qt::red);
+    view.addLines({{10, 100}, {20, 50}}, false);
+    view.addLines({{30, 99}}, true);
+    view.addLines({}, false);
+    const QString style = u" width 4 cap 1 dash 5,2.5 phase 1 stroke #ff0000\n"_qs;
+    EXPECT_EQ(view.dump(), QString(u"line (10,100) to (10,100)" + style + u"line (10,100) to (20,50)" + style +
+                                   u"line (20,50) to (30,99)" + style));
+    EXPECT_EQ(view.viewH(), 122);
+}
+
+TEST_F(Console, aShapesOwnColoursWinOverThePens)
+{
+    view.setCurrentStrokeColor(Qt::red);
+    view.setCurrentFillColor(Qt::red);
+    view.setCurrentLineWidth(3);
+    view.addRect({10, 200, 400, 15}, Qt::black, Qt::white);
+    EXPECT_EQ(view.viewH(), 200 + 15 + 1.5 + 20);
+    view.addOval({0, 0, 5, 6}, Qt::blue, QColor());
+    EXPECT_EQ(view.dump(), u"rect (10,200) size 400x15 width 3 stroke #000000 fill #ffffff\n"
+                           u"oval (0,0) size 5x6 width 3 stroke #0000ff fill none\n"_qs);
+}
+
+TEST_F(Console, theArchiveHasTenKeysAndThosePresent)
+{
+    const QStringList always{u"fillFlag"_qs, u"lineCapStyle"_qs, u"lineDashPhase"_qs, u"lineWidth"_qs,  u"pt"_qs,
+                             u"pt1"_qs,      u"pt2"_qs,          u"rect"_qs,          u"strokeFlag"_qs, u"type"_qs};
+    const auto keysBeside = [&](const QVariantMap &map) {
+        QStringList keys = map.keys();
+        for (const QString &key : always) {
+            EXPECT_EQ(keys.removeAll(key), 1) << key.toStdString();
+        }
+        return keys.join(u' ');
+    };
+    view.addString(u"abc"_qs);
+    view.addOval({1, 2, 3, 4}, Qt::black, QColor());
+    view.setCurrentLineDashPattern({1, 2});
+    view.addLines({{5, 6}, {7, 8}}, false);
+    view.addRect({1, 2, 3, 4}, Qt::black, Qt::green);
+    const QVariantList array = view.itemArray();
+    ASSERT_EQ(array.size(), 6);
+    const QVariantMap text = array.at(0).toMap();
+    EXPECT_EQ(keysBeside(text), u"attributes text"_qs);
+    EXPECT_EQ(text.value(u"attributes"_qs), u"abc"_qs);
+    EXPECT_EQ(text.value(u"pt"_qs), QPointF(3, 0));
+    EXPECT_EQ(keysBeside(array.at(1).toMap()), u"attributes text"_qs) << "the empty piece";
+    EXPECT_EQ(keysBeside(array.at(2).toMap()), u"strokeColor"_qs);
+    const QVariantMap line = array.at(4).toMap();
+    EXPECT_EQ(keysBeside(line), u"lineDashPattern strokeColor"_qs);
+    EXPECT_EQ(line.value(u"type"_qs), 1U);
+    EXPECT_EQ(line.value(u"pt2"_qs), QPointF(7, 8));
+    EXPECT_EQ(line.value(u"lineDashPattern"_qs), QVariantList({1.0, 2.0}));
+    EXPECT_EQ(keysBeside(array.at(5).toMap()), u"fillColor lineDashPattern strokeColor"_qs);
+    EXPECT_EQ(array.at(5).toMap().value(u"rect"_qs), QRectF(1, 2, 3, 4));
+}
+
+struct StrokeCase
+{
+    const char *name;
+    LineStyle style;
+    const char *row; ///< the pixels from x 4 to 35, '#' dark, along a line from x 10 to 30
+};
+
+void PrintTo(const StrokeCase &test, std::ostream *out)
+{
+    *out << test.name;
+}
+
+class Stroking : public Console, public testing::WithParamInterface<StrokeCase>
+{};
+
+TEST_P(Stroking, isSeenInTheMiddleOfTheLine)
+{
+    const LineStyle &style = GetParam().style;
+    view.setCurrentLineWidth(style.width);
+    view.setCurrentLineCapStyle(style.capStyle);
+    view.setCurrentLineDashPattern(style.dashPattern);
+    view.setCurrentLineDashPhase(style.dashPhase);
+    view.setCurrentLinePoint({10, 20.5});
+    view.addLines({{30, 20.5}}, true);
+    const QImage image = picture(1);
+    std::string row;
+    for (int x = 4; x < 36; ++x) {
+        row += image.pixelColor(x, 20).lightness() < 128 ? '#' : '.';
+    }
+    EXPECT_EQ(row, GetParam().row);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Console, Stroking,
+    testing::Values(
+        StrokeCase{"flatByDefault", {.width = 8}, "......####################......"},
+        StrokeCase{"butt", {.width = 8, .capStyle = 0}, "......####################......"},
+        StrokeCase{"square", {.width = 8, .capStyle = 2}, "..############################.."},
+        StrokeCase{"round", {.width = 8, .capStyle = 1}, "..############################.."},
+        StrokeCase{"negativeWidth", {.width = -1}, "................................"},
+        StrokeCase{"thinnest", {.width = 0}, "......####################......"},
+        StrokeCase{"dashesInPixels", {.width = 3, .dashPattern = {5, 3}}, "......#####...#####...####......"},
+        StrokeCase{"dashesOfTheThinnest", {.width = 0, .dashPattern = {5, 3}}, "......#####...#####...####......"},
+        StrokeCase{
+            "phase",
+            {.width = 3, .dashPattern = {5, 3}, .dashPhase = 2},
+            "......###...#####...#####.......",
+        },
+        StrokeCase{"oddPattern", {.width = 2, .dashPattern = {4}}, "......####....####....####......"},
+        StrokeCase{"uselessPattern", {.width = 3, .dashPattern = {0, 0}}, "......####################......"}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(Console, aNegativeWidthFillsWithoutStroking)
+{
+    view.setCurrentLineWidth(-1);
+    view.addOval({10, 10, 20, 20}, Qt::black, Qt::red);
+    view.addRect({50, 10, 20, 20}, Qt::black, Qt::red);
+    const QImage image = picture(1);
+    EXPECT_EQ(image.pixelColor(20, 20), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(50, 10), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(69, 29), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(49, 10), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(70, 29), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::white)) << "an oval has no corner";
+}
+
+} // namespace
+} // namespace tetrad

@@ -1,0 +1,119 @@
+#include "runtime/console/console_statements.h"
+
+#include "runtime/app/content_view.h"
+#include "runtime/app/output_window.h"
+#include "runtime/app/popover.h"
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+#include "runtime/console/colors.h"
+#include "runtime/console/console_scroll_view.h"
+#include "runtime/strings/not_given.h"
+#include "tests/console/printing.h"
+
+namespace tetrad {
+namespace {
+
+CUI_PrintToWindowView *outputView()
+{
+    return CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow());
+}
+
+TEST(Statements, printingWithoutAWindowMakesTheDefaultOne)
+{
+    CUI_PrintToWindowPrintStatement({u"hello"_qs});
+    const Window *window = CUI_WindowWithTag(999999);
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_qs);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(outputView()->textString(), u"hello\n"_qs);
+}
+
+TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
+{
+    CUI_Window(1, u"Game"_qs, notGiven, QRectF(0, 0, 300, 200));
+    Window *window = CUI_WindowWithTag(1);
+    auto *other = new QWidget(window->contentView());
+    CUI_PrintToWindowView *view = outputView();
+    EXPECT_EQ(CUI_PrintToWindowViewObj(window), view);
+    EXPECT_EQ(window->contentView()->children().first(), view->scrollView());
+    EXPECT_EQ(window->contentView()->children().last(), other);
+    EXPECT_EQ(view->scrollView()->geometry(), window->contentView()->rect());
+    EXPECT_EQ(view->scrollView()->documentView(), view);
+    EXPECT_EQ(CUI_PrintToWindowViewObj(nullptr), nullptr);
+    Popover popover(5, QSize(100, 80));
+    EXPECT_EQ(CUI_PrintToWindowPrint(&popover, u"x\b"_qs).y(), 0);
+    EXPECT_NE(CUI_PrintToWindowViewObj(&popover), view);
+}
+
+TEST(Statements, printJoinsUpToTheFirstNullText)
+{
+    CUI_PrintToWindowPrintStatement({u"a"_qs, u""_qs, u"b"_qs, u"\b"_qs, QString(), u"c"_qs});
+    EXPECT_EQ(outputView()->textString(), u"ab\b"_qs);
+    CUI_PrintToWindowPrintStatement({QString()});
+    CUI_PrintToWindowPrintStatement({});
+    EXPECT_EQ(outputView()->textString(), u"ab\b\n\n"_qs);
+    CUI_PrintToWindowClearStatement();
+    CUI_PrintToWindowSetXYStatement(15, 110);
+    CUI_PrintToWindowPrintFStatement(u"%d of %@"_qs, 3, u"4"_qs);
+    EXPECT_TRUE(outputView()->dump().startsWith(u"text (15,110) \"3 of 4\""_qs));
+}
+
+TEST(Statements, textAppliesOnlyWhatIsGiven)
+{
+    const auto look = [] {
+        CUI_PrintToWindowClearStatement();
+        CUI_PrintToWindowPrintStatement({u"x\b"_qs});
+        const QString dump = outputView()->dump();
+        return QString(dump.mid(dump.indexOf(u"size")).trimmed() + u" align " +
+                       QString::number(outputView()->currentAlignment()));
+    };
+    const QString initial = u"size 12 color standard align 0"_qs;
+    for (const double size : {0.0, -18.0}) {
+        CUI_PrintToWindowTextStatement(QString(), QColor(), QColor(), notGiven, notGiven, size);
+        EXPECT_EQ(look(), initial);
+    }
+    CUI_PrintToWindowTextStatement(u"No Such Family"_qs, ColorGreen(), ColorBlack(), 2, 50, 18);
+    EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2"_qs);
+    const QVariantMap now = outputView()->currentAttributes();
+    EXPECT_EQ(now.value(u"paragraphStyle"_qs).value<ParagraphStyle>().defaultTabInterval, 50);
+    EXPECT_EQ(now.value(u"font"_qs).value<QFont>().family(), u"Menlo"_qs);
+    CUI_PrintToWindowTextStatement(QString(), ColorWhite(), QColor(), notGiven, notGiven, 0);
+    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2"_qs);
+}
+
+struct RectCase
+{
+    const char *name;
+    QColor given;
+    bool fill;
+    const char *drawnFill;
+    QColor rememberedAfter;
+};
+
+void PrintTo(const RectCase &test, std::ostream *out)
+{
+    *out << test.name;
+}
+
+class DrawRect : public testing::TestWithParam<RectCase>
+{};
+
+TEST_P(DrawRect, chasesTheFillColour)
+{
+    CUI_PrintToWindowClearStatement();
+    outputView()->setCurrentFillColor(Qt::blue);
+    CUI_DrawToWindowRectStatement(GetParam().given, GetParam().fill, QRectF(10, 200, 400, 15));
+    EXPECT_EQ(outputView()->dump().toStdString(),
+              std::string("rect (10,200) size 400x15 width 1 stroke #000000 fill ") + GetParam().drawnFill + "\n");
+    EXPECT_EQ(outputView()->currentFillColor(), GetParam().rememberedAfter);
+}
+
+INSTANTIATE_TEST_SUITE_P(Statements, DrawRect,
+                         testing::Values(RectCase{"given", Qt::red, true, "#ff0000", Qt::red},
+                                         RectCase{"remembered", QColor(), true, "#0000ff", Qt::blue},
+                                         RectCase{"onlyRemembering", Qt::red, false, "none", Qt::red},
+                                         RectCase{"outline", QColor(), false, "none", Qt::blue}),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+} // namespace
+} // namespace tetrad
