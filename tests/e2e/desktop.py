@@ -7,6 +7,7 @@ ended when its parent dies.
 import atexit
 import ctypes
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -96,11 +97,10 @@ class Desktop:
         self._children.append(child)
         return child
 
-    def run(self, *command, **options):
-        return subprocess.run(
-            command, env=self.environment, check=True, stdin=subprocess.DEVNULL, capture_output=True, text=True,
-            **options
-        ).stdout
+    def run(self, *command, binary=False):
+        """Runs a command to its end and returns what it printed."""
+        return subprocess.run(command, env=self.environment, check=True, stdin=subprocess.DEVNULL,
+                              capture_output=True, text=not binary).stdout
 
     # -- keys, mouse, clipboard, screen
 
@@ -122,8 +122,24 @@ class Desktop:
     def clipboard(self):
         return self.run("xclip", "-selection", "clipboard", "-out")
 
-    def screenshot(self, path, window="root"):
-        self.run("import", "-window", str(window), path)
+    def screenshot(self, path):
+        self.run("import", "-window", "root", path)
+
+    # -- windows
+
+    def window_of(self, process_id, name="Tetrad Game"):
+        """The identifier of the process's visible window with this name."""
+        search = ("xdotool", "search", "--all", "--onlyvisible", "--pid", str(process_id), "--name", f"^{name}$")
+        return self.run(*search).split()[0]
+
+    def framed_rectangle(self, window):
+        """x, y, width, height of a window together with the window manager's frame around it."""
+        facts = self.run("xwininfo", "-id", window)
+        x, y, width, height = (int(re.search(rf"{fact}:\s+(-?\d+)", facts)[1])
+                               for fact in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        extents = self.run("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS")
+        left, right, top, bottom = (int(number) for number in extents.split("=")[1].split(","))
+        return x - left, y - top, width + left + right, height + top + bottom
 
     # -- starting
 

@@ -89,12 +89,14 @@ class Game:
     def wait_until_asked_anew(self, old_field):
         """Waits until the old field has given way to another one."""
 
-
         def anew():
             field = self.field()
             return field if field and not field.is_the_same_as(old_field) else None
 
         return self._wait(anew, "another field")
+
+    def wait_for_loss_of_focus(self):
+        self._wait(lambda: not self.field(), "the focus to be elsewhere")
 
     def wait_for_field_text(self, text):
         shown = text if len(text) < 60 else f"{text[:60]}…"
@@ -149,9 +151,7 @@ class Game:
 
     def activate(self):
         """Brings the window to the front as a click on its title bar does."""
-        for window in self.desktop.run("xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.process.pid),
-                                        "--name", self.window().name).split():
-            self.desktop.run("xdotool", "windowactivate", "--sync", window)
+        self.desktop.run("xdotool", "windowactivate", "--sync", self.desktop.window_of(self.process.pid))
 
     def answer(self, text, prompt=PROMPT):
         """Waits to be asked with this prompt, types the answer and presses Return."""

@@ -16,15 +16,14 @@ class TestTyping(PlayingTest):
         game = self.start()
         game.wait_for_prompt()
         for name, junk, kept in [
-            ("spaces and words", "6 / (1 - 3/4) is twenty-four", "6/(1-3/4)iswentyfour"),
-            ("control characters", "1\n+\t2\r\n", "1+2"),
+            ("spaces and words", "6 / (1 - 3/4) is twenty-four", "6/(1-3/4)s-"),
+            ("control characters", "1\n+\t2\r\n\x1b\x7f", "1+2"),
             ("emoji", "⚪1🟡+👩‍👩‍👧2️⃣", "1+2"),
             ("right to left", "שלום3*ابجد4", "3*4"),
-            ("other digits", "１٣1", "1"),
+            ("digits of other scripts", "１٣1", "1"),
             ("nothing accepted", "hello, world.", ""),
         ]:
             with self.subTest(name):
-                kept = "".join(character for character in kept if character in "123456789+-*/()qsQS")
                 self.desktop.set_clipboard(junk)
                 self.desktop.press("ctrl+a", "ctrl+v")
                 # The digit typed last tells that the paste before it has been handled.
@@ -68,11 +67,15 @@ class TestTyping(PlayingTest):
             game.type_more("*", "1+2*")
         with self.subTest("on the desktop"):
             self.desktop.click(3, 3)
+            game.wait_for_loss_of_focus()
+            game.activate()
+            game.wait_for_field_text("1+2*")
             game.type_more("3", "1+2*3")
         with self.subTest("on another program's window"):
             other = self.start()
             other.wait_for_prompt()
             other.type("9")
+            game.wait_for_loss_of_focus()
             game.activate()
             game.wait_for_field_text("1+2*3")
             game.type_more("+4", "1+2*3+4")
