@@ -171,7 +171,7 @@ private:
         }
         double value = 0.0;
         const auto [end, error] = std::from_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
-        if (end != digits.end() || error == std::errc::invalid_argument) {
+        if (end != digits.end()) {
             throw ExpressionError(
                 placed(QStringLiteral("malformed number ") + quoted(m_text.mid(start, m_at - start)), start));
         }

@@ -1,0 +1,69 @@
+#include "game/game_window.h"
+
+#include "game/error_line.h"
+#include "runtime/app/output_window.h"
+#include "runtime/app/window.h"
+#include "runtime/app/windows.h"
+#include "runtime/console/console_statements.h"
+#include "runtime/console/console_view.h"
+#include "tests/app/alert_helper.h"
+
+#include <gtest/gtest.h>
+
+using namespace tetrad;
+using namespace tetrad::testing_helpers;
+
+TEST(GameWindow, IsBlackCentredAndTheOutputWindow)
+{
+    EXPECT_EQ(BuildWindow(), 0);
+    Window *const window = CUI_WindowWithTag(1);
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Tetrad Game"));
+    EXPECT_EQ(window->contentRect().size(), QSizeF(580, 250));
+    EXPECT_EQ(window->backgroundColor(), QColor(Qt::black));
+    EXPECT_EQ(CUI_OutputWindowTag(), 1);
+}
+
+TEST(GameWindow, ErrorLineIsPaintedOverInBlack)
+{
+    BuildWindow();
+    auto *const console = CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow());
+    EraseErrorText();
+    const QVariantMap item = console->itemArray().last().toMap();
+    EXPECT_EQ(item[QStringLiteral("type")].toInt(), 2);
+    EXPECT_EQ(item[QStringLiteral("rect")].toRectF(), QRectF(10, 200, 400, 15));
+    EXPECT_EQ(item[QStringLiteral("fillColor")].value<QColor>(), QColor(Qt::black));
+}
+
+TEST(QuitOrPlay, PlayAgainReturnsEveryTimeAndEscapeIsNoAnswer)
+{
+    BuildWindow();
+    for (int puzzle = 0; puzzle < 2; ++puzzle) {
+        SCOPED_TRACE(puzzle);
+        bool survivedEscape = false;
+        whenAlertRuns([&survivedEscape](Alert *alert) {
+            EXPECT_EQ(alert->text(), QStringLiteral("Correct"));
+            EXPECT_EQ(alert->informativeText(), QStringLiteral("You won!"));
+            EXPECT_EQ(titlesOf(alert), (QStringList{QStringLiteral("Quit"), QStringLiteral("Play Again")}));
+            pressKey(alert, Qt::Key_Escape);
+            survivedEscape = alert->isVisible();
+            alert->alertButtons().at(1)->click();
+        });
+        EXPECT_EQ(QuitOrPlayAlert(QStringLiteral("Correct")), 0);
+        EXPECT_TRUE(survivedEscape);
+        EXPECT_TRUE(noAlertLeft());
+    }
+}
+
+TEST(QuitOrPlayDeathTest, QuitEndsTheProgramWithStatus0)
+{
+    EXPECT_EXIT(
+        {
+            BuildWindow();
+            whenAlertRuns([](Alert *alert) { alert->alertButtons().first()->click(); });
+            QuitOrPlayAlert(QStringLiteral("Correct"));
+            ::exit(3);
+        },
+        testing::ExitedWithCode(0), "");
+}

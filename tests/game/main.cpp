@@ -1,0 +1,14 @@
+#include "runtime/app/application.h"
+#include "runtime/strings/case_tables.h"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    // An exit test runs its statement in a new process, started from this executable.
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    tetrad::CocoaInit();
+    tetrad::InitZRGlobals();
+    return RUN_ALL_TESTS();
+}
