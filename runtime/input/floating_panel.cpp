@@ -158,6 +158,12 @@ void FloatingPanel::resize()
         parts.body.translated(host.topLeft()).adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
     m_label->setGeometry(parts.label.translated(shadowMargin, shadowMargin));
     m_entry->setGeometry(parts.entry.translated(shadowMargin, shadowMargin));
+    // A label rounds the middle of its line down, a line edit up; both baselines must be one.
+    const int textTop = (parts.label.height() - m_label->fontMetrics().height() + 1) / 2;
+    const auto labels = findChildren<QLabel *>();
+    for (QLabel *const each : labels) {
+        each->setContentsMargins(textInset, textTop, 0, 0);
+    }
     showPrompt(parts.label.width());
 }
 
@@ -185,7 +191,7 @@ QLabel *FloatingPanel::makeLabel(const QString &text)
     auto *const label = new QLabel(this);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::NoTextInteraction);
-    label->setContentsMargins(textInset, 0, 0, 0);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setText(text);
     return label;
 }

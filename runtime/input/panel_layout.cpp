@@ -15,7 +15,8 @@ constexpr int emptyLabelWidth = 4;
 constexpr int entryLeftWithoutPrompt = 10;
 constexpr int rightMargin = 10;
 constexpr int textPadding = 5; ///< what label and entry are wider than their text
-constexpr int gap = 2;         ///< between label and entry
+constexpr int nearLeftEdge = 10;
+constexpr int gap = 2; ///< between label and entry
 
 int toCoordinate(qint64 value)
 {
@@ -45,7 +46,10 @@ PanelGeometry layOutPanel(const PanelMetrics &metrics, QPoint wanted, QSize cont
     int entryLeft = prompted ? entryLeftAfter(labelWidth) : entryLeftWithoutPrompt;
     const int required = std::max(metrics.minimumWidth, entryLeft + metrics.usableEntryWidth + rightMargin);
 
-    const int left = std::max(0, std::min(wanted.x(), content.width() - required));
+    // A prompt that cannot be shown whole anyway does not push the panel against the left edge.
+    const int narrowest = std::min(nearLeftEdge, content.width() - metrics.minimumWidth);
+    const int rightmost = std::max(narrowest, content.width() - required);
+    const int left = std::max(0, std::min(wanted.x(), rightmost));
     const int top = std::max(0, std::min(wanted.y(), content.height() - panelHeight));
     const int available = content.width() - left;
 

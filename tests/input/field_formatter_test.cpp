@@ -4,7 +4,6 @@
 #include "runtime/input/input_format.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 

@@ -56,7 +56,8 @@ const LayoutCase layoutCases[] = {
     {"aboveTheContent", 10, 5, 0, 0, game, "10,0 110x36", "10,10 5x16", 4},
     {"leftOfTheContent", -50, 190, 0, 0, game, "0,154 110x36", "10,10 5x16", 4},
     {"tooFarRightKeepsAUsableField", 5'000'000'000, 190, 0, 0, game, "440,154 110x36", "10,10 5x16", 4},
-    {"longPromptLeavesAUsableField", 10, 190, 2000, 9000, game, "0,154 580x36", "450,10 120x16", 440},
+    {"longPromptLeavesAUsableField", 10, 190, 2000, 9000, game, "10,154 570x36", "440,10 120x16", 430},
+    {"longPromptIsPushedNearTheLeftEdge", 400, 190, 2000, 0, game, "10,154 455x36", "440,10 5x16", 430},
     {"tinyContentHasNoLabel", 10, 190, 300, 9000, {100, 20}, "0,0 100x36", "10,10 80x16", 0},
 };
 

@@ -3,7 +3,6 @@
 #include "runtime/input/line_input_window.h"
 #include "runtime/strings/not_given.h"
 
-#include <QAccessible>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
