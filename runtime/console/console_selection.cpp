@@ -9,8 +9,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace tetrad {
 
@@ -188,13 +186,14 @@ void ConsoleSelection::drawFocus(QPainter &painter) const
     if (!m_view->hasFocus()) {
         return;
     }
+    // The colour of a selection is seen on any background that the program may have chosen.
+    const QColor color = m_view->palette().color(QPalette::Highlight);
     const QRectF caret = m_view->mirrored(m_view->reader().characterRect(m_view->reader().caret()));
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(QRectF(caret.left(), caret.top(), 1, caret.height()), m_view->palette().windowText());
-    QStyleOptionFocusRect frame;
-    frame.initFrom(m_view);
-    frame.rect = m_view->visibleRegion().boundingRect();
-    m_view->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, m_view);
+    painter.fillRect(QRectF(caret.left(), caret.top(), 2, caret.height()), color);
+    painter.setPen(color);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(m_view->visibleRegion().boundingRect().adjusted(0, 0, -1, -1));
 }
 
 } // namespace tetrad

@@ -92,10 +92,16 @@ TEST_P(Scaled, rowsTouchWithoutSeamOrOverlap)
     for (int row = 0; row < 12; ++row) {
         view.addString(u"xxxxxxxxxxxx"_qs);
     }
+    view.setCurrentLineWidth(-1);
+    for (int row = 0; row < 12; ++row) {
+        view.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
+    }
     const QImage image = picture(GetParam());
-    const int x = qRound(20 * GetParam());
-    for (int y = 0; y < qFloor(12 * lineHeight * GetParam()); ++y) {
-        EXPECT_EQ(image.pixelColor(x, y), image.pixelColor(x, 0)) << y;
+    for (const int x : {qRound(20 * GetParam()), qRound(220 * GetParam())}) {
+        EXPECT_NE(image.pixelColor(x, 0), QColor(Qt::white));
+        for (int y = 0; y < qFloor(12 * lineHeight * GetParam()); ++y) {
+            EXPECT_EQ(image.pixelColor(x, y), image.pixelColor(x, 0)) << x << ',' << y;
+        }
     }
 }
 
