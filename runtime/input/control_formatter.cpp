@@ -75,7 +75,7 @@ CUI_ControlFormatter::CUI_ControlFormatter(const QString &characters, bool pass,
 
 QString CUI_ControlFormatter::formatted(const QString &proposal) const
 {
-    const QString accepted = withoutRefused(proposal);
+    QString accepted = withoutRefused(proposal);
     switch (m_caseOption) {
     case caseForceLower:
         return accepted.toLower();

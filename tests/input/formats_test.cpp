@@ -25,6 +25,11 @@ struct FormatterCase
     int cursorAfter = -1;
 };
 
+void PrintTo(const FormatterCase &row, std::ostream *out)
+{
+    *out << row.shows;
+}
+
 class Formatter : public testing::TestWithParam<FormatterCase>
 {};
 

@@ -46,6 +46,11 @@ struct KeyCase
     QString expected;
 };
 
+void PrintTo(const KeyCase &row, std::ostream *out)
+{
+    *out << row.shows;
+}
+
 class KeyFilter : public KeyInput, public testing::WithParamInterface<KeyCase>
 {};
 

@@ -46,6 +46,11 @@ struct EndingKey
     bool answers;
 };
 
+void PrintTo(const EndingKey &row, std::ostream *out)
+{
+    *out << row.shows;
+}
+
 class EndOfLineInput : public LineInput, public testing::WithParamInterface<EndingKey>
 {};
 

@@ -28,6 +28,11 @@ struct LayoutCase
     int labelWidth;
 };
 
+void PrintTo(const LayoutCase &row, std::ostream *out)
+{
+    *out << row.shows;
+}
+
 class Layout : public testing::TestWithParam<LayoutCase>
 {};
 
