@@ -39,6 +39,16 @@ QAction *addItem(QMenu *menu, const QString &title, QAction::MenuRole role)
     return item;
 }
 
+// It holds a place in the bar. Shown it would be a gap that opens an empty menu, so it waits for a title.
+QMenu *makeUntitledMenu()
+{
+    auto *menu = new QMenu;
+    QAction *item = menu->menuAction();
+    item->setVisible(false);
+    QObject::connect(item, &QAction::changed, item, [item] { item->setVisible(!item->text().isEmpty()); });
+    return menu;
+}
+
 template <typename Function>
 void forEachShortcut(Function function)
 {
@@ -93,7 +103,7 @@ void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index)
         return;
     }
     while (menu->menus.size() < index) {
-        appendMenu(menu, new QMenu);
+        appendMenu(menu, makeUntitledMenu());
     }
 }
 

@@ -180,12 +180,14 @@ TEST_F(EditMenu, ActsOnTheFirstResponderOnce)
     EXPECT_EQ(view->deletions, 1);
 }
 
-TEST_F(EditMenu, UntitledMenuOpensHarmlessly)
+TEST_F(EditMenu, UntitledMenuHoldsItsPlaceUnseenUntilItGetsATitle)
 {
     QMenu *untitled = mainMenu()->menus.at(1);
     EXPECT_TRUE(untitled->isEmpty());
-    untitled->popup(window.mapToGlobal(QPoint(20, 20)));
-    untitled->close();
+    EXPECT_EQ(window.menuBar()->actions().indexOf(untitled->menuAction()), 1);
+    EXPECT_FALSE(untitled->menuAction()->isVisible());
+    untitled->setTitle(QStringLiteral("View"));
+    EXPECT_TRUE(untitled->menuAction()->isVisible());
 }
 
 TEST_F(EditMenu, AboutPanelShowsWhatItMustAndCloses)
