@@ -157,9 +157,8 @@ public:
     QRectF mirrored(const QRectF &rect) const;
     QPointF mirrored(QPointF point) const;
 
-public Q_SLOTS:
-    void copy();
-    void selectAll();
+    Q_INVOKABLE void copy();
+    Q_INVOKABLE void selectAll();
 
 protected:
     bool event(QEvent *event) override;
