@@ -2,15 +2,34 @@
 
 #include <utility>
 
-namespace tetrad
-{
+namespace tetrad {
 
-namespace
-{
+namespace {
 
 DialogFunction sCUI_OnDialogFunction = nullptr;
 
 } // namespace
+
+void CUI_DialogEvent::releaseObjects()
+{
+    errorObj = {};
+    arrayObj.clear();
+    otherUrlObj.clear();
+    dragInfo.clear();
+    pbTypes.clear();
+    stringObj = QString();
+    fontObj = {};
+    colorObj = {};
+    viewObj.clear();
+    object.clear();
+    menuObj.clear();
+    pasteboardObj.clear();
+    URLSessionTaskObj.clear();
+    URLSessionDataTaskObj.clear();
+    dataObj = QByteArray();
+    tintConfigurationObj.clear();
+    tableColumnObj.clear();
+}
 
 CUI_DialogEvent *CUI_DialogEventObj()
 {

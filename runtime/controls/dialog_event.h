@@ -15,8 +15,7 @@
 
 class QMenu;
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// A run of units: where it starts and how many there are.
 struct EventRange
@@ -64,6 +63,10 @@ public:
     QSizeF sizeVal;
     EventRange rangeVal;
     QRectF rectVal;
+
+    /// Lets go of the object fields, first to last. Deliberately not of urlObj and caAction: what a program
+    /// left there is still there afterwards, and programs rely on it.
+    void releaseObjects();
 };
 
 /// The one shared record; it lives from first use to the end of the program.

@@ -3,11 +3,9 @@
 #include <QObject>
 #include <QVariant>
 
-namespace tetrad
-{
+namespace tetrad {
 
-namespace
-{
+namespace {
 
 constexpr char tagKey[] = "tagNumber";
 constexpr char windowTagKey[] = "wndTagNumber";
@@ -22,6 +20,16 @@ Tag tagFromObject(const QObject *object)
 QObject *objectFromTag(Tag value)
 {
     return isObjectAddress(value) ? reinterpret_cast<QObject *>(static_cast<qintptr>(value)) : nullptr;
+}
+
+Tag tagFromEvent(const QEvent *event)
+{
+    return static_cast<Tag>(reinterpret_cast<qintptr>(event));
+}
+
+QEvent *eventFromTag(Tag value)
+{
+    return isObjectAddress(value) ? reinterpret_cast<QEvent *>(static_cast<qintptr>(value)) : nullptr;
 }
 
 Tag objectTag(const QObject *object)

@@ -2,10 +2,10 @@
 
 #include <QtGlobal>
 
+class QEvent;
 class QObject;
 
-namespace tetrad
-{
+namespace tetrad {
 
 /// The number that names a window, alert, menu, view or control: 1 to largestTag. Its absolute value
 /// is the identity; window and alert statements read a positive tag as "show" and a zero or
@@ -31,6 +31,10 @@ Tag tagFromObject(const QObject *object);
 
 /// Null unless isObjectAddress(value).
 QObject *objectFromTag(Tag value);
+
+/// The same for platform events. An event is alive only until the callback that was given it returns.
+Tag tagFromEvent(const QEvent *event);
+QEvent *eventFromTag(Tag value);
 
 /// The tag that an object carries (dynamic property "tagNumber"); 0 when never set.
 Tag objectTag(const QObject *object);

@@ -4,9 +4,11 @@
 
 namespace tetrad {
 
-/// Codes of the events that views report about themselves.
+/// Codes of the events that views report about themselves. Unless a line says otherwise the object
+/// passed is the platform event (see tagFromEvent) and boolVal, preset to false, is the answer "handled".
 enum ViewEvent : qint64 {
-    viewEventDraw = 2000, ///< rectVal: the part to draw, in pixels from the view's top left
+    viewEventDraw = 2000,                  ///< rectVal: the part to draw, in pixels from the view's top left; object 0
+    viewEventAcceptsFirstResponder = 2001, ///< boolVal: whether the view takes the keyboard; object 0
     viewEventMouseDown = 2002,
     viewEventMouseDragged = 2003,
     viewEventMouseUp = 2004,
@@ -19,10 +21,15 @@ enum ViewEvent : qint64 {
     viewEventKeyDown = 2011,
     viewEventKeyUp = 2012,
     viewEventFlagsChanged = 2013, ///< a modifier key went down or up
+    viewEventResetCursorRects = 2015,
     viewEventDraggingEntered = 2016,
     viewEventDraggingExited = 2020,
     viewEventPerformDrag = 2022,
-    viewEventMenu = 2026, ///< menuObj: the menu to pop up, in and out
+    viewEventAppearanceChanged = 2025,
+    viewEventMenu = 2026,             ///< menuObj: the menu to pop up, in and out
+    viewEventWantsUpdateLayer = 2027, ///< boolVal: the answer; object 0
+    viewEventUpdateLayer = 2028,      ///< object 0
+    viewEventAwakeFromNib = 2029,
 };
 
 } // namespace tetrad

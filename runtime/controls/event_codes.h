@@ -1,0 +1,132 @@
+#pragma once
+
+// The table of event codes: every code the dialog function can be called with, family by family. The
+// families that the layers below send live in their own headers and are gathered here.
+#include "runtime/app/alert_events.h"
+#include "runtime/app/window_events.h"
+#include "runtime/controls/view_events.h"
+
+namespace tetrad {
+
+enum ControlEvent : qint64 {
+    controlEventAction = 1, ///< object: the control; sent by the shared control target
+};
+
+enum PopoverEvent : qint64 {
+    popoverEventDetachableWindow = 1300,
+    popoverEventShouldClose = 1301, ///< boolVal: the answer
+    popoverEventWillShow = 1302,
+    popoverEventDidShow = 1303,
+    popoverEventWillClose = 1304,
+    popoverEventDidClose = 1305,
+    popoverEventDidDetach = 1306,
+    popoverEventShouldDetach = 1307, ///< boolVal: the answer
+};
+
+/// Coordinates are pixels from the split view's left or top edge. They travel in floatVal, so in single
+/// precision; indices count from 0 and travel in longVal.
+enum SplitViewEvent : qint64 {
+    splitViewEventWillResizeSubviews = 1501,
+    splitViewEventDidResizeSubviews = 1502,
+    splitViewEventCanCollapseSubview = 1503,        ///< longVal: subview; boolVal: the answer
+    splitViewEventShouldAdjustSizeOfSubview = 1504, ///< longVal: subview; boolVal: the answer
+    splitViewEventShouldHideDivider = 1506,         ///< longVal: divider; boolVal: the answer
+    splitViewEventConstrainMaxCoordinate = 1508,    ///< longVal: divider; floatVal: proposal and answer
+    splitViewEventConstrainMinCoordinate = 1509,    ///< longVal: divider; floatVal: proposal and answer
+    splitViewEventConstrainSplitPosition = 1510,    ///< longVal: divider; floatVal: proposal and answer
+    splitViewEventDividerColor = 1511,              ///< colorObj: the answer
+    splitViewEventDividerThickness = 1512,          ///< floatVal: the answer
+    splitViewEventDrawDivider = 1513,               ///< rectVal: the divider; boolVal: whether it was drawn
+};
+
+enum ToolbarEvent : qint64 {
+    toolbarEventItemAction = 1900,
+    toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled
+};
+
+enum FontPanelEvent : qint64 {
+    fontPanelEventChanged = 2200, ///< fontObj: the font chosen
+};
+
+/// Named only: nothing on this platform asks a program before a file is moved, copied or removed.
+enum FileManagerEvent : qint64 {
+    fileManagerEventShouldMove = 2400,
+    fileManagerEventProceedAfterMoveError = 2401,
+    fileManagerEventShouldCopy = 2402,
+    fileManagerEventProceedAfterCopyError = 2403,
+    fileManagerEventShouldRemove = 2404,
+};
+
+enum ColorPanelEvent : qint64 {
+    colorPanelEventAction = 2600, ///< colorObj: the colour chosen
+};
+
+enum GestureEvent : qint64 {
+    gestureEventAction = 2700,
+};
+
+enum FilePanelEvent : qint64 {
+    filePanelEventUserEnteredName = 2901,
+    filePanelEventSelectionChanged = 2902,
+    filePanelEventDirectoryChanged = 2903,
+    filePanelEventWillExpand = 2904,
+    filePanelEventShouldEnableUrl = 2905, ///< urlObj: the file; boolVal: the answer
+    filePanelEventValidateUrl = 2906,     ///< urlObj: the file; boolVal: the answer
+};
+
+/// Named only: the runtime has no network sessions.
+enum UrlSessionEvent : qint64 {
+    urlSessionEventBecameInvalid = 3600,
+    urlSessionEventFinishedBackgroundEvents = 3601,
+    urlSessionEventDownloadFinished = 3604,
+    urlSessionEventDownloadResumed = 3605,
+    urlSessionEventDownloadWroteData = 3606,
+    urlSessionEventTaskCompleted = 3607,
+    urlSessionEventTaskSentBodyData = 3609,
+    urlSessionEventTaskWaitingForConnectivity = 3613,
+    urlSessionEventTaskFinishedCollectingMetrics = 3614,
+    urlSessionEventDataTaskReceivedData = 3618,
+    urlSessionEventBetterRouteDiscovered = 3620,
+    urlSessionEventBecameStreams = 3621,
+    urlSessionEventReadClosed = 3622,
+    urlSessionEventWriteClosed = 3623,
+};
+
+/// Named only: the runtime plays no sounds.
+enum SoundEvent : qint64 {
+    soundEventFinished = 3700,
+};
+
+enum TableHeaderEvent : qint64 {
+    tableHeaderEventFont = 4200,
+    tableHeaderEventTextColor = 4300,
+};
+
+/// Named only: nothing detaches a view from its stack by itself here.
+enum StackViewEvent : qint64 {
+    stackViewEventReattached = 4500,
+    stackViewEventWillDetach = 4501,
+};
+
+/// Named only: there is no preview panel to fill.
+enum PreviewPanelEvent : qint64 {
+    previewPanelEventItemCount = 4700,
+    previewPanelEventItemAtIndex = 4701,
+};
+
+/// Named only: errors are presented as alerts, whose end is alertEndedEvent.
+enum ErrorEvent : qint64 {
+    errorEventPresentedWithRecovery = 4900,
+};
+
+enum PrintEvent : qint64 {
+    printEventDidRun = 5200,
+};
+
+/// Named only: there is no sharing service.
+enum SharingEvent : qint64 {
+    sharingEventServicesForItems = 5700,
+    sharingEventServiceChosen = 5701,
+};
+
+} // namespace tetrad

@@ -1,0 +1,82 @@
+#include "runtime/controls/popover_statements.h"
+
+#include "runtime/app/alerts.h"
+#include "runtime/app/content_view.h"
+#include "runtime/app/output_window.h"
+#include "runtime/app/strings_table.h"
+#include "runtime/app/windows.h"
+#include "runtime/controls/view_lookup.h"
+
+#include <cstdlib>
+
+namespace tetrad {
+
+namespace {
+
+void showTagError(const QString &text)
+{
+    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")), text);
+}
+
+bool canBePopover(Tag tag)
+{
+    if (tag == 0 || isObjectAddress(tag)) {
+        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1.");
+        showTagError(runtimeText(text).arg(tag));
+        return false;
+    }
+    if (CUI_WindowWithTag(tag)) {
+        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Window tag error.")),
+                      runtimeText(QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value.")));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
+{
+    const Tag popoverTag = std::abs(tag);
+    if (!canBePopover(popoverTag)) {
+        return;
+    }
+    Popover *popover = CUI_PopoverWithTag(popoverTag);
+    if (!popover) {
+        popover = new Popover(popoverTag, contentSize.isEmpty() ? QSize(200, 100) : contentSize.toSize());
+    } else if (!contentSize.isEmpty()) {
+        popover->contentView()->setFixedSize(contentSize.toSize());
+    }
+    popover->setBehavior(behavior);
+    CUI_OutputWindowSetTag(popoverTag);
+}
+
+void PopoverShow(Tag tag, Tag relativeToView, const QRectF &rect, Qt::Edge preferredEdge)
+{
+    Popover *const popover = CUI_PopoverWithTag(tag);
+    if (!popover) {
+        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1.")).arg(tag));
+        return;
+    }
+    if (QWidget *const view = CUI_ValidateViewKindOfClass(relativeToView, QStringLiteral("NSView"))) {
+        popover->showRelativeTo(view, rect.toRect(), preferredEdge);
+    }
+}
+
+void PopoverClose(Tag tag)
+{
+    if (Popover *const popover = CUI_PopoverWithTag(tag)) {
+        popover->close();
+    }
+}
+
+void PopoverRemove(Tag tag)
+{
+    if (Popover *const popover = CUI_PopoverWithTag(tag)) {
+        setObjectTag(popover, 0);
+        popover->hide();
+        popover->deleteLater();
+    }
+}
+
+} // namespace tetrad

@@ -1,0 +1,79 @@
+#include "runtime/controls/view_statement.h"
+
+#include "runtime/app/alerts.h"
+#include "runtime/app/strings_table.h"
+#include "runtime/controls/class_names.h"
+#include "runtime/controls/view_lookup.h"
+#include "runtime/controls/view_tag.h"
+
+#include <QWidget>
+
+#include <cstdlib>
+
+namespace tetrad {
+
+QWidget *CUI_ContentViewForStatement(Tag tag)
+{
+    if (tag == 0 || isObjectAddress(std::abs(tag))) {
+        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A view needs a tag from 1 to 1000000, not %1.");
+        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")),
+                      runtimeText(text).arg(tag));
+        return nullptr;
+    }
+    return CUI_ValidateViewKindOfClass(contentViewTag, QStringLiteral("NSView"));
+}
+
+QWidget *CUI_ViewForStatement(Tag tag)
+{
+    return CUI_ViewWithTag(std::abs(tag));
+}
+
+void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QWidget *wanted)
+{
+    const char *const text = QT_TRANSLATE_NOOP("Runtime", "View %1 (%2), in window %3, cannot respond to %4 messages.");
+    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Class error.")),
+                  runtimeText(text).arg(QString::number(std::abs(tag)), viewClassName(view),
+                                        QString::number(CUI_ViewWindowTag(view)), viewClassName(wanted)));
+}
+
+void CUI_AdoptView(QWidget *view, Tag tag)
+{
+    setViewTag(view, std::abs(tag));
+    setObjectWindowTag(view, CUI_ViewWindowTag(view));
+    view->adjustSize();
+}
+
+void CUI_PlaceView(QWidget *view, Tag tag, const QRectF &rect)
+{
+    if (!rect.isEmpty()) {
+        view->setGeometry(rect.toRect());
+    }
+    view->setVisible(tag > 0);
+}
+
+void ViewAddSubview(Tag superview, Tag subview)
+{
+    QWidget *const outer = CUI_ValidateViewKindOfClass(superview, QStringLiteral("NSView"));
+    QWidget *const inner = outer ? CUI_ValidateViewKindOfClass(subview, QStringLiteral("NSView")) : nullptr;
+    // A view cannot lie in itself or in its own subview.
+    if (!inner || inner == outer || inner->isAncestorOf(outer)) {
+        return;
+    }
+    const bool wasShown = !inner->isHidden();
+    const QPoint place = inner->pos();
+    inner->setParent(outer);
+    inner->move(place);
+    inner->setVisible(wasShown);
+    setObjectWindowTag(inner, CUI_ViewWindowTag(outer));
+}
+
+void ViewRemoveFromSuperview(Tag tag)
+{
+    if (QWidget *const view = CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSView"))) {
+        view->hide();
+        view->setParent(nullptr);
+        view->deleteLater();
+    }
+}
+
+} // namespace tetrad
