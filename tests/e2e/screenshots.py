@@ -42,13 +42,13 @@ class Camera:
         self._folder = Path(folder)
         self._folder.mkdir(parents=True, exist_ok=True)
 
-    def take(self, game, name):
-        """The part of the screen that the game's window and its frame cover, once it has stopped changing."""
+    def take(self, game, name, title="Tetrad Game"):
+        """The part of the screen that the window with this title and its frame cover, once it has stopped changing."""
         last = b""
 
         def settled():
             nonlocal last
-            picture = self._grab(game)
+            picture = self._grab(game, title)
             same, last = picture == last, picture
             return same
 
@@ -57,8 +57,9 @@ class Camera:
         subprocess.run(["convert", "ppm:-", "-strip", str(path)], input=last, check=True)
         print(path)
 
-    def _grab(self, game):
-        x, y, width, height = self._desktop.framed_rectangle(self._desktop.window_of(game.process.pid))
+    def _grab(self, game, title):
+        window = self._desktop.window_of(game.process.pid, title)
+        x, y, width, height = self._desktop.framed_rectangle(window)
         return self._desktop.run("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage", "ppm:-",
                                  binary=True)
 

@@ -1,0 +1,43 @@
+"""Takes pictures of the running examples; run by tools/screenshots. One argument: the folder to put them in."""
+
+import contextlib
+import sys
+
+from desktop import Desktop
+from examples import Example
+from screenshots import Camera
+
+
+@contextlib.contextmanager
+def running(desktop, name):
+    example = Example(desktop, name)
+    try:
+        example.wait_for_start()
+        yield example
+    finally:
+        example.end()
+
+
+def take(camera, example):
+    camera.take(example, f"example-{example.title.lower()}", example.title)
+
+
+def main(folder):
+    desktop = Desktop.shared()
+    camera = Camera(desktop, folder)
+    with running(desktop, "hello") as hello:
+        hello.answer("Ada", "What is your name?")
+        hello.wait_for_line("Hello, Ada!")
+        take(camera, hello)
+    with running(desktop, "sketch") as sketch:
+        sketch.wait_for_key_prompt("Any key ends the program:")
+        take(camera, sketch)
+    with running(desktop, "keys") as keys:
+        keys.wait_for_screen("column 10, row 4\n")
+        desktop.press("d", "d", "d", "w")
+        keys.wait_for_screen("column 13, row 3\n")
+        take(camera, keys)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])

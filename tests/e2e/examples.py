@@ -1,0 +1,62 @@
+"""The example programs: started by name, read through accessibility and pixel by pixel."""
+
+import os
+from pathlib import Path
+
+from playing import REPOSITORY, Game
+
+EXAMPLES = Path(os.environ.get("TETRAD_EXAMPLES", REPOSITORY / "build" / "examples"))
+
+
+class Example(Game):
+    """One run of an example. Its window's title is its name with a capital."""
+
+    def __init__(self, desktop, name):
+        super().__init__(desktop, command=[str(EXAMPLES / name)])
+        self.title = name.capitalize()
+
+    def wait_for_key_prompt(self, prompt):
+        """Waits until a key panel with this prompt has the keyboard."""
+
+        def asked():
+            panel = self.application.find("filler", "panel", name=prompt)
+            return panel if panel and "focused" in panel.states else None
+
+        return self._wait(asked, f"a key panel named {prompt!r}")
+
+    def wait_for_screen(self, text):
+        """Waits until the console shows exactly this."""
+        self._wait(lambda: self.screen() == text, f"a console that says {text!r}")
+
+    def wait_for_line(self, line):
+        """Waits until the console has this line, and returns all of its lines."""
+        return self._wait(lambda: (lines := self.screen().split("\n")) and line in lines and lines, f"the line {line!r}")
+
+    def wait_for_pixel(self, x, y, colour):
+        """Waits until this place of the console, in its own coordinates, has the colour."""
+        self._wait(lambda: self.picture().pixel(x, y) == colour, f"the colour {colour} at ({x}, {y})")
+
+    def picture(self):
+        """What the screen shows of the console now."""
+        x, y, width, height = self.console().rectangle
+        return Picture(self.desktop.run("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage",
+                                        "-depth", "8", "ppm:-", binary=True))
+
+
+class Picture:
+    def __init__(self, portable_pixmap):
+        # "P6", width and height, largest value, one white space, then three bytes a pixel.
+        _, size, _, self._pixels = portable_pixmap.split(b"\n", 3)
+        self.width, self.height = (int(number) for number in size.split())
+
+    def pixel(self, x, y):
+        """Red, green and blue, 0 to 255."""
+        start = 3 * (y * self.width + x)
+        return tuple(self._pixels[start:start + 3])
+
+    def row(self, y):
+        return [self.pixel(x, y) for x in range(self.width)]
+
+    def ink(self, top, bottom, paper):
+        """The x of each column that holds anything but paper between two heights."""
+        return [x for x in range(self.width) if any(self.pixel(x, y) != paper for y in range(top, bottom))]

@@ -1,0 +1,130 @@
+"""The example programs, driven by keys and mouse as a person would."""
+
+import itertools
+
+from examples import Example
+from playing import PlayingTest
+
+ANY_KEY = "Any key ends the program:"
+BLACK, WHITE, RED, GREEN = (0, 0, 0), (255, 255, 255), (255, 0, 0), (0, 255, 0)
+CYAN, MAGENTA, YELLOW = (0, 255, 255), (255, 0, 255), (255, 255, 0)
+
+
+class ExampleTest(PlayingTest):
+    def start(self, name):
+        example = Example(self.desktop, name)
+        self.games.append(example)
+        example.wait_for_start()
+        return example
+
+
+class TestHello(ExampleTest):
+    def test_each_kind_of_answer(self):
+        for name, typed, key, reply in [
+            ("a name", "Ada", "Return", "Hello, Ada!"),
+            ("a name that looks like a format", "%d %@", "Return", "Hello, %d %@!"),
+            ("nothing", "", "Return", "A short name."),
+            ("nothing wanted", "Ada", "Escape", "A secret, then."),
+        ]:
+            with self.subTest(name):
+                hello = self.start("hello")
+                hello.wait_for_prompt("What is your name?")
+                hello.type(typed)
+                self.desktop.press(key)
+                hello.wait_for_key_prompt(ANY_KEY)
+                self.assertEqual(hello.wait_for_line(reply)[0], "Good day.")
+                self.desktop.press("space")
+                self.assert_clean_end(hello)
+
+    def test_the_quit_item_by_mouse_instead_of_an_answer(self):
+        hello = self.start("hello")
+        hello.wait_for_prompt("What is your name?")
+        hello.choose("Hello", "Quit Hello")
+        self.assert_clean_end(hello)
+
+
+class TestSketch(ExampleTest):
+    def setUp(self):
+        super().setUp()
+        self.sketch = self.start("sketch")
+        self.sketch.wait_for_key_prompt(ANY_KEY)
+        # Drawn last, so everything is on the screen.
+        self.sketch.wait_for_pixel(20, 230, MAGENTA)
+        self.picture = self.sketch.picture()
+
+    def test_shapes(self):
+        for name, place, colour in [
+            ("outline of the rectangle without fill", (70, 120), BLACK),
+            ("its inside", (20, 130), WHITE),
+            ("outline of the filled one", (70, 140), RED),
+            ("its inside", (70, 160), GREEN),
+            ("middle of the oval", (210, 160), CYAN),
+            ("corner of the oval's bounds", (154, 124), WHITE),
+            ("middle of the first line", (340, 160), BLACK),
+            ("middle of the line from where it ended", (420, 160), BLACK),
+            ("between the two", (380, 150), WHITE),
+            ("behind large text", (12, 71), YELLOW),
+        ]:
+            with self.subTest(name):
+                self.assertEqual(self.picture.pixel(*place), colour)
+
+    def test_dashes(self):
+        runs = [(colour, len(list(run))) for colour, run in itertools.groupby(self.picture.row(230))]
+        dashes = [length for colour, length in runs if colour == MAGENTA]
+        # 460 pixels, one dash and gap every 22; round ends of 3 pixels make 18 out of 12.
+        self.assertEqual(len(dashes), 21)
+        self.assertTrue(all(16 <= length <= 18 for length in dashes[1:-1]), dashes)
+
+    def test_where_texts_stand(self):
+        words = {name: self.words(top) for name, top in [("alignments", 4), ("tabs", 46), ("cell", 28)]}
+        left, centred, right = words["alignments"]
+        self.assertAlmostEqual(left[0], 3, delta=2)
+        self.assertAlmostEqual(sum(centred) / 2, self.picture.width / 2, delta=2)
+        self.assertAlmostEqual(right[1], self.picture.width, delta=3)
+        self.assertEqual([round((start - 10) / 80, 1) for start, _ in words["tabs"]], [0, 1, 2])
+        # 40 digits of 7.2 pixels.
+        self.assertAlmostEqual(words["cell"][-4][0], 289, delta=2)
+
+    def test_what_is_read_aloud_and_the_end_by_a_key(self):
+        self.sketch.wait_for_line("one two three")
+        x, y, width, height = self.sketch.console().rectangle
+        self.desktop.click(x + width // 2, y + height // 2)
+        self.desktop.press("x")
+        self.assert_clean_end(self.sketch)
+
+    def words(self, top):
+        """First and last column of each word on a line of text; letters are less than 6 pixels apart."""
+        words = []
+        for x in self.picture.ink(top, top + 14, WHITE):
+            if words and x - words[-1][1] < 6:
+                words[-1][1] = x
+            else:
+                words.append([x, x])
+        return words
+
+
+class TestKeys(ExampleTest):
+    def test_keys_move_the_dot(self):
+        keys = self.start("keys")
+        for name, pressed, column, row in [
+            ("start", [], 10, 4),
+            ("each direction", ["d", "d", "w", "a"], 11, 3),
+            ("capitals", ["shift+S", "shift+D"], 12, 4),
+            ("refused keys", ["x", "1", "Return", "Tab", "Left", "d"], 13, 4),
+            ("typed faster than read", ["a"] * 12, 1, 4),
+            ("stopped by the edges", ["a"] * 3 + ["w"] * 6, 0, 0),
+            ("the opposite corner", ["d"] * 25 + ["s"] * 9, 19, 7),
+        ]:
+            with self.subTest(name):
+                if pressed:
+                    self.desktop.press(*pressed)
+                keys.wait_for_screen(f"column {column}, row {row}\n")
+                keys.wait_for_pixel(20 + 20 * column, 40 + 20 * row, RED)
+        self.desktop.press("Escape")
+        self.assert_clean_end(keys)
+
+    def test_the_close_box(self):
+        keys = self.start("keys")
+        keys.wait_for_screen("column 10, row 4\n")
+        self.desktop.press("alt+F4")
+        self.assert_clean_end(keys)
