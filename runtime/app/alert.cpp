@@ -11,11 +11,13 @@
 #include "runtime/app/window_delegate.h"
 #include "runtime/strings/error_object.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 
 #include <utility>
 
@@ -29,16 +31,11 @@ constexpr char titleKey[] = "alertButtonTitle";
 // No close box: a title alone, on the platforms that honour the hint.
 constexpr Qt::WindowFlags alertFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
 
-QMessageBox::Icon iconOf(qint64 style)
+// The application's own icon, or none if it has none; only a critical alert has an icon of its own.
+QPixmap iconOf(const Alert &alert)
 {
-    switch (style) {
-    case alertStyleInformational:
-        return QMessageBox::Information;
-    case alertStyleCritical:
-        return QMessageBox::Critical;
-    default:
-        return QMessageBox::Warning;
-    }
+    const int size = alert.QWidget::style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &alert);
+    return QApplication::windowIcon().pixmap(QSize(size, size), alert.devicePixelRatio());
 }
 
 } // namespace
@@ -88,7 +85,16 @@ void Alert::setSheet(bool sheet)
 void Alert::setStyle(qint64 style)
 {
     m_style = style;
-    setIcon(iconOf(style));
+    updateIcon();
+}
+
+void Alert::updateIcon()
+{
+    if (m_style == alertStyleCritical) {
+        setIcon(QMessageBox::Critical);
+    } else {
+        setIconPixmap(iconOf(*this));
+    }
 }
 
 void Alert::setMessageText(const QString &text)
@@ -268,6 +274,7 @@ void Alert::prepareToShow()
         addAlertButton(tr("OK"));
     }
     if (!isVisible()) {
+        updateIcon();
         fitTextsToScreen(this);
     }
     for (QWidget *child : findChildren<QWidget *>()) {

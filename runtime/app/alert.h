@@ -35,7 +35,8 @@ public:
     bool sheet() const;
     void setSheet(bool sheet);
 
-    /// An AlertStyle; a number that is none shows as a warning.
+    /// An AlertStyle; a number that is none shows as a warning. A critical alert has that icon, any other the
+    /// application's, as it is when the alert is shown, or none if there is none.
     qint64 style() const { return m_style; }
     void setStyle(qint64 style);
 
@@ -95,6 +96,7 @@ private:
     void onFinished();
     void endSheet();
     void updateAccessibleName();
+    void updateIcon();
 
     QList<QPushButton *> m_buttons;
     QPushButton *m_helpButton = nullptr;

@@ -8,6 +8,7 @@
 #include "runtime/strings/string_stack.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPointer>
 
 namespace tetrad {
@@ -15,6 +16,16 @@ namespace tetrad {
 namespace {
 
 QPointer<CUI_AppDelegate> installedDelegate;
+
+// Also a program installed where the desktop does not look, in a prefix of its own, finds its icon.
+void giveIcon()
+{
+    const QString besideProgram = QCoreApplication::applicationDirPath() + u"/../share/icons"_qs;
+    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << besideProgram);
+    if (QApplication::windowIcon().isNull()) {
+        QApplication::setWindowIcon(QIcon::fromTheme(applicationId()));
+    }
+}
 
 } // namespace
 
@@ -24,6 +35,7 @@ void CocoaInit()
     if (installedDelegate != nullptr) {
         return;
     }
+    giveIcon();
     setAppDelegate(new CUI_AppDelegate(qApp));
     setStringStackStop(&ZRFullStop);
     translatePlatformEvents();

@@ -1,0 +1,95 @@
+#include "runtime/app/alerts.h"
+#include "runtime/app/app_delegate.h"
+#include "runtime/app/application.h"
+#include "tests/app/alert_helper.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tetrad {
+
+namespace {
+
+using namespace testing_helpers;
+
+QPixmap filled(Qt::GlobalColor color)
+{
+    QPixmap picture(48, 48);
+    picture.fill(color);
+    return picture;
+}
+
+// The colour in the middle of a picture, invalid if there is none.
+QColor colorOf(const QPixmap &picture)
+{
+    const QImage image = picture.toImage();
+    return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
+}
+
+void installTheme(const QString &folder, const QString &iconName, const QPixmap &picture)
+{
+    const QString iconFolder = folder + u"/hicolor/48x48/apps/"_qs;
+    ASSERT_TRUE(QDir().mkpath(iconFolder));
+    ASSERT_TRUE(picture.save(iconFolder + iconName + u".png"_qs));
+    QFile index(folder + u"/hicolor/index.theme"_qs);
+    ASSERT_TRUE(index.open(QIODevice::WriteOnly));
+    index.write("[Icon Theme]\nName=hicolor\nDirectories=48x48/apps\n[48x48/apps]\nSize=48\nType=Fixed\n");
+    QIcon::setThemeSearchPaths({folder});
+    QIcon::setThemeName(u"hicolor"_qs);
+}
+
+TEST(ApplicationIcon, IsTheThemesNamedLikeTheId)
+{
+    const QTemporaryDir folder;
+    installTheme(folder.path(), u"org.example.Sketch"_qs, filled(Qt::red));
+    QCoreApplication::setApplicationName(u"Sketch"_qs);
+    QGuiApplication::setDesktopFileName(u"org.example.Sketch"_qs);
+    CocoaInit();
+    EXPECT_EQ(colorOf(QApplication::windowIcon().pixmap(48)), QColor(Qt::red));
+}
+
+TEST(ApplicationIcon, OfTheProgramsOwnStays)
+{
+    const QTemporaryDir folder;
+    installTheme(folder.path(), u"org.example.Sketch"_qs, filled(Qt::red));
+    QCoreApplication::setApplicationName(u"Sketch"_qs);
+    QGuiApplication::setDesktopFileName(u"org.example.Sketch"_qs);
+    QApplication::setWindowIcon(filled(Qt::blue));
+    CocoaInit();
+    EXPECT_EQ(colorOf(QApplication::windowIcon().pixmap(48)), QColor(Qt::blue));
+}
+
+TEST(AlertIcon, IsTheApplicationsUnlessCritical)
+{
+    for (const bool hasIcon : {false, true}) {
+        QApplication::setWindowIcon(hasIcon ? QIcon(filled(Qt::red)) : QIcon());
+        for (const qint64 style : {alertStyleWarning, alertStyleInformational, alertStyleCritical}) {
+            SCOPED_TRACE(style);
+            Alert alert;
+            alert.setStyle(style);
+            if (style == alertStyleCritical) {
+                EXPECT_EQ(alert.icon(), QMessageBox::Critical);
+            } else {
+                EXPECT_EQ(alert.icon(), QMessageBox::NoIcon);
+                EXPECT_EQ(colorOf(alert.iconPixmap()), hasIcon ? QColor(Qt::red) : QColor());
+            }
+        }
+    }
+}
+
+TEST(AlertIcon, IsTheOneOfTheTimeOfShowing)
+{
+    Alert alert;
+    QApplication::setWindowIcon(filled(Qt::red));
+    whenAlertRuns(clicks(0));
+    alert.runModal(nullptr);
+    EXPECT_EQ(colorOf(alert.iconPixmap()), QColor(Qt::red));
+}
+
+} // namespace
+
+} // namespace tetrad
