@@ -12,14 +12,14 @@ DialogFunction sCUI_OnDialogFunction = nullptr;
 
 void CUI_DialogEvent::releaseObjects()
 {
-    errorObj = {};
+    errorObj = ErrorObject();
     arrayObj.clear();
     otherUrlObj.clear();
     dragInfo.clear();
     pbTypes.clear();
     stringObj = QString();
-    fontObj = {};
-    colorObj = {};
+    fontObj = QFont();
+    colorObj = QColor();
     viewObj.clear();
     object.clear();
     menuObj.clear();

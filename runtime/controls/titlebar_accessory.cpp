@@ -19,7 +19,6 @@ QWidget *accessoryRow(const Window *window)
 
 void CUI_WindowAddTitlebarAccessoryView(Window *window, QWidget *view)
 {
-    const QRectF content = window->contentRect();
     QWidget *row = accessoryRow(window);
     if (!row) {
         row = new QWidget(window);
@@ -29,8 +28,6 @@ void CUI_WindowAddTitlebarAccessoryView(Window *window, QWidget *view)
     row->layout()->addWidget(view);
     view->show();
     row->show();
-    // The bar may have become higher; that is not taken from the content.
-    window->setContentRect(content);
 }
 
 QList<QWidget *> titlebarAccessoryViews(const Window *window)

@@ -38,9 +38,7 @@ QToolBar *newToolbar(Window *window, Tag tag)
     toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setObjectTag(toolbar, tag);
     setObjectWindowTag(toolbar, window->tag());
-    const QRectF content = window->contentRect();
     window->addToolBar(toolbar);
-    window->setContentRect(content);
     return toolbar;
 }
 
