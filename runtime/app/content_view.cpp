@@ -3,6 +3,7 @@
 #include "runtime/app/current_event.h"
 #include "runtime/app/output_window.h"
 #include "runtime/controls/dialog_event.h"
+#include "runtime/controls/view_event_code.h"
 #include "runtime/controls/view_events.h"
 
 #include <QContextMenuEvent>
@@ -15,57 +16,6 @@
 #include <utility>
 
 namespace tetrad {
-
-namespace {
-
-bool isModifier(int key)
-{
-    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
-}
-
-qint64 keyCode(const QKeyEvent *event, qint64 code)
-{
-    return isModifier(event->key()) ? viewEventFlagsChanged : code;
-}
-
-qint64 buttonCode(const QMouseEvent *event, qint64 left, qint64 right)
-{
-    return event->button() == Qt::LeftButton ? left : event->button() == Qt::RightButton ? right : 0;
-}
-
-qint64 moveCode(const QMouseEvent *event)
-{
-    if (event->buttons() & Qt::LeftButton) {
-        return viewEventMouseDragged;
-    }
-    return event->buttons() & Qt::RightButton ? viewEventRightMouseDragged : viewEventMouseMoved;
-}
-
-// 0 for what a view does not report.
-qint64 viewEventCode(const QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: // the second press of two
-        return buttonCode(static_cast<const QMouseEvent *>(event), viewEventMouseDown, viewEventRightMouseDown);
-    case QEvent::MouseButtonRelease:
-        return buttonCode(static_cast<const QMouseEvent *>(event), viewEventMouseUp, viewEventRightMouseUp);
-    case QEvent::MouseMove:
-        return moveCode(static_cast<const QMouseEvent *>(event));
-    case QEvent::Enter:
-        return viewEventMouseEntered;
-    case QEvent::Leave:
-        return viewEventMouseExited;
-    case QEvent::KeyPress:
-        return keyCode(static_cast<const QKeyEvent *>(event), viewEventKeyDown);
-    case QEvent::KeyRelease:
-        return keyCode(static_cast<const QKeyEvent *>(event), viewEventKeyUp);
-    default:
-        return 0;
-    }
-}
-
-} // namespace
 
 ContentViewSC::ContentViewSC(QWidget *parent) : QWidget(parent)
 {
@@ -169,7 +119,7 @@ bool ContentViewSC::reports(qint64 code, QEvent *event)
     CUI_DialogEventObj()->boolVal = false;
     const CurrentEventScope scope(event);
     CUI_OutputWindowSetTag(wndTag);
-    CallUserDefinedOnDialogFunction(code, contentViewTag, wndTag, 0);
+    CallUserDefinedOnDialogFunction(code, contentViewTag, wndTag, code == viewEventDraw ? 0 : tagFromEvent(event));
     return !guard || CUI_DialogEventObj()->boolVal;
 }
 

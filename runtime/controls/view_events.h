@@ -20,16 +20,17 @@ enum ViewEvent : qint64 {
     viewEventRightMouseUp = 2010,
     viewEventKeyDown = 2011,
     viewEventKeyUp = 2012,
-    viewEventFlagsChanged = 2013, ///< a modifier key went down or up
-    viewEventResetCursorRects = 2015,
-    viewEventDraggingEntered = 2016,
+    viewEventFlagsChanged = 2013,     ///< a modifier key went down or up
+    viewEventResetCursorRects = 2015, ///< object 0
+    viewEventDraggingEntered =
+        2016, ///< arrayObj: file addresses; pbTypes: MIME types; pasteboardObj: the data; pointVal
     viewEventDraggingExited = 2020,
-    viewEventPerformDrag = 2022,
-    viewEventAppearanceChanged = 2025,
-    viewEventMenu = 2026,             ///< menuObj: the menu to pop up, in and out
-    viewEventWantsUpdateLayer = 2027, ///< boolVal: the answer; object 0
-    viewEventUpdateLayer = 2028,      ///< object 0
-    viewEventAwakeFromNib = 2029,
+    viewEventPerformDrag = 2022,       ///< the same; boolVal: whether the drop was taken
+    viewEventAppearanceChanged = 2025, ///< object 0
+    viewEventMenu = 2026,              ///< menuObj: the menu to pop up, in and out
+    viewEventWantsUpdateLayer = 2027,  ///< boolVal: whether 2028 is sent in place of 2000; object 0
+    viewEventUpdateLayer = 2028,       ///< object 0
+    viewEventAwakeFromNib = 2029,      ///< object 0
 };
 
 } // namespace tetrad
