@@ -25,6 +25,12 @@ inline void whenAlertRuns(std::function<void(Alert *)> action)
     });
 }
 
+/// What answers an alert with a click on one of its buttons.
+inline std::function<void(Alert *)> clicks(int index)
+{
+    return [index](Alert *alert) { alert->alertButtons().at(index)->click(); };
+}
+
 inline QStringList titlesOf(const Alert *alert)
 {
     QStringList titles;

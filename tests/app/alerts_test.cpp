@@ -3,16 +3,14 @@
 #include "runtime/app/alert.h"
 #include "runtime/app/alert_delegate.h"
 #include "runtime/app/application.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
-#include "runtime/controls/dialog_event.h"
 #include "runtime/strings/error_object.h"
-#include "runtime/strings/not_given.h"
 #include "tests/app/alert_helper.h"
+#include "tests/app/window_helper.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include <gtest/gtest.h>
@@ -25,6 +23,8 @@ namespace {
 
 using namespace testing_helpers;
 
+using Answer = std::function<void(Alert *)>;
+
 QStringList dialogEvents;
 
 qint64 noteEvent(qint64 event, Tag tag, Tag wndTag, qint64 /*obj*/)
@@ -33,7 +33,7 @@ qint64 noteEvent(qint64 event, Tag tag, Tag wndTag, qint64 /*obj*/)
     return 0;
 }
 
-class Alerts : public testing::Test
+class Alerts : public WindowTest
 {
 protected:
     void SetUp() override
@@ -43,162 +43,138 @@ protected:
     }
     void TearDown() override
     {
-        CUI_SetOnDialogFunction(nullptr);
         EXPECT_TRUE(noAlertLeft());
+        WindowTest::TearDown();
     }
 
-    static void define(Tag tag, const QVariant &buttons)
+    static void define(Tag tag, const QVariant &buttons = u"Quit;Play Again"_qs)
     {
         CUI_Alert(-tag, notGiven, u"Correct"_qs, u"You won!"_qs, buttons, notGiven);
     }
     static qint64 show(Tag tag) { return CUI_Alert(tag, notGiven, {}, {}, {}, notGiven); }
 };
 
-struct ButtonsRow
+TEST_F(Alerts, ButtonsAreMadeOnceFromTheTitles)
 {
-    const char *name;
-    QVariant buttons;
-    QStringList titles;
-};
-
-class AlertButtons : public Alerts, public testing::WithParamInterface<ButtonsRow>
-{};
-
-TEST_P(AlertButtons, AreMadeOnceFromTheTitles)
-{
-    define(5, GetParam().buttons);
-    EXPECT_EQ(titlesOf(CUI_AlertWithTag(5)), GetParam().titles);
-    show(-5);
+    const struct
+    {
+        const char *name;
+        QVariant buttons;
+        QStringList titles;
+    } rows[] = {
+        {"text", u"Quit;Play Again"_qs, {u"Quit"_qs, u"Play Again"_qs}},
+        {"empty pieces", u"A;;B;"_qs, {u"A"_qs, u""_qs, u"B"_qs, u""_qs}},
+        {"empty text", u""_qs, {u""_qs}},
+        {"ampersand", u"Save & Quit"_qs, {u"Save & Quit"_qs}},
+        {"list", QStringList{u"a;b"_qs}, {u"a;b"_qs}},
+        {"list of variants", QVariantList{u"x"_qs, u"y"_qs}, {u"x"_qs, u"y"_qs}},
+        {"none", QVariant(), {}},
+        {"no text", QString(), {}},
+        {"neither text nor list", 7, {}},
+    };
+    for (const auto &row : rows) {
+        define(5, row.buttons);
+        EXPECT_EQ(titlesOf(CUI_AlertWithTag(5)), row.titles) << row.name;
+        show(-5);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Titles, AlertButtons,
-                         testing::Values(ButtonsRow{"text", u"Quit;Play Again"_qs, {u"Quit"_qs, u"Play Again"_qs}},
-                                         ButtonsRow{"emptyPieces", u"A;;B;"_qs, {u"A"_qs, u""_qs, u"B"_qs, u""_qs}},
-                                         ButtonsRow{"emptyText", u""_qs, {u""_qs}},
-                                         ButtonsRow{"ampersand", u"Save & Quit"_qs, {u"Save & Quit"_qs}},
-                                         ButtonsRow{"list", QStringList{u"a;b"_qs}, {u"a;b"_qs}},
-                                         ButtonsRow{"variants", QVariantList{u"x"_qs, u"y"_qs}, {u"x"_qs, u"y"_qs}},
-                                         ButtonsRow{"null", QVariant(), {}}, ButtonsRow{"nullText", QString(), {}},
-                                         ButtonsRow{"otherKind", 7, {}}),
-                         [](const auto &row) { return std::string(row.param.name); });
-
-struct AnswerRow
+Answer presses(Qt::Key key)
 {
-    const char *name;
-    std::function<void(Alert *)> answer;
-    qint64 code;
-};
-
-class AlertAnswer : public Alerts, public testing::WithParamInterface<AnswerRow>
-{};
-
-TEST_P(AlertAnswer, IsReturnedReportedAndForgotten)
-{
-    define(2, u"Quit;Play Again"_qs);
-    whenAlertRuns([](Alert *alert) {
-        EXPECT_EQ(alert->text(), u"Correct"_qs);
-        EXPECT_EQ(alert->informativeText(), u"You won!"_qs);
-        GetParam().answer(alert);
-    });
-    EXPECT_EQ(show(2), GetParam().code);
-    EXPECT_EQ(dialogEvents, QStringList{u"1000 %1 2"_qs.arg(GetParam().code)});
-    EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
+    return [key](Alert *alert) { pressKey(alert, key); };
 }
 
-// Whatever must not answer comes first and the second button then ends the run.
-void thenSecond(Alert *alert)
+// What must not answer comes first; the second button then ends the run.
+Answer notBy(const Answer &first)
 {
-    EXPECT_TRUE(alert->isVisible());
-    alert->alertButtons().at(1)->click();
+    return [first](Alert *alert) {
+        first(alert);
+        EXPECT_TRUE(alert->isVisible());
+        clicks(1)(alert);
+    };
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Ways, AlertAnswer,
-    testing::Values(AnswerRow{"clickFirst", [](Alert *alert) { alert->alertButtons().at(0)->click(); }, 1000},
-                    AnswerRow{"clickSecond", [](Alert *alert) { alert->alertButtons().at(1)->click(); }, 1001},
-                    AnswerRow{"returnPressesFirst", [](Alert *alert) { pressKey(alert, Qt::Key_Return); }, 1000},
-                    AnswerRow{"enterPressesFirst", [](Alert *alert) { pressKey(alert, Qt::Key_Enter); }, 1000},
-                    AnswerRow{"tabThenReturn",
-                              [](Alert *alert) {
-                                  pressKey(alert, Qt::Key_Tab);
-                                  pressKey(alert, Qt::Key_Return);
-                              },
-                              1001},
-                    AnswerRow{"heldReturn",
-                              [](Alert *alert) {
-                                  pressKey(alert, Qt::Key_Return, true);
-                                  thenSecond(alert);
-                              },
-                              1001},
-                    AnswerRow{"heldSpace",
-                              [](Alert *alert) {
-                                  pressKey(alert, Qt::Key_Space, true);
-                                  thenSecond(alert);
-                              },
-                              1001},
-                    AnswerRow{"escape",
-                              [](Alert *alert) {
-                                  pressKey(alert, Qt::Key_Escape);
-                                  thenSecond(alert);
-                              },
-                              1001},
-                    AnswerRow{"closeRequest",
-                              [](Alert *alert) {
-                                  alert->close();
-                                  thenSecond(alert);
-                              },
-                              1001},
-                    AnswerRow{"stoppedByTheProgram", [](Alert *) { stopModalWithCode(1001); }, 1001},
-                    AnswerRow{"aborted", [](Alert *) { abortModal(); }, 0}),
-    [](const auto &row) { return std::string(row.param.name); });
-
-struct KeyRow
+TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
 {
-    const char *name;
-    quint64 index;
-    QString key;
-    Qt::Key pressed;
-    Qt::KeyboardModifiers modifiers;
-    qint64 code; // 0: nothing happens
-};
-
-class AlertKey : public Alerts, public testing::WithParamInterface<KeyRow>
-{};
-
-TEST_P(AlertKey, PressesItsButton)
-{
-    const KeyRow &row = GetParam();
-    define(2, u"Quit;Play Again"_qs);
-    AlertButtonSetKeyEquivalent(2, row.index, row.key);
-    AlertButtonSetKeyEquivalent(3, row.index, row.key); // no such alert
-    whenAlertRuns([&row](Alert *alert) {
-        pressKey(alert, row.pressed, true, row.modifiers); // held down from before: never
-        EXPECT_TRUE(QTest::qWaitFor([alert] { return alert->isVisible(); }));
-        pressKey(alert, row.pressed, false, row.modifiers);
-        if (row.code == 0) {
-            EXPECT_FALSE(alert->alertButtons().at(0)->isDown() || alert->alertButtons().at(1)->isDown());
-            alert->dismiss();
-        }
-    });
-    EXPECT_EQ(show(2), row.code);
+    const auto tabThenReturn = [](Alert *alert) {
+        pressKey(alert, Qt::Key_Tab);
+        pressKey(alert, Qt::Key_Return);
+    };
+    const struct
+    {
+        const char *name;
+        Answer answer;
+        qint64 code;
+    } rows[] = {
+        {"click on the first", clicks(0), 1000},
+        {"click on the second", clicks(1), 1001},
+        {"Return presses the first", presses(Qt::Key_Return), 1000},
+        {"Enter too", presses(Qt::Key_Enter), 1000},
+        {"Tab moves what Return presses", tabThenReturn, 1001},
+        {"not a held Return", notBy([](Alert *alert) { pressKey(alert, Qt::Key_Return, true); }), 1001},
+        {"not a held space", notBy([](Alert *alert) { pressKey(alert, Qt::Key_Space, true); }), 1001},
+        {"not Escape", notBy(presses(Qt::Key_Escape)), 1001},
+        {"not a close request", notBy([](Alert *alert) { alert->close(); }), 1001},
+        {"stopped by the program", [](Alert *) { stopModalWithCode(1001); }, 1001},
+        {"aborted", [](Alert *) { abortModal(); }, 0},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        dialogEvents.clear();
+        define(2);
+        whenAlertRuns([&row](Alert *alert) {
+            EXPECT_EQ(alert->text(), u"Correct"_qs);
+            EXPECT_EQ(alert->informativeText(), u"You won!"_qs);
+            row.answer(alert);
+        });
+        EXPECT_EQ(show(2), row.code);
+        EXPECT_EQ(dialogEvents, QStringList{u"1000 %1 2"_qs.arg(row.code)});
+        EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, AlertKey,
-                         testing::Values(KeyRow{"pastTheLastButton", 2, u"\033"_qs, Qt::Key_Escape, {}, 0},
-                                         KeyRow{"negativeIndex", quint64(-1), u"\033"_qs, Qt::Key_Escape, {}, 0},
-                                         KeyRow{"escapeOnSecond", 1, u"\033"_qs, Qt::Key_Escape, {}, 1001},
-                                         KeyRow{"returnOnSecond", 1, u"\r"_qs, Qt::Key_Return, {}, 1001},
-                                         KeyRow{"letter", 1, u"p"_qs, Qt::Key_P, {}, 1001},
-                                         KeyRow{"upperCaseNeedsShift", 1, u"P"_qs, Qt::Key_P, {}, 0},
-                                         KeyRow{"upperCaseWithShift", 1, u"P"_qs, Qt::Key_P, Qt::ShiftModifier, 1001},
-                                         KeyRow{"spaceBeatsTheFocus", 1, u" "_qs, Qt::Key_Space, {}, 1001},
-                                         KeyRow{"noKeyTakesReturnAway", 0, u""_qs, Qt::Key_Return, {}, 0},
-                                         KeyRow{"anotherKeyTakesReturnAway", 0, u"q"_qs, Qt::Key_Return, {}, 0}),
-                         [](const auto &row) { return std::string(row.param.name); });
+TEST_F(Alerts, KeyEquivalentPressesItsButton)
+{
+    const struct
+    {
+        const char *name;
+        quint64 index;
+        QString key;
+        Qt::Key pressed;
+        Qt::KeyboardModifiers modifiers;
+        qint64 code; // 0: nothing happens
+    } rows[] = {
+        {"past the last button", 2, u"\033"_qs, Qt::Key_Escape, {}, 0},
+        {"Escape on the second", 1, u"\033"_qs, Qt::Key_Escape, {}, 1001},
+        {"Return on the second", 1, u"\r"_qs, Qt::Key_Return, {}, 1001},
+        {"letter", 1, u"p"_qs, Qt::Key_P, {}, 1001},
+        {"upper case needs Shift", 1, u"P"_qs, Qt::Key_P, {}, 0},
+        {"upper case with Shift", 1, u"P"_qs, Qt::Key_P, Qt::ShiftModifier, 1001},
+        {"space beats the focus", 1, u" "_qs, Qt::Key_Space, {}, 1001},
+        {"no key takes Return away", 0, u""_qs, Qt::Key_Return, {}, 0},
+        {"another key takes Return away", 0, u"q"_qs, Qt::Key_Return, {}, 0},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        define(2);
+        AlertButtonSetKeyEquivalent(2, row.index, row.key);
+        AlertButtonSetKeyEquivalent(3, row.index, row.key); // no such alert
+        whenAlertRuns([&row](Alert *alert) {
+            pressKey(alert, row.pressed, true, row.modifiers); // held down from before: never
+            EXPECT_TRUE(alert->isVisible());
+            pressKey(alert, row.pressed, false, row.modifiers);
+            if (row.code == 0) {
+                EXPECT_FALSE(alert->alertButtons().at(0)->isDown() || alert->alertButtons().at(1)->isDown());
+                alert->dismiss();
+            }
+        });
+        EXPECT_EQ(show(2), row.code);
+    }
+}
 
 TEST_F(Alerts, UpdateKeepsWhatIsNotGivenAndNeverTouchesButtons)
 {
-    define(2, u"Quit;Play Again"_qs);
+    define(2);
     whenAlertRuns([](Alert *alert) {
         EXPECT_EQ(alert->text(), u"Correct"_qs);
         EXPECT_EQ(alert->informativeText(), u"a < b & <b>c</b>"_qs);
@@ -207,24 +183,15 @@ TEST_F(Alerts, UpdateKeepsWhatIsNotGivenAndNeverTouchesButtons)
         for (const QLabel *label : alert->findChildren<QLabel *>()) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText);
         }
-        alert->alertButtons().at(0)->click();
+        clicks(0)(alert);
     });
     EXPECT_EQ(CUI_Alert(2, alertStyleCritical, {}, u"a < b & <b>c</b>"_qs, u"X"_qs, 0), 1000);
-}
-
-TEST_F(Alerts, ShownTwiceWithoutRedefiningIsEmptyWithOneOkButton)
-{
-    for (const QString &text : {u"Correct"_qs, u""_qs}) {
-        if (!text.isEmpty()) {
-            define(2, u"Quit;Play Again"_qs);
-        }
-        whenAlertRuns([&text](Alert *alert) {
-            EXPECT_EQ(alert->text(), text);
-            EXPECT_EQ(titlesOf(alert).size(), text.isEmpty() ? 1 : 2);
-            alert->alertButtons().back()->click();
-        });
-        EXPECT_EQ(show(2), text.isEmpty() ? 1000 : 1001);
-    }
+    whenAlertRuns([](Alert *alert) {
+        EXPECT_EQ(alert->text(), u""_qs) << "shown once it is forgotten";
+        EXPECT_EQ(titlesOf(alert).size(), 1) << "the platform's own OK";
+        clicks(0)(alert);
+    });
+    EXPECT_EQ(show(2), 1000);
 }
 
 TEST_F(Alerts, ErrorObjectGivesTheTextsAndTheButton)
@@ -236,7 +203,7 @@ TEST_F(Alerts, ErrorObjectGivesTheTextsAndTheButton)
             EXPECT_TRUE(alert->text().contains(error.description.isEmpty() ? u"disk error 28"_qs : error.description));
             EXPECT_EQ(alert->style(), alertStyleWarning);
             EXPECT_EQ(titlesOf(alert), QStringList{u"OK"_qs});
-            alert->alertButtons().at(0)->click();
+            clicks(0)(alert);
         });
         EXPECT_EQ(CUI_Alert(3, alertStyleCritical, QVariant::fromValue(error), u"unused"_qs, u"A;B"_qs, notGiven),
                   1000);
@@ -260,7 +227,7 @@ TEST_F(Alerts, LongTextsStayOnTheScreenInFull)
 
 TEST_F(Alerts, LookupByTagComparesAsGivenAndTakesAddresses)
 {
-    define(2, u"A"_qs);
+    define(2);
     Alert *const alert = CUI_AlertWithTag(2);
     ASSERT_NE(alert, nullptr);
     EXPECT_EQ(CUI_AlertWithTag(tagFromObject(alert)), alert);
@@ -276,80 +243,59 @@ TEST_F(Alerts, AProgramsOwnAlertIsShownByAddressAndStaysItsOwn)
     alert.addAlertButton(u"A"_qs);
     alert.addAlertButton(u"B"_qs);
     for (const int index : {1, 0}) {
-        whenAlertRuns([index](Alert *shown) { shown->alertButtons().at(index)->click(); });
+        whenAlertRuns(clicks(index));
         EXPECT_EQ(show(tagFromObject(&alert)), 1000 + index);
     }
 }
 
-TEST_F(Alerts, DismissedUnshownReportsZero)
+TEST_F(Alerts, DismissedUnshownOrWhileRunningReportsZero)
 {
-    define(2, u"A"_qs);
+    define(2);
     EXPECT_EQ(show(-2), 0);
     EXPECT_EQ(dialogEvents, QStringList{u"1000 0 2"_qs});
     EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
-}
 
-TEST_F(Alerts, DismissedWhileRunningEndsTheRunAndReportsBoth)
-{
-    define(2, u"A;B"_qs);
+    define(2);
+    dialogEvents.clear();
     whenAlertRuns([](Alert *) { EXPECT_EQ(show(-2), 0); });
     EXPECT_EQ(show(2), 0);
-    EXPECT_EQ(dialogEvents, (QStringList{u"1000 0 2"_qs, u"1000 0 2"_qs}));
-}
-
-TEST_F(Alerts, RunSurvivesTheDeletionOfItsAlertOrWindow)
-{
-    for (const bool wholeWindow : {false, true}) {
-        CUI_Window(1, u"Owner"_qs, notGiven, {});
-        define(2, u"A;B"_qs);
-        whenAlertRuns([wholeWindow](Alert *alert) {
-            EXPECT_EQ(alert->parentWidget(), CUI_WindowWithTag(1));
-            delete (wholeWindow ? alert->parentWidget() : alert);
-        });
-        EXPECT_EQ(show(2), 0);
-        EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
-        if (!wholeWindow) {
-            delete CUI_WindowWithTag(1);
-        }
-    }
-}
-
-TEST_F(Alerts, ShownAgainFromItsOwnRunBothRunsEndWithTheAnswer)
-{
-    define(2, u"A;B"_qs);
-    qint64 inner = 0;
-    whenAlertRuns([&inner](Alert *) {
-        whenAlertRuns([](Alert *alert) { alert->alertButtons().at(1)->click(); });
-        inner = show(2);
-    });
-    EXPECT_EQ(show(2), 1001);
-    EXPECT_EQ(inner, 1001);
+    EXPECT_EQ(dialogEvents, (QStringList{u"1000 0 2"_qs, u"1000 0 2"_qs})) << "the dismissal and the run's end";
 }
 
 TEST_F(Alerts, DismissedBehindAnotherAlertEndsWhenItsTurnComes)
 {
-    define(2, u"A;B"_qs);
-    define(3, u"C;D"_qs);
+    define(2);
+    define(3);
     whenAlertRuns([](Alert *) {
-        whenAlertRuns([](Alert *alert) {
-            show(-2);
-            EXPECT_TRUE(alert->isVisible());
-            alert->alertButtons().at(1)->click();
-        });
+        whenAlertRuns(notBy([](Alert *) { show(-2); }));
         EXPECT_EQ(show(3), 1001);
     });
     EXPECT_EQ(show(2), 0);
 }
 
+TEST_F(Alerts, RunSurvivesTheDeletionOfItsAlertOrWindow)
+{
+    for (const bool wholeWindow : {false, true}) {
+        const QPointer<Window> owner = open(1);
+        define(2);
+        whenAlertRuns([&](Alert *alert) {
+            EXPECT_EQ(alert->parentWidget(), owner);
+            delete (wholeWindow ? owner.data() : static_cast<QWidget *>(alert));
+        });
+        EXPECT_EQ(show(2), 0);
+        EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
+    }
+}
+
 TEST_F(Alerts, SuppressionStateIsKeptByTheDelegate)
 {
     for (const bool checked : {true, false}) {
-        define(2, u"A"_qs);
+        define(2);
         CUI_AlertWithTag(2)->setShowsSuppressionButton(true);
         whenAlertRuns([checked](Alert *alert) {
             EXPECT_EQ(alert->checkBox()->text(), u"Do not show this message again"_qs);
             alert->checkBox()->setChecked(checked);
-            pressKey(alert, Qt::Key_Return);
+            clicks(0)(alert);
         });
         show(2);
         EXPECT_EQ(CUI_AlertDelegateObj()->lastSuppressionButtonState(), checked ? 1 : 0);
@@ -358,56 +304,49 @@ TEST_F(Alerts, SuppressionStateIsKeptByTheDelegate)
 
 TEST_F(Alerts, HelpAsksTheDelegateAndLeavesTheAlertOpen)
 {
-    define(2, u"A;B"_qs);
+    define(2);
     CUI_AlertWithTag(2)->setShowsHelp(true);
-    whenAlertRuns([](Alert *alert) {
+    whenAlertRuns(notBy([](Alert *alert) {
         alert->button(QMessageBox::Help)->click();
         EXPECT_EQ(dialogEvents, QStringList{u"1001 2 2"_qs});
         alert->setShowsHelp(false);
         EXPECT_EQ(alert->button(QMessageBox::Help), nullptr);
-        thenSecond(alert);
-    });
+    }));
     CUI_DialogEventObj()->boolVal = true;
     EXPECT_EQ(show(2), 1001);
     EXPECT_FALSE(CUI_DialogEventObj()->boolVal) << "the answer is preset to no";
 }
 
-TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnswered)
+TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
 {
-    CUI_Window(1, u"Owner"_qs, notGiven, {});
-    dialogEvents.clear();
-    EXPECT_EQ(CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1), 0);
-    Alert *const alert = CUI_AlertWithTag(4);
-    ASSERT_TRUE(alert && alert->isRunningAsSheet());
-    EXPECT_TRUE(alert->sheet());
-    EXPECT_EQ(alert->parentWidget(), CUI_WindowWithTag(1));
-    EXPECT_EQ(show(4), 0) << "already shown";
-    alert->alertButtons().at(1)->click();
-    QStringList told;
-    for (const QString &event : std::as_const(dialogEvents)) {
-        if (event.startsWith(u"1000 ") || event.startsWith(u"10000 ") || event.startsWith(u"10001 ") ||
-            event.startsWith(u"10002 ")) {
-            told << event;
-        }
+    Window *const owner = open(1);
+    const struct
+    {
+        const char *name;
+        Answer answer;
+        QString reported;
+    } rows[] = {
+        {"answered", clicks(1), u"1000 1001 4"_qs},
+        {"dismissed", [](Alert *) { show(-4); }, u"1000 0 4"_qs},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        dialogEvents.clear();
+        EXPECT_EQ(CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1), 0);
+        Alert *const alert = CUI_AlertWithTag(4);
+        ASSERT_TRUE(alert && alert->isRunningAsSheet() && alert->sheet());
+        EXPECT_EQ(alert->parentWidget(), owner);
+        EXPECT_EQ(show(4), 0) << "already shown";
+        row.answer(alert);
+        const QStringList told = dialogEvents.filter(QRegularExpression(u"^(1000|1000[012]) "_qs));
+        EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, row.reported}));
+        EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
     }
-    EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, u"1000 1001 4"_qs}));
-    EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
-    delete CUI_WindowWithTag(1);
-}
-
-TEST_F(Alerts, SheetDismissedReportsOnlyTheDismissal)
-{
-    CUI_Window(1, u"Owner"_qs, notGiven, {});
-    CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save"_qs, 1);
-    dialogEvents.clear();
-    show(-4);
-    EXPECT_EQ(dialogEvents.filter(u"1000 0 4"_qs).size(), 1);
-    delete CUI_WindowWithTag(1);
 }
 
 TEST_F(Alerts, SheetWithoutAWindowRunsModally)
 {
-    whenAlertRuns(thenSecond);
+    whenAlertRuns(clicks(1));
     EXPECT_EQ(CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1), 1001);
 }
 
@@ -423,7 +362,7 @@ TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
         EXPECT_EQ(titlesOf(alert), (QStringList{u"OK"_qs, u"Quit"_qs}));
         EXPECT_EQ(alert->tag(), 0);
         seen << QString(alert->text() % u' ' % alert->informativeText() % QString::number(alert->style()));
-        alert->alertButtons().at(0)->click();
+        clicks(0)(alert);
     };
     whenAlertRuns([&](Alert *alert) {
         answer(alert);
@@ -439,7 +378,7 @@ TEST_F(Alerts, QuitOfAWarningEndsTheProgram)
     EXPECT_EXIT(
         {
             CocoaInit();
-            whenAlertRuns(thenSecond);
+            whenAlertRuns(clicks(1));
             CUI_ShowAlert(alertStyleWarning, u"first"_qs, u"one"_qs);
             EXPECT_TRUE(QTest::qWaitFor([] { return false; }, 60000));
         },

@@ -7,7 +7,6 @@
 #include "runtime/app/window.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QFileOpenEvent>
 #include <QMenu>
 #include <QTest>
@@ -26,6 +25,8 @@ struct Seen
 {
     qint64 event;
     QVariant object;
+
+    friend bool operator==(const Seen &, const Seen &) = default;
 };
 
 QList<Seen> seen;
@@ -37,7 +38,12 @@ QVariant onAppEvent(qint64 event, const QVariant &object)
     if (answer) {
         answer(event);
     }
-    return QStringLiteral("answered");
+    return u"answered"_qs;
+}
+
+QVariant application()
+{
+    return QVariant::fromValue<QObject *>(qApp);
 }
 
 QList<qint64> codes()
@@ -53,122 +59,121 @@ QList<qint64> codes()
 
 TEST(Application, DelegateThatIsInstalledStays)
 {
-    CUI_AppDelegate *remembered = CUI_AppDelegateObj();
+    CUI_AppDelegate *const remembered = CUI_AppDelegateObj();
     EXPECT_EQ(CUI_AppDelegateObj(), remembered);
     CUI_AppDelegate own;
     setAppDelegate(&own);
     CocoaInit();
     EXPECT_EQ(CUI_AppDelegateObj(), &own);
-    setAppDelegate(nullptr);
-    CocoaInit();
-    CUI_AppDelegate *made = CUI_AppDelegateObj();
-    EXPECT_NE(made, remembered);
-    CocoaInit();
-    EXPECT_EQ(CUI_AppDelegateObj(), made);
-}
-
-TEST(Application, Names)
-{
-    CocoaInit();
-    EXPECT_EQ(applicationName(), u"Tetrad Game");
-    EXPECT_EQ(applicationId(), u"io.github.tetrad_game.Tetrad");
-    EXPECT_FALSE(applicationVersion().isEmpty());
 }
 
 TEST(Application, NameOfTheProgramsOwnStays)
 {
-    QCoreApplication::setApplicationName(QStringLiteral("Sketch"));
+    QCoreApplication::setApplicationName(u"Sketch"_qs);
     CocoaInit();
     EXPECT_EQ(applicationName(), u"Sketch");
 }
 
-TEST(AppDelegate, CallbacksStoreForwardAndAnswer)
+using Delegate = CUI_AppDelegate;
+
+TEST(AppDelegate, NotificationsAreForwarded)
 {
-    CUI_AppDelegate d;
-    const QVariant application = QVariant::fromValue<QObject *>(qApp);
-    const QVariant note = QStringLiteral("note");
-    const QString file = QStringLiteral("/a/b.txt");
-    const QVariantMap map = {{QStringLiteral("k"), 1}};
-    const ErrorObject error = {QStringLiteral("d"), 3, QStringLiteral("bad")};
-    const QVariantList urls = {QUrl::fromLocalFile(file), QUrl::fromLocalFile(QStringLiteral("/c"))};
-    const auto flag = [](bool value) { return QVariant(value); };
-    // What is called, and what is seen and answered then; a null answer stands for a callback without one.
     const struct
     {
-        std::function<QVariant()> call;
         qint64 code;
-        QVariant object;
-        QVariant reply;
+        void (Delegate::*notification)(const QVariant &);
     } rows[] = {
-        {[&] { return d.applicationWillFinishLaunching(note), QVariant(); }, 1, note, {}},
-        {[&] { return d.applicationDidFinishLaunching(note), QVariant(); }, 2, note, {}},
-        {[&] { return QVariant(d.applicationShouldTerminate()); }, 3, application, qint64(1)},
-        {[&] { return flag(d.applicationShouldTerminateAfterLastWindowClosed()); }, 4, application, false},
-        {[&] { return d.applicationWillTerminate(note), QVariant(); }, 5, note, {}},
-        {[&] { return d.applicationWillBecomeActive(note), QVariant(); }, 6, note, {}},
-        {[&] { return d.applicationDidBecomeActive(note), QVariant(); }, 7, note, {}},
-        {[&] { return d.applicationWillResignActive(note), QVariant(); }, 8, note, {}},
-        {[&] { return d.applicationDidResignActive(note), QVariant(); }, 9, note, {}},
-        {[&] { return d.applicationWillHide(note), QVariant(); }, 10, note, {}},
-        {[&] { return d.applicationDidHide(note), QVariant(); }, 11, note, {}},
-        {[&] { return d.applicationWillUnhide(note), QVariant(); }, 12, note, {}},
-        {[&] { return d.applicationDidUnhide(note), QVariant(); }, 13, note, {}},
-        {[&] { return d.applicationWillUpdate(note), QVariant(); }, 14, note, {}},
-        {[&] { return d.applicationDidUpdate(note), QVariant(); }, 15, note, {}},
-        {[&] { return flag(d.applicationShouldHandleReopen(false)); }, 16, application, true},
-        {[&] { return flag(d.applicationDockMenu() != nullptr); }, 17, application, false},
-        {[&] { return d.applicationDidChangeScreenParameters(note), QVariant(); }, 19, note, {}},
-        {[&] { return flag(d.openFileWithoutUI(file)); }, 20, file, false},
-        {[&] { return flag(d.openTempFile(file)); }, 21, file, false},
-        {[&] { return flag(d.applicationOpenUntitledFile()); }, 22, application, false},
-        {[&] { return flag(d.applicationShouldOpenUntitledFile()); }, 23, application, false},
-        {[&] { return flag(d.printFile(file)); }, 24, file, true},
-        {[&] { return QVariant(d.printFiles({file}, map, true)); }, 25, QStringList{file}, qint64(1)},
-        {[&] { return d.didRegisterForRemoteNotificationsWithDeviceToken("t"), QVariant(); }, 26, QByteArray("t"), {}},
-        {[&] { return d.didFailToRegisterForRemoteNotificationsWithError(error), QVariant(); },
-         27,
-         QVariant::fromValue(error),
-         {}},
-        {[&] { return d.didReceiveRemoteNotification(map), QVariant(); }, 28, map, {}},
-        {[&] { return d.didDecodeRestorableState(note), QVariant(); }, 29, note, {}},
-        {[&] { return d.willEncodeRestorableState(note), QVariant(); }, 30, note, {}},
-        {[&] { return flag(d.willContinueUserActivityWithType(QStringLiteral("t"))); }, 31, QStringLiteral("t"), false},
-        {[&] { return d.didFailToContinueUserActivityWithType(QStringLiteral("u"), error), QVariant(); },
-         33,
-         QStringLiteral("u"),
-         {}},
-        {[&] { return d.didUpdateUserActivity(note), QVariant(); }, 34, note, {}},
-        {[&] { return d.applicationDidChangeOcclusionState(note), QVariant(); }, 35, note, {}},
-        {[&] {
-             return d.openFiles({file, QStringLiteral("/c")}), QVariant();
-         },
-         36,
-         urls,
-         {}},
+        {1, &Delegate::applicationWillFinishLaunching},
+        {2, &Delegate::applicationDidFinishLaunching},
+        {5, &Delegate::applicationWillTerminate},
+        {6, &Delegate::applicationWillBecomeActive},
+        {7, &Delegate::applicationDidBecomeActive},
+        {8, &Delegate::applicationWillResignActive},
+        {9, &Delegate::applicationDidResignActive},
+        {10, &Delegate::applicationWillHide},
+        {11, &Delegate::applicationDidHide},
+        {12, &Delegate::applicationWillUnhide},
+        {13, &Delegate::applicationDidUnhide},
+        {14, &Delegate::applicationWillUpdate},
+        {15, &Delegate::applicationDidUpdate},
+        {19, &Delegate::applicationDidChangeScreenParameters},
+        {29, &Delegate::didDecodeRestorableState},
+        {30, &Delegate::willEncodeRestorableState},
+        {34, &Delegate::didUpdateUserActivity},
+        {35, &Delegate::applicationDidChangeOcclusionState},
     };
     CUI_SetOnAppEventFunction(onAppEvent);
+    CUI_AppDelegate delegate;
+    for (const auto &row : rows) {
+        (delegate.*row.notification)(u"note"_qs);
+        EXPECT_EQ(seen.takeLast(), (Seen{row.code, u"note"_qs})) << row.code;
+        EXPECT_TRUE(seen.isEmpty());
+    }
+}
+
+TEST(AppDelegate, QuestionsAreAnsweredAsPresetUnlessTheFunctionAnswers)
+{
+    CUI_AppDelegate d;
+    const QString file = u"/a/b.txt"_qs;
+    const struct
+    {
+        qint64 code;
+        std::function<qint64()> ask;
+        QVariant object;
+        qint64 preset;
+    } rows[] = {
+        {3, [&] { return d.applicationShouldTerminate(); }, application(), 1},
+        {4, [&] { return d.applicationShouldTerminateAfterLastWindowClosed(); }, application(), false},
+        {16, [&] { return d.applicationShouldHandleReopen(false); }, application(), true},
+        {17, [&] { return d.applicationDockMenu() != nullptr; }, application(), false},
+        {20, [&] { return d.openFileWithoutUI(file); }, file, false},
+        {21, [&] { return d.openTempFile(file); }, file, false},
+        {22, [&] { return d.applicationOpenUntitledFile(); }, application(), false},
+        {23, [&] { return d.applicationShouldOpenUntitledFile(); }, application(), false},
+        {24, [&] { return d.printFile(file); }, file, true},
+        {25,
+         [&] {
+             return d.printFiles({file}, {{u"copies"_qs, 2}}, true);
+         },
+         QStringList{file}, 1},
+        {31, [&] { return d.willContinueUserActivityWithType(u"type"_qs); }, u"type"_qs, false},
+    };
+    CUI_SetOnAppEventFunction(onAppEvent);
+    QMenu dock;
     for (const auto &row : rows) {
         SCOPED_TRACE(row.code);
+        EXPECT_EQ(row.ask(), row.preset);
+        EXPECT_EQ(seen.takeLast(), (Seen{row.code, row.object}));
+        answer = [&](qint64) {
+            d.setBoolVal(row.preset == 0);
+            d.setLongVal(row.preset == 0);
+            d.setMenuObj(&dock);
+        };
+        EXPECT_EQ(row.ask(), row.preset == 0);
         seen.clear();
         answer = nullptr;
-        EXPECT_EQ(row.call(), row.reply);
-        ASSERT_EQ(seen.size(), 1);
-        EXPECT_EQ(seen[0].event, row.code);
-        EXPECT_EQ(seen[0].object, row.object);
-        if (row.reply.isValid()) {
-            QMenu dock;
-            answer = [&](qint64) {
-                d.setBoolVal(!row.reply.toBool());
-                d.setLongVal(9);
-                d.setMenuObj(&dock);
-            };
-            EXPECT_EQ(row.call(), row.reply.typeId() == QMetaType::Bool ? QVariant(!row.reply.toBool()) : qint64(9));
-        }
     }
+    EXPECT_EQ(d.dictVal(), (QVariantMap{{u"copies"_qs, 2}}));
+}
+
+TEST(AppDelegate, NewsCarryTheirObject)
+{
+    CUI_AppDelegate d;
+    const ErrorObject error = {u"domain"_qs, 3, u"bad"_qs};
+    const QVariantMap payload = {{u"key"_qs, 1}};
+    const QVariantList urls = {QUrl::fromLocalFile(u"/a/b.txt"_qs), QUrl::fromLocalFile(u"/c"_qs)};
+    CUI_SetOnAppEventFunction(onAppEvent);
+    d.didRegisterForRemoteNotificationsWithDeviceToken("token");
+    d.didFailToRegisterForRemoteNotificationsWithError(error);
+    d.didReceiveRemoteNotification(payload);
+    d.didFailToContinueUserActivityWithType(u"type"_qs, error);
+    d.openFiles({u"/a/b.txt"_qs, u"/c"_qs});
+    const QList<Seen> wanted = {
+        {26, QByteArray("token")}, {27, QVariant::fromValue(error)}, {28, payload}, {33, u"type"_qs}, {36, urls}};
+    EXPECT_EQ(seen, wanted);
     EXPECT_EQ(d.willPresentError(error), error);
     EXPECT_EQ(d.stringVal(), u"b.txt");
     EXPECT_EQ(d.urlVal(), urls.first().toUrl());
-    EXPECT_EQ(d.dictVal(), map);
     d.openFiles({});
     EXPECT_TRUE(d.urlVal().isEmpty() && d.arrayVal().isEmpty());
 }
@@ -176,10 +181,8 @@ TEST(AppDelegate, CallbacksStoreForwardAndAnswer)
 TEST(AppDelegate, OwnCallbackGoesBeforeTheRegisteredFunction)
 {
     static qint64 got = 0;
-    EXPECT_FALSE(CallUserDefinedOnAppEventFunction(7, {}).isValid());
-    EXPECT_EQ(CUI_SetOnAppEventFunction(onAppEvent), nullptr);
-    EXPECT_EQ(CUI_OnAppEventFunction(), &onAppEvent);
-    EXPECT_EQ(CallUserDefinedOnAppEventFunction(7, {}), QStringLiteral("answered"));
+    CUI_SetOnAppEventFunction(onAppEvent);
+    EXPECT_EQ(CallUserDefinedOnAppEventFunction(7, {}), u"answered"_qs);
     seen.clear();
     CUI_AppDelegate delegate;
     delegate.setDelegateUserData(42);
@@ -192,20 +195,17 @@ TEST(AppDelegate, OwnCallbackGoesBeforeTheRegisteredFunction)
 TEST(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
 {
     CUI_AppDelegate delegate;
-    QTimer goesOn;
-    QTimer stops;
-    QTimer plain;
-    QPointer<QTimer> goes = new QTimer;
-    CUI_AppDelegate::setTimerFunction(&goesOn, [](QTimer *) { return false; });
-    CUI_AppDelegate::setTimerFunction(&stops, [](QTimer *) { return true; });
-    CUI_AppDelegate::setTimerFunction(goes, [](QTimer *timer) { return delete timer, true; });
-    for (QTimer *timer : {&goesOn, &stops, &plain, goes.data()}) {
+    const auto fire = [&delegate](CUI_AppDelegate::TimerFunction function) {
+        const QPointer<QTimer> timer = new QTimer(&delegate);
+        CUI_AppDelegate::setTimerFunction(timer, function);
         timer->start(1000000);
         delegate.timerFired(timer);
-    }
-    EXPECT_TRUE(goesOn.isActive() && plain.isActive());
-    EXPECT_FALSE(stops.isActive());
-    EXPECT_EQ(goes, nullptr);
+        return timer;
+    };
+    EXPECT_TRUE(fire([](QTimer *) { return false; })->isActive());
+    EXPECT_FALSE(fire([](QTimer *) { return true; })->isActive());
+    EXPECT_TRUE(fire(nullptr)->isActive());
+    EXPECT_EQ(fire([](QTimer *timer) { return delete timer, true; }), nullptr);
 }
 
 TEST(AppDelegate, RealEventsArrive)
@@ -215,7 +215,7 @@ TEST(AppDelegate, RealEventsArrive)
     QWidget window;
     QTimer::singleShot(0, &window, [&window] {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        QFileOpenEvent open(QStringLiteral("/x/y.z"));
+        QFileOpenEvent open(u"/x/y.z"_qs);
         QCoreApplication::sendEvent(qApp, &open);
         stopModalWithCode(1);
     });
@@ -243,18 +243,47 @@ TEST(Terminate, AsksTellsAndRefuses)
     }
 }
 
-void endFrom(QWidget &window, const std::function<void()> &act)
-{
-    QTimer::singleShot(0, &window, act);
-    runModalForWindow(&window);
-    std::_Exit(3);
-}
-
 class ClosingWindow : public QWidget
 {
 protected:
     void closeEvent(QCloseEvent *) override { AppTerminate(); }
 };
+
+void terminateFromNestedRun()
+{
+    QWidget inner;
+    QTimer::singleShot(0, &inner, AppTerminate);
+    runModalForWindow(&inner);
+}
+
+void terminateFromACloseEvent()
+{
+    ClosingWindow closing;
+    closing.show();
+    closing.close();
+}
+
+void terminateFromAnOpenMenu()
+{
+    CUI_EditMenu(2);
+    QMenu *const menu = mainMenu()->menus[0];
+    QTimer::singleShot(0, menu, [menu] { menu->actions().last()->trigger(); });
+    menu->exec();
+}
+
+void terminateAgainWhileItTells()
+{
+    CUI_SetOnAppEventFunction(onAppEvent);
+    answer = [](qint64 event) { event == appEventWillTerminate ? AppTerminate() : void(); };
+    AppTerminate();
+}
+
+void signalThoughTheDelegateWouldRefuse()
+{
+    CUI_SetOnAppEventFunction(onAppEvent);
+    answer = [](qint64) { CUI_AppDelegateObj()->setLongVal(0); };
+    std::raise(SIGTERM);
+}
 
 // What the offscreen platform itself has to say.
 constexpr char nothingOfOurs[] = "^((This plugin does not support|QStandardPaths)[^\n]*\n)*$";
@@ -262,65 +291,23 @@ constexpr char nothingOfOurs[] = "^((This plugin does not support|QStandardPaths
 // From wherever it is called: status 0, and nothing on standard error.
 TEST(Terminate, EndsFromAnyDepth)
 {
-    const std::pair<const char *, std::function<void(QWidget &)>> rows[] = {
-        {"timer", [](QWidget &window) { endFrom(window, AppTerminate); }},
-        {"nested runs",
-         [](QWidget &window) {
-             endFrom(window, [&] {
-                 auto *inner = new QWidget(&window, Qt::Window);
-                 endFrom(*inner, AppTerminate);
-             });
-         }},
-        {"close event",
-         [](QWidget &window) {
-             endFrom(window, [] {
-                 ClosingWindow closing;
-                 closing.show();
-                 closing.close();
-             });
-         }},
-        {"open menu",
-         [](QWidget &window) {
-             endFrom(window, [&] {
-                 CUI_EditMenu(2);
-                 QTimer::singleShot(0, &window, [] { mainMenu()->menus[0]->actions().last()->trigger(); });
-                 mainMenu()->menus[0]->exec();
-             });
-         }},
-        {"with an owned clipboard",
-         [](QWidget &window) {
-             endFrom(window, [] {
-                 QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
-                 AppTerminate();
-             });
-         }},
-        {"again while it tells",
-         [](QWidget &window) {
-             CUI_SetOnAppEventFunction(onAppEvent);
-             answer = [](qint64 event) {
-                 if (event == appEventWillTerminate) {
-                     AppTerminate();
-                 }
-             };
-             endFrom(window, AppTerminate);
-         }},
-        {"SIGTERM, although the delegate would refuse",
-         [](QWidget &window) {
-             CUI_SetOnAppEventFunction(onAppEvent);
-             answer = [](qint64) { CUI_AppDelegateObj()->setLongVal(0); };
-             endFrom(window, [] { std::raise(SIGTERM); });
-         }},
-        {"SIGHUP", [](QWidget &window) { endFrom(window, [] { std::raise(SIGHUP); }); }},
+    const std::pair<const char *, void (*)()> rows[] = {
+        {"nested runs", terminateFromNestedRun},
+        {"close event", terminateFromACloseEvent},
+        {"open menu", terminateFromAnOpenMenu},
+        {"again while it tells", terminateAgainWhileItTells},
+        {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse},
     };
     for (const auto &[name, end] : rows) {
         SCOPED_TRACE(name);
-        EXPECT_EXIT(
-            {
-                CocoaInit();
-                QWidget window;
-                end(window);
-            },
-            testing::ExitedWithCode(0), nothingOfOurs);
+        const auto endInsideARun = [act = end] {
+            CocoaInit();
+            QWidget window;
+            QTimer::singleShot(0, &window, act);
+            runModalForWindow(&window);
+            std::_Exit(3);
+        };
+        EXPECT_EXIT(endInsideARun(), testing::ExitedWithCode(0), nothingOfOurs);
     }
 }
 

@@ -84,11 +84,13 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
         {"any code", [] { stopModalWithCode(1001); }, 1001},
         {"aborted", [] { abortModal(); }, modalAborted},
         {"the first end counts", [] { stopModalWithCode(7), stopModalWithCode(8); }, 7},
+        {"nothing left over from before it", [] {}, modalAborted},
         {"hidden under the run", [this] { panel->hide(), QCoreApplication::processEvents(); }, modalAborted},
         {"stopped after a hide", [this] { panel->hide(), stopModalWithCode(5); }, 5},
         {"shown again at once is not the end",
          [this] { panel->hide(), panel->show(), QCoreApplication::processEvents(), stopModalWithCode(6); }, 6},
     };
+    stopModalWithCode(1); // nothing to stop yet
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(runWhile(row.act), row.code);
@@ -96,30 +98,21 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
     }
 }
 
-TEST_F(Modal, DeletedWidgetAborts)
+TEST_F(Modal, WithoutAWidgetToSeeItAborts)
 {
+    EXPECT_EQ(runModalForWindow(nullptr), modalAborted);
+    carrier.hide();
+    EXPECT_EQ(runModalForWindow(panel), modalAborted);
+    carrier.show();
     QTimer::singleShot(0, &carrier, [this] { delete panel; });
     EXPECT_EQ(runModalForWindow(panel), modalAborted);
 }
 
-TEST_F(Modal, WidgetThatCannotBeSeenAborts)
-{
-    carrier.hide();
-    EXPECT_EQ(runModalForWindow(panel), modalAborted);
-    EXPECT_EQ(runModalForWindow(nullptr), modalAborted);
-}
-
-TEST_F(Modal, NothingToStop)
-{
-    stopModalWithCode(1);
-    EXPECT_EQ(runWhile([] {}), modalAborted);
-}
-
 TEST_F(Modal, ClicksReachOnlyTheWidget)
 {
-    QSignalSpy inside(button, &QPushButton::clicked);
-    QSignalSpy outside(outsideButton, &QPushButton::clicked);
-    QSignalSpy elsewhere(otherButton, &QPushButton::clicked);
+    const QSignalSpy inside(button, &QPushButton::clicked);
+    const QSignalSpy outside(outsideButton, &QPushButton::clicked);
+    const QSignalSpy elsewhere(otherButton, &QPushButton::clicked);
     runWhile([this] {
         clickInWindow(*outsideButton);
         clickInWindow(*outsideField);
@@ -132,6 +125,9 @@ TEST_F(Modal, ClicksReachOnlyTheWidget)
     EXPECT_EQ(inside.count(), 1);
     clickInWindow(*outsideButton);
     EXPECT_EQ(outside.count(), 1) << "the filter must be gone after the run";
+    carrier.setProperty("worksWhenModal", true);
+    runWhile([this] { clickInWindow(*outsideButton); });
+    EXPECT_EQ(outside.count(), 2);
 }
 
 TEST_F(Modal, FocusTakenOutsideComesBackWithItsKeys)
@@ -139,40 +135,31 @@ TEST_F(Modal, FocusTakenOutsideComesBackWithItsKeys)
     runWhile([this] {
         outsideField->setFocus();
         EXPECT_TRUE(field->hasFocus());
-        QTest::keyClicks(outsideField, QStringLiteral("12"));
+        QTest::keyClicks(outsideField, u"12"_qs);
         QTest::keyClick(other.windowHandle(), Qt::Key_3);
     });
     EXPECT_EQ(field->text(), u"123");
     EXPECT_EQ(outsideField->text(), QString());
 }
 
-TEST_F(Modal, MarkedWidgetsWork)
-{
-    QSignalSpy clicked(outsideButton, &QPushButton::clicked);
-    carrier.setProperty("worksWhenModal", true);
-    runWhile([this] { clickInWindow(*outsideButton); });
-    EXPECT_EQ(clicked.count(), 1);
-}
-
 TEST_F(Modal, CarrierScrolls)
 {
     QScrollArea area(&carrier);
     area.setGeometry(260, 100, 100, 100);
-    auto *content = new QWidget;
+    auto *const content = new QWidget;
     content->setFixedSize(50, 1000);
     area.setWidget(content);
     area.show();
-    runWhile([&area, content] {
-        const QWidget *top = content->window();
-        const QPointF at = content->mapTo(top, QPoint(5, 5));
-        QWheelEvent wheel(at, top->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    const QScrollBar *const bar = area.verticalScrollBar();
+    runWhile([this, content, bar] {
+        const QPointF at = content->mapTo(&carrier, QPoint(5, 5));
+        QWheelEvent wheel(at, carrier.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&wheel);
-        qApp->notify(top->windowHandle(), &wheel);
-        EXPECT_GT(area.verticalScrollBar()->value(), 0);
-        const int before = area.verticalScrollBar()->value();
-        const QScrollBar *bar = area.verticalScrollBar();
-        QTest::mouseClick(bar->window()->windowHandle(), Qt::LeftButton, {},
-                          bar->mapTo(bar->window(), QPoint(3, bar->height() - 25)));
+        qApp->notify(carrier.windowHandle(), &wheel);
+        EXPECT_GT(bar->value(), 0);
+        const int before = bar->value();
+        const QPoint underTheHandle = bar->mapTo(&carrier, QPoint(3, bar->height() - 25));
+        QTest::mouseClick(carrier.windowHandle(), Qt::LeftButton, {}, underTheHandle);
         EXPECT_GT(bar->value(), before);
     });
 }
@@ -216,7 +203,7 @@ TEST_F(Modal, OuterWidgetGoneWhileInnerRuns)
 TEST_F(Modal, StopsFromInsideAnOpenMenu)
 {
     QMenu menu;
-    menu.addAction(QStringLiteral("Item"));
+    menu.addAction(u"Item"_qs);
     EXPECT_EQ(runWhile([&] {
                   QTimer::singleShot(0, &menu, [] { stopModalWithCode(4); });
                   menu.exec(carrier.mapToGlobal(QPoint(10, 10)));
@@ -247,8 +234,8 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
 TEST_F(Modal, ShortcutsOfAWindowWithoutTheFocusWork)
 {
     QMenuBar bar(&carrier);
-    QMenu *menu = bar.addMenu(QStringLiteral("Menu"));
-    QAction *item = menu->addAction(QStringLiteral("Item"));
+    QMenu *menu = bar.addMenu(u"Menu"_qs);
+    QAction *item = menu->addAction(u"Item"_qs);
     item->setShortcut(Qt::CTRL | Qt::Key_K);
     item->setShortcutContext(Qt::ApplicationShortcut);
     bar.show();

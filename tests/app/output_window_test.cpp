@@ -1,17 +1,9 @@
 #include "runtime/app/output_window.h"
 
 #include "runtime/app/content_view.h"
-#include "runtime/app/modal.h"
 #include "runtime/app/popover.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
-#include "runtime/strings/not_given.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QMessageBox>
-#include <QTest>
-#include <QTimer>
+#include "tests/app/alert_helper.h"
+#include "tests/app/window_helper.h"
 
 #include <gtest/gtest.h>
 
@@ -19,46 +11,30 @@ namespace tetrad {
 
 namespace {
 
-class OutputWindow : public testing::Test
-{
-protected:
-    void TearDown() override
-    {
-        const QList<Window *> left = orderedWindows();
-        qDeleteAll(left);
-        CUI_OutputWindowSetTag(0);
-    }
-};
+using namespace testing_helpers;
 
-void open(Tag tag)
-{
-    CUI_Window(tag, QString(), notGiven, QRectF(40, 60, 300, 200));
-    QApplication::processEvents();
-}
+using OutputWindow = WindowTest;
 
 TEST_F(OutputWindow, IsFoundByTheAbsoluteTag)
 {
     Popover popover(9, QSize(100, 50));
-    open(1);
-    open(-2);
-    struct Row
+    Window *const one = open(1);
+    Window *const hidden = open(-2);
+    const struct
     {
         const char *name;
         Tag set;
         Tag stored;
         QWidget *output;
         QWidget *contentView;
-    };
-    Window *const one = CUI_WindowWithTag(1);
-    Window *const hidden = CUI_WindowWithTag(2);
-    const Row rows[] = {
+    } rows[] = {
         {"none", 0, 0, nullptr, nullptr},
         {"window", 1, 1, one, one->contentView()},
         {"hidden window, negative tag", -2, 2, hidden, hidden->contentView()},
         {"popover", 9, 9, &popover, popover.contentView()},
         {"unknown", -5, 5, nullptr, nullptr},
     };
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         CUI_OutputWindowSetTag(row.set);
         EXPECT_EQ(CUI_OutputWindowTag(), row.stored);
@@ -76,22 +52,21 @@ TEST_F(OutputWindow, TargetIsTheOutputWindowElseTheFrontmost)
     open(1);
     open(2);
     open(-3);
-    struct Row
+    const struct
     {
         const char *name;
         Tag output;
         Tag asked;
         Tag found;
         Tag writtenBack;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"output window, though hidden", 3, 0, 3, 3},
         {"no output window: the frontmost", 0, 0, 2, 2},
         {"output tag of no window: the frontmost", 8, 0, 2, 2},
         {"a tag", 3, -1, 1, -1},
         {"an unknown tag", 3, 8, 0, 8},
     };
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         CUI_OutputWindowSetTag(row.output);
         Tag tag = row.asked;
@@ -105,26 +80,22 @@ TEST_F(OutputWindow, WindowsCannotTakeAPopoversTag)
     EXPECT_FALSE(CUI_ObjectIsPopover(9));
     Popover popover(9, QSize(100, 50));
     CUI_OutputWindowSetTag(4);
-    QStringList shown;
-    QTimer answers;
-    QObject::connect(&answers, &QTimer::timeout, [&shown] {
-        if (auto *const box = qobject_cast<QMessageBox *>(modalWindow())) {
-            shown = {box->text(), box->informativeText()};
-            box->buttons().constFirst()->click();
-        }
+    bool warned = false;
+    whenAlertRuns([&warned](Alert *alert) {
+        warned = true;
+        EXPECT_EQ(alert->text(), u"Window tag error."_qs);
+        EXPECT_EQ(alert->informativeText(), u"Windows and Popovers cannot have same tag value."_qs);
+        clicks(0)(alert);
     });
-    answers.start(0);
-    CUI_Window(-9, QStringLiteral("Nine"), notGiven, QRectF());
-    EXPECT_TRUE(QTest::qWaitFor([&shown] { return !shown.isEmpty(); }));
-    EXPECT_EQ(shown, QStringList({u"Window tag error."_qs, u"Windows and Popovers cannot have same tag value."_qs}));
+    open(-9);
+    EXPECT_TRUE(QTest::qWaitFor([&warned] { return warned; }));
     EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
     EXPECT_EQ(CUI_OutputWindowTag(), 4);
 }
 
 TEST_F(OutputWindow, PopoverShowsAndCloses)
 {
-    open(1);
-    QWidget *const view = CUI_WindowWithTag(1)->contentView();
+    QWidget *const view = open(1)->contentView();
     Popover popover(9, QSize(100, 50));
     popover.setBehavior(popoverTransient);
     QStringList told;

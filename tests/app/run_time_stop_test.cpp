@@ -47,53 +47,44 @@ bool diedOfAbort(int status)
 
 const QString file = u"Tetrad Game.zr"_qs;
 
-std::string rangeErrorLines(const std::string &lineAndFile, const std::string &index)
+// Reports an index out of bounds in a program of its own, which the alert's Quit ends with status 0 if the
+// alert is as it must be.
+void reportBoundsError(quint32 index, quint32 bound, const QString &inFile)
 {
-    return "(^|\n)Array bounds error:\nAt line " + lineAndFile + "\nIndex " + index +
-           "\\. \\[Type ctrl-C if process hangs\\]\n";
+    CocoaInit();
+    whenAlertRuns([](Alert *alert) {
+        const bool asStated = titlesOf(alert) == QStringList{u"Quit"_qs, u"Crash"_qs} &&
+                              alert->text() == u"Array bounds error"_qs && alert->style() == alertStyleCritical &&
+                              alert->informativeText().startsWith(u"At line 128 of "_qs);
+        clicks(asStated ? 0 : 1)(alert);
+    });
+    ChkBounds(index, bound, 128, inFile);
 }
 
-struct BoundsRow
+TEST(BoundsError, IsWrittenInThreeLinesBeforeTheAlertThatOffersNoContinue)
 {
-    const char *name;
-    quint32 index;
-    quint32 bound;
-    QString file;
-    const char *lineAndFile;
-    const char *index_text;
-};
-
-class BoundsError : public testing::TestWithParam<BoundsRow>
-{};
-
-TEST_P(BoundsError, IsWrittenInThreeLinesBeforeTheAlertThatOffersNoContinue)
-{
-    const BoundsRow &row = GetParam();
-    const auto report = [&row] {
-        CocoaInit();
-        whenAlertRuns([](Alert *alert) {
-            const bool asStated = titlesOf(alert) == QStringList{u"Quit"_qs, u"Crash"_qs} &&
-                                  alert->text() == u"Array bounds error"_qs && alert->style() == alertStyleCritical &&
-                                  alert->informativeText().startsWith(u"At line 128 of "_qs);
-            alert->alertButtons().at(asStated ? 0 : 1)->click();
-        });
-        ChkBounds(row.index, row.bound, 128, row.file);
+    const struct
+    {
+        const char *name;
+        quint32 index;
+        QString file;
+        const char *fileWritten;
+        const char *indexWritten;
+    } rows[] = {
+        {"one past the bound", 98, file, "Tetrad Game.zr", "98"},
+        {"negative", quint32(-3), file, "Tetrad Game.zr", "-3"},
+        {"bytes of Mac Roman", 98, u"\u00e9\u2022.zr"_qs, "\x8e\xa5.zr", "98"},
+        {"characters the encoding lacks", 98, u"\u4e00\U0001f534%s.zr"_qs, "\\?\\?%s.zr", "98"},
     };
-    EXPECT_EXIT(report(), testing::ExitedWithCode(0), rangeErrorLines(row.lineAndFile, row.index_text));
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EXIT(reportBoundsError(row.index, 97, row.file), testing::ExitedWithCode(0),
+                    std::string("(^|\n)Array bounds error:\nAt line 128 of ") + row.fileWritten + "\nIndex " +
+                        row.indexWritten + " is outside the DIM range 0 to 97\\. \\[Type ctrl-C if process hangs\\]\n");
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Indices, BoundsError,
-                         testing::Values(BoundsRow{"onePastTheBound", 98, 97, file, "128 of Tetrad Game.zr",
-                                                   "98 is outside the DIM range 0 to 97"},
-                                         BoundsRow{"negative", quint32(-3), 97, file, "128 of Tetrad Game.zr",
-                                                   "-3 is outside the DIM range 0 to 97"},
-                                         BoundsRow{"bytesOfMacRoman", 5, 4, u"\u00e9\u2022.zr"_qs, "128 of \x8e\xa5.zr",
-                                                   "5 is outside the DIM range 0 to 4"},
-                                         BoundsRow{"characterTheEncodingLacks", 5, 4, u"\u4e00\U0001f534%s.zr"_qs,
-                                                   "128 of \\?\\?%s.zr", "5 is outside the DIM range 0 to 4"}),
-                         [](const auto &row) { return std::string(row.param.name); });
-
-TEST(Bounds, AnIndexUpToTheBoundComesBackWithoutAWord)
+TEST(BoundsError, IsNoneUpToTheBound)
 {
     testing::internal::CaptureStderr();
     EXPECT_EQ(ChkBounds(97, 97, 128, file), 97U);
@@ -102,47 +93,42 @@ TEST(Bounds, AnIndexUpToTheBoundComesBackWithoutAWord)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-struct StopRow
+TEST(Stop, EndsTheProcess)
 {
-    const char *name;
-    qint32 fatal;
-    QString answer;
-    bool refuses;
-    bool aborts;
-};
-
-class Stop : public testing::TestWithParam<StopRow>
-{};
-
-TEST_P(Stop, EndsTheProcess)
-{
-    const StopRow &row = GetParam();
-    const auto stop = [&row] {
-        CocoaInit();
-        if (row.refuses) {
-            CUI_AppDelegateObj()->setDelegateCallback(refuse);
-        }
-        press(row.answer);
-        ZRFullStop(u"Message"_qs, u"Informative"_qs, row.fatal);
+    const struct
+    {
+        const char *name;
+        qint32 fatal;
+        QString answer;
+        bool refuses;
+        bool aborts;
+    } rows[] = {
+        {"fatal, Quit", 1, u"Quit"_qs, false, false},
+        {"fatal, Crash", 1, u"Crash"_qs, false, true},
+        {"fatal by -1", -1, u"Crash"_qs, false, true},
+        {"fatal, Quit but the delegate refuses", 1, u"Quit"_qs, true, true},
+        {"not fatal, Stop", 0, u"Stop"_qs, false, false},
+        {"not fatal, Crash", 0, u"Crash"_qs, false, true},
+        {"only the low byte counts", 0x100, u"Stop"_qs, false, false},
     };
-    if (row.aborts) {
-        EXPECT_EXIT(stop(), diedOfAbort, "");
-    } else {
-        EXPECT_EXIT(stop(), testing::ExitedWithCode(0), "");
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto stop = [&row] {
+            CocoaInit();
+            if (row.refuses) {
+                CUI_AppDelegateObj()->setDelegateCallback(refuse);
+            }
+            press(row.answer);
+            ZRFullStop(u"Message"_qs, u"Informative"_qs, row.fatal);
+        };
+        const auto ended = [&row](int status) {
+            return row.aborts ? diedOfAbort(status) : testing::ExitedWithCode(0)(status);
+        };
+        EXPECT_EXIT(stop(), ended, "");
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, Stop,
-                         testing::Values(StopRow{"fatalQuit", 1, u"Quit"_qs, false, false},
-                                         StopRow{"fatalCrash", 1, u"Crash"_qs, false, true},
-                                         StopRow{"fatalMinusOneCrash", -1, u"Crash"_qs, false, true},
-                                         StopRow{"fatalQuitRefused", 1, u"Quit"_qs, true, true},
-                                         StopRow{"nonFatalStop", 0, u"Stop"_qs, false, false},
-                                         StopRow{"nonFatalCrash", 0, u"Crash"_qs, false, true},
-                                         StopRow{"onlyTheLowByteCounts", 0x100, u"Stop"_qs, false, false}),
-                         [](const auto &row) { return std::string(row.param.name); });
-
-TEST(StopThatReturns, ContinueAndARefusedTerminationGoOn)
+TEST(Stop, ReturnsAfterContinueAndARefusedTermination)
 {
     CocoaInit();
     for (const QString &answer : {u"Continue"_qs, u"Stop"_qs}) {
@@ -157,20 +143,7 @@ TEST(StopThatReturns, ContinueAndARefusedTerminationGoOn)
     }
 }
 
-TEST(StopThatReturns, TextsAreLookedUpInTheStringsTable)
-{
-    CocoaInit();
-    Brackets brackets;
-    ASSERT_TRUE(QCoreApplication::installTranslator(&brackets));
-    EXPECT_EQ(ZRCreateLineNumberMsg(128), u"[At line] 128"_qs);
-    whenAlertRuns([](Alert *alert) {
-        EXPECT_EQ(titlesOf(alert), (QStringList{u"[Stop]"_qs, u"[Continue]"_qs, u"[Crash]"_qs}));
-        alert->alertButtons().at(1)->click();
-    });
-    ZRFullStop(u"Message"_qs, u"Informative"_qs, 0);
-}
-
-TEST(BoundsErrorTranslated, EveryPieceIsLookedUp)
+TEST(BoundsError, IsLookedUpInTheStringsTablePieceByPiece)
 {
     const auto report = [] {
         CocoaInit();
@@ -179,7 +152,7 @@ TEST(BoundsErrorTranslated, EveryPieceIsLookedUp)
         whenAlertRuns([](Alert *alert) {
             const bool translated = alert->text() == u"[Array bounds error]"_qs &&
                                     titlesOf(alert) == QStringList{u"[Quit]"_qs, u"[Crash]"_qs};
-            alert->alertButtons().at(translated ? 0 : 1)->click();
+            clicks(translated ? 0 : 1)(alert);
         });
         ChkBounds(9, 4, 7, file);
     };
@@ -187,7 +160,7 @@ TEST(BoundsErrorTranslated, EveryPieceIsLookedUp)
                 "\\[At line\\] 7\\[ of \\]Tetrad Game.zr\n\\[Index \\]9\\[ is outside the DIM range 0 to\\] 4\\. ");
 }
 
-TEST(StopWithoutApplication, WritesTheTextsAndAborts)
+TEST(Stop, WritesTheTextsAndAbortsWithoutAnApplication)
 {
     const auto stop = [] {
         // The program's own object, taken down early; the process does not live to take it down twice.

@@ -4,13 +4,10 @@
 #include "runtime/app/application.h"
 #include "runtime/app/content_view.h"
 #include "runtime/app/current_event.h"
-#include "runtime/app/output_window.h"
-#include "runtime/app/windows.h"
-#include "runtime/controls/dialog_event.h"
 #include "runtime/controls/view_events.h"
+#include "tests/app/window_helper.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QMenu>
 #include <QScreen>
 #include <QTest>
@@ -23,6 +20,8 @@
 namespace tetrad {
 
 namespace {
+
+using namespace testing_helpers;
 
 using Codes = QList<qint64>;
 using Delegate = CUI_WindowDelegate;
@@ -61,34 +60,32 @@ Codes takeCodes()
     return codes;
 }
 
-class WindowDelegate : public testing::Test
+class WindowDelegate : public WindowTest
 {
 protected:
-    void SetUp() override
+    void SetUp() override { openWindow(); }
+
+    void TearDown() override
     {
-        CUI_Window(7, QString(), windowStyleDefault, QRectF(40, 60, 300, 200));
-        m_window = CUI_WindowWithTag(7);
+        onEvent = nullptr;
+        CUI_WindowDelegateObj()->allWindowsCallback = nullptr;
+        WindowTest::TearDown();
+    }
+
+    void openWindow()
+    {
+        m_window = open(7);
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
         QApplication::processEvents();
         CUI_SetOnDialogFunction(record);
         calls.clear();
     }
 
-    void TearDown() override
-    {
-        onEvent = nullptr;
-        CUI_SetOnDialogFunction(nullptr);
-        CUI_WindowDelegateObj()->allWindowsCallback = nullptr;
-        const QList<Window *> left = orderedWindows();
-        qDeleteAll(left);
-        CUI_OutputWindowSetTag(0);
-    }
-
     // What the window system does when the user drags an edge or the title bar.
-    void userResizes(const QSize &by) { m_window->windowHandle()->resize(m_window->size() + by); }
-    void userMoves(const QPoint &by)
+    void userResizes(int by) { m_window->windowHandle()->resize(m_window->size() + QSize(by, by)); }
+    void userMoves(int by)
     {
-        m_window->windowHandle()->setPosition(m_window->windowHandle()->position() + by);
+        m_window->windowHandle()->setPosition(m_window->windowHandle()->position() + QPoint(by, by));
     }
 
     QPointer<Window> m_window;
@@ -139,10 +136,25 @@ TEST_F(WindowDelegate, NotificationsAndTheOutputWindow)
     }
 }
 
+// The field of the dialog event that a question of the sample's type is answered in.
+QVariant answerField(const QVariant &sample)
+{
+    const CUI_DialogEvent *const event = CUI_DialogEventObj();
+    switch (sample.typeId()) {
+    case QMetaType::QRectF:
+        return event->rectVal;
+    case QMetaType::QSizeF:
+        return event->sizeVal;
+    case QMetaType::Bool:
+        return event->boolVal;
+    default:
+        return event->longVal;
+    }
+}
+
 TEST_F(WindowDelegate, QuestionsAndAnswers)
 {
-    Delegate *const delegate = CUI_WindowDelegateObj();
-    CUI_DialogEvent *const event = CUI_DialogEventObj();
+    Delegate *const d = CUI_WindowDelegateObj();
     QMenu menu;
     QWidget sheet;
     const QRectF rect(1, 2, 30, 40);
@@ -153,49 +165,34 @@ TEST_F(WindowDelegate, QuestionsAndAnswers)
     {
         qint64 code;
         std::function<QVariant()> ask;
-        std::function<QVariant()> stored;
         QVariant proposed;
-        std::function<void()> answer;
         QVariant answered;
-        const QObject *obj;
-        bool setsOutput;
+        const QObject *obj = nullptr;
+        bool setsOutput = false;
     };
-    const auto sizeStored = [event] { return QVariant(event->sizeVal); };
-    const auto rectStored = [event] { return QVariant(event->rectVal); };
-    const auto boolStored = [event] { return QVariant(event->boolVal); };
-    const auto otherSizeGiven = [&] { event->sizeVal = otherSize; };
-    const auto otherRectGiven = [&] { event->rectVal = otherRect; };
-    const auto refused = [event] { event->boolVal = false; };
     const Row rows[] = {
-        {10000, [&] { return QVariant(delegate->windowWillPositionSheet(m_window, &sheet, rect)); }, rectStored, rect,
-         otherRectGiven, otherRect, &sheet, false},
-        {10003, [&] { return QVariant(delegate->windowWillResize(m_window, size)); }, sizeStored, size, otherSizeGiven,
-         otherSize, nullptr, true},
-        {10010, [&] { return QVariant(delegate->windowWillUseStandardFrame(m_window, rect)); }, rectStored, rect,
-         otherRectGiven, otherRect, nullptr, false},
-        {10011, [&] { return QVariant(delegate->windowShouldZoom(m_window, rect)); }, boolStored, true, refused, false,
-         nullptr, false},
-        {10011, [&] { return QVariant(delegate->windowShouldZoom(m_window, rect)); }, rectStored, rect, [] {}, true,
-         nullptr, false},
-        {10012, [&] { return QVariant(delegate->windowWillUseFullScreenContentSize(m_window, size)); }, sizeStored,
-         size, otherSizeGiven, otherSize, nullptr, false},
-        {10013, [&] { return QVariant(delegate->windowWillUseFullScreenPresentationOptions(m_window, 3)); },
-         [event] { return QVariant(event->longVal); }, qint64(3), [event] { event->longVal = 12; }, qint64(12), nullptr,
-         false},
-        {10031, [&] { return QVariant(delegate->windowShouldClose(m_window)); }, boolStored, true, refused, false,
-         nullptr, false},
-        {10038, [&] { return QVariant(delegate->windowShouldPopUpDocumentPathMenu(m_window, &menu)); }, boolStored,
-         true, refused, false, &menu, false},
+        {10000, [&] { return d->windowWillPositionSheet(m_window, &sheet, rect); }, rect, otherRect, &sheet},
+        {10003, [&] { return d->windowWillResize(m_window, size); }, size, otherSize, nullptr, true},
+        {10010, [&] { return d->windowWillUseStandardFrame(m_window, rect); }, rect, otherRect},
+        {10011, [&] { return d->windowShouldZoom(m_window, rect); }, true, false},
+        {10012, [&] { return d->windowWillUseFullScreenContentSize(m_window, size); }, size, otherSize},
+        {10013, [&] { return d->windowWillUseFullScreenPresentationOptions(m_window, 3); }, qint64(3), qint64(12)},
+        {10031, [&] { return d->windowShouldClose(m_window); }, true, false},
+        {10038, [&] { return d->windowShouldPopUpDocumentPathMenu(m_window, &menu); }, true, false, &menu},
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.code);
         CUI_OutputWindowSetTag(99);
         calls.clear();
-        event->boolVal = false;
+        CUI_DialogEventObj()->boolVal = false;
         QVariant proposed;
-        onEvent = [&](qint64) {
-            proposed = row.stored();
-            row.answer();
+        onEvent = [&](qint64 code) {
+            proposed = answerField(row.proposed);
+            EXPECT_TRUE(code != 10011 || CUI_DialogEventObj()->rectVal == rect);
+            CUI_DialogEventObj()->boolVal = false;
+            CUI_DialogEventObj()->longVal = 12;
+            CUI_DialogEventObj()->rectVal = otherRect;
+            CUI_DialogEventObj()->sizeVal = otherSize;
         };
         EXPECT_EQ(row.ask(), row.answered);
         EXPECT_EQ(proposed, row.proposed);
@@ -206,63 +203,46 @@ TEST_F(WindowDelegate, QuestionsAndAnswers)
 
 TEST_F(WindowDelegate, RelayPrefersTheNearestCallback)
 {
-    static QList<QPair<const char *, const void *>> got;
+    static QStringList got;
     static int userData = 0;
-    const auto own = [](Tag tag, qint64 event, void *data) {
-        EXPECT_EQ(QPair(tag, event), QPair(Tag(7), qint64(10004)));
-        got.append({"own", data});
-    };
-    const auto all = [](Tag tag, qint64 event, void *data) {
-        EXPECT_EQ(QPair(tag, event), QPair(Tag(7), qint64(10004)));
-        got.append({"all", data});
-    };
-    m_window->setCuiWindowCallback(own);
+    Delegate *const delegate = CUI_WindowDelegateObj();
+    m_window->setCuiWindowCallback([](Tag tag, qint64 event, void *data) {
+        got << u"own %1 %2 %3"_qs.arg(tag).arg(event).arg(data == &userData);
+    });
     m_window->setCuiWindowUserData(&userData);
-    CUI_WindowDelegateObj()->allWindowsCallback = all;
-    CUI_WindowDelegateObj()->forwardEvent(m_window, 10004, 20, 30);
+    delegate->allWindowsCallback = [](Tag tag, qint64 event, void *data) {
+        got << u"all %1 %2 %3"_qs.arg(tag).arg(event).arg(data == nullptr);
+    };
+    delegate->forwardEvent(m_window, 10004, 20, 30);
     m_window->setCuiWindowCallback(nullptr);
-    CUI_WindowDelegateObj()->forwardEvent(m_window, 10004, 20, 30);
+    delegate->forwardEvent(m_window, 10004, 20, 30);
+    EXPECT_EQ(got, QStringList({u"own 7 10004 1"_qs, u"all 7 10004 1"_qs}));
     EXPECT_TRUE(calls.isEmpty());
-    CUI_WindowDelegateObj()->allWindowsCallback = nullptr;
-    CUI_WindowDelegateObj()->forwardEvent(m_window, 10004, 20, 30);
+    delegate->allWindowsCallback = nullptr;
+    delegate->forwardEvent(m_window, 10004, 20, 30);
     EXPECT_EQ(calls, QList<Call>({{10004, 20, 7, 30}}));
-    const QList<QPair<const char *, const void *>> wanted = {{"own", &userData}, {"all", nullptr}};
-    EXPECT_EQ(got, wanted);
 }
 
 TEST_F(WindowDelegate, RealEvents)
 {
-    struct Row
+    const QRectF place = m_window->contentRect();
+    const struct
     {
         const char *name;
         std::function<void()> happening;
         Codes codes;
-    };
-    const QRectF place = m_window->contentRect();
-    const Row rows[] = {
+    } rows[] = {
         {"program moves", [&] { m_window->setContentRect(place.translated(10, 10)); }, {10027}},
         {"program resizes", [&] { m_window->setContentRect(place.adjusted(10, 10, 30, 40)); }, {10004}},
         {"nothing changes", [&] { m_window->setContentRect(m_window->contentRect()); }, {}},
-        {"user moves",
-         [&] {
-             userMoves({5, 5});
-         },
-         {10026, 10027}},
-        {"user resizes",
-         [&] {
-             userResizes({5, 5});
-         },
-         {10005, 10003, 10004}},
-        {"and goes on",
-         [&] {
-             userResizes({5, 5});
-         },
-         {10003, 10004}},
-        {"minimise", [&] { m_window->showMinimized(); }, {10007, 10008}},
-        {"bring back", [&] { m_window->showNormal(); }, {10009}},
-        {"program closes, asked", [&] { m_window->close(); }, {10031, 10032, 10034, 10036}},
+        {"user moves", [this] { userMoves(5); }, {10026, 10027}},
+        {"user resizes", [this] { userResizes(5); }, {10005, 10003, 10004}},
+        {"and goes on", [this] { userResizes(5); }, {10003, 10004}},
+        {"minimise", [this] { m_window->showMinimized(); }, {10007, 10008}},
+        {"bring back", [this] { m_window->showNormal(); }, {10009}},
+        {"program closes, asked", [this] { m_window->close(); }, {10031, 10032, 10034, 10036}},
     };
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         row.happening();
         Codes codes = takeCodes();
@@ -281,16 +261,14 @@ TEST_F(WindowDelegate, SpreadingOut)
     m_window->showNormal();
     const Codes left = takeCodes();
     EXPECT_EQ(left.mid(left.indexOf(10016), 2), Codes({10016, 10017}));
-    QRectF standard;
     onEvent = [&](qint64 event) {
         if (event == windowEventWillUseStandardFrame) {
-            standard = CUI_DialogEventObj()->rectVal;
+            EXPECT_EQ(CUI_DialogEventObj()->rectVal.width(), m_window->screen()->availableGeometry().width());
         }
     };
     m_window->showMaximized();
     const Codes zoomed = takeCodes();
     EXPECT_EQ(zoomed.mid(zoomed.indexOf(10010), 2), Codes({10010, 10011}));
-    EXPECT_EQ(standard.width(), m_window->screen()->availableGeometry().width());
     EXPECT_TRUE(m_window->isMaximized());
 }
 
@@ -303,7 +281,7 @@ TEST_F(WindowDelegate, AnswersReachTheWindow)
         }
         CUI_DialogEventObj()->boolVal = false;
     };
-    userResizes({100, 100});
+    userResizes(100);
     EXPECT_EQ(takeCodes(), Codes({10005, 10003, 10004}));
     EXPECT_EQ(m_window->contentRect().size(), QSizeF(320, 240));
 
@@ -327,17 +305,16 @@ TEST_F(WindowDelegate, AnswersReachTheWindow)
 
 TEST_F(WindowDelegate, LiveResizeEndsWhenItStops)
 {
-    userResizes({5, 5});
+    userResizes(5);
     EXPECT_TRUE(QTest::qWaitFor([] { return calls.contains(Call{10006, 7, 7, 0}); }));
     takeCodes();
-    userResizes({5, 5});
+    userResizes(5);
     EXPECT_EQ(takeCodes(), Codes({10005, 10003, 10004})) << "the next one is a new one";
 }
 
 TEST_F(WindowDelegate, ActivationPassesFromWindowToWindow)
 {
-    CUI_Window(8, QString(), windowStyleDefault, QRectF(90, 90, 100, 100));
-    ASSERT_TRUE(QTest::qWaitForWindowActive(CUI_WindowWithTag(8)));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(open(8)));
     QList<Call> changes = std::exchange(calls, {});
     changes.removeIf([](const Call &call) { return call.event < 10033 || call.event > 10036; });
     const QList<Call> wanted = {{10033, 8, 8, 0}, {10035, 8, 8, 0}, {10034, 7, 7, 0}, {10036, 7, 7, 0}};
@@ -370,61 +347,49 @@ TEST_F(WindowDelegate, CloseOrder)
 // no event of the window system is being delivered may it be deleted at once.
 TEST_F(WindowDelegate, SurvivesWhatCallbacksDo)
 {
-    struct Row
+    const auto resizes = [this] { userResizes(9); };
+    const auto moves = [this] { userMoves(9); };
+    const auto zooms = [this] { m_window->setWindowState(Qt::WindowMaximized); };
+    const auto activates = [this] {
+        QEvent activate(QEvent::WindowActivate);
+        QApplication::sendEvent(m_window, &activate);
+    };
+    const struct
     {
         qint64 code;
         std::function<void()> happening;
         bool mayDelete = false;
-    };
-    const Row rows[] = {
-        {10003,
-         [this] {
-             userResizes({9, 9});
-         }},
-        {10004,
-         [this] {
-             userResizes({9, 9});
-         }},
-        {10005,
-         [this] {
-             userResizes({9, 9});
-         }},
-        {10006,
-         [this] {
-             userResizes({9, 9});
-         }},
+    } rows[] = {
+        {10003, resizes},
+        {10004, resizes},
+        {10005, resizes},
+        {10006, resizes},
         {10007, [this] { m_window->showMinimized(); }},
-        {10010, [this] { m_window->setWindowState(Qt::WindowMaximized); }},
-        {10011, [this] { m_window->setWindowState(Qt::WindowMaximized); }},
-        {10026,
-         [this] {
-             userMoves({9, 9});
-         }},
-        {10027,
-         [this] {
-             userMoves({9, 9});
-         }},
+        {10010, zooms},
+        {10011, zooms},
+        {10026, moves},
+        {10027, moves},
         {10031, [this] { m_window->close(); }, true},
         {10032, [this] { m_window->close(); }, true},
         {10032, [this] { CUI_WindowDelegateObj()->windowWillClose(m_window); }, true},
-        {10033, [this] { QApplication::sendEvent(m_window, std::make_unique<QEvent>(QEvent::WindowActivate).get()); }},
+        {10033, activates},
         {10037, [this] { m_window->update(); }},
     };
-    const auto destroys = [this](const Row &row) {
-        row.mayDelete ? delete m_window.data() : static_cast<void>(m_window->close());
-    };
     for (const bool isDestroyed : {true, false}) {
-        for (const Row &row : rows) {
+        for (const auto &row : rows) {
             SCOPED_TRACE(testing::Message() << row.code << (isDestroyed ? " destroys" : " gives another tag"));
-            CUI_Window(7, QString(), windowStyleDefault, QRectF(40, 60, 300, 200));
-            m_window = CUI_WindowWithTag(7);
-            ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
-            QApplication::processEvents();
+            openWindow();
             bool happened = false;
             onEvent = [&](qint64 event) {
-                if (event == row.code && !happened) {
-                    happened = true;
-                    isDestroyed ? destroys(row) : m_window->setTag(70);
+                if (event != row.code || std::exchange(happened, true)) {
+                    return;
+                }
+                if (!isDestroyed) {
+                    m_window->setTag(70);
+                } else if (row.mayDelete) {
+                    delete m_window.data();
+                } else {
+                    m_window->close();
                 }
             };
             row.happening();
@@ -438,86 +403,30 @@ TEST_F(WindowDelegate, SurvivesWhatCallbacksDo)
     EXPECT_TRUE(orderedWindows().isEmpty());
 }
 
-TEST_F(WindowDelegate, ContentViewEvents)
+TEST_F(WindowDelegate, ContentViewReportsWithItsFlagOnly)
 {
     auto *const view = qobject_cast<ContentViewSC *>(m_window->contentView());
-    view->setResponderFlag(true);
-    view->setFocus();
-    const QPoint at(20, 30);
-    const auto send = [view](QEvent &&event) { QApplication::sendEvent(view, &event); };
-    const auto mouse = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons) {
-        send(QMouseEvent(type, at, view->mapToGlobal(at), button, buttons, Qt::NoModifier));
-    };
-    struct Row
-    {
-        qint64 code;
-        std::function<void()> happening;
-    };
-    const Row rows[] = {
-        {2000, [&] { view->repaint(1, 2, 30, 40); }},
-        {2002, [&] { QTest::mousePress(view, Qt::LeftButton, {}, at); }},
-        {2002, [&] { QTest::mouseDClick(view, Qt::LeftButton, {}, at); }},
-        {2003, [&] { mouse(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton); }},
-        {2004, [&] { QTest::mouseRelease(view, Qt::LeftButton, {}, at); }},
-        {2005, [&] { mouse(QEvent::MouseMove, Qt::NoButton, Qt::NoButton); }},
-        {2006, [&] { send(QEnterEvent(at, at, at)); }},
-        {2007, [&] { send(QEvent(QEvent::Leave)); }},
-        {2008, [&] { QTest::mousePress(view, Qt::RightButton, {}, at); }},
-        {2009, [&] { mouse(QEvent::MouseMove, Qt::NoButton, Qt::RightButton); }},
-        {2010, [&] { QTest::mouseRelease(view, Qt::RightButton, {}, at); }},
-        {2011, [&] { QTest::keyPress(view, Qt::Key_A); }},
-        {2012, [&] { QTest::keyRelease(view, Qt::Key_A); }},
-        {2013, [&] { QTest::keyPress(view, Qt::Key_Shift); }},
-        {2026, [&] { send(QContextMenuEvent(QContextMenuEvent::Mouse, at, view->mapToGlobal(at))); }},
-    };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.code);
-        view->setSubclassFlag(false);
-        row.happening();
-        EXPECT_TRUE(std::none_of(calls.begin(), calls.end(), [](const Call &c) { return c.event < 10000; }));
-        calls.clear();
-        view->setSubclassFlag(true);
-        CUI_OutputWindowSetTag(99);
-        CUI_DialogEventObj()->boolVal = true;
-        bool preset = true;
-        const QEvent *current = nullptr;
-        onEvent = [&](qint64 event) {
-            if (event == row.code) {
-                preset = CUI_DialogEventObj()->boolVal;
-                current = CUI_EventEvent();
-            }
-        };
-        row.happening();
-        EXPECT_TRUE(calls.contains(Call{row.code, contentViewTag, 7, 0}));
-        EXPECT_FALSE(preset);
-        EXPECT_NE(current, nullptr);
-        EXPECT_EQ(CUI_EventEvent(), nullptr);
-        EXPECT_EQ(CUI_OutputWindowTag(), 7);
-        QApplication::processEvents();
-        calls.clear();
-    }
-    EXPECT_EQ(CUI_DialogEventObj()->menuObj, nullptr);
-    EXPECT_TRUE(view->hasMouseTracking());
-}
-
-TEST_F(WindowDelegate, ContentViewLeavesToItsBaseWhatWasNotHandled)
-{
-    auto *const view = qobject_cast<ContentViewSC *>(m_window->contentView());
+    view->repaint(1, 2, 30, 40);
+    QTest::mousePress(view, Qt::LeftButton, {}, QPoint(20, 30));
+    EXPECT_EQ(takeCodes(), Codes());
     view->setSubclassFlag(true);
-    for (const bool handled : {true, false}) {
-        onEvent = [handled](qint64) { CUI_DialogEventObj()->boolVal = handled; };
-        const QPointF at(20, 30);
-        QMouseEvent press(QEvent::MouseButtonPress, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        press.setAccepted(true);
-        static_cast<QObject *>(view)->event(&press);
-        EXPECT_EQ(press.isAccepted(), handled) << "a plain view does not accept a mouse-down";
-    }
+    CUI_OutputWindowSetTag(99);
+    CUI_DialogEventObj()->boolVal = true;
     onEvent = [](qint64 event) {
-        if (event == viewEventDraw) {
-            EXPECT_EQ(CUI_DialogEventObj()->rectVal, QRectF(1, 2, 30, 40));
+        if (event == windowEventDidUpdate) {
+            return;
         }
+        EXPECT_EQ(calls.constLast().tag, contentViewTag);
+        EXPECT_EQ(calls.constLast().wndTag, 7);
+        EXPECT_TRUE(event != viewEventDraw || CUI_DialogEventObj()->rectVal == QRectF(1, 2, 30, 40));
+        EXPECT_FALSE(CUI_DialogEventObj()->boolVal) << "preset to unhandled";
+        EXPECT_NE(CUI_EventEvent(), nullptr);
+        EXPECT_EQ(CUI_OutputWindowTag(), 7);
     };
     view->repaint(1, 2, 30, 40);
+    QTest::mousePress(view, Qt::LeftButton, {}, QPoint(20, 30));
+    EXPECT_EQ(takeCodes(), Codes({viewEventDraw, viewEventMouseDown}));
+    EXPECT_EQ(CUI_EventEvent(), nullptr);
     onEvent = [this](qint64) { delete m_window.data(); };
     QTest::keyPress(view, Qt::Key_A);
     EXPECT_FALSE(m_window);

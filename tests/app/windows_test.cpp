@@ -3,12 +3,9 @@
 #include "runtime/app/app_delegate.h"
 #include "runtime/app/application.h"
 #include "runtime/app/menus.h"
-#include "runtime/app/output_window.h"
-#include "runtime/app/window.h"
 #include "runtime/app/window_controller.h"
 #include "runtime/app/window_delegate.h"
-#include "runtime/controls/dialog_event.h"
-#include "runtime/strings/not_given.h"
+#include "tests/app/window_helper.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -24,24 +21,9 @@ namespace tetrad {
 
 namespace {
 
-class Windows : public testing::Test
-{
-protected:
-    void TearDown() override
-    {
-        CUI_SetOnDialogFunction(nullptr);
-        const QList<Window *> left = orderedWindows();
-        qDeleteAll(left);
-        CUI_OutputWindowSetTag(0);
-    }
-};
+using namespace testing_helpers;
 
-Window *open(Tag tag, const QRectF &rect = QRectF(40, 60, 300, 200))
-{
-    CUI_Window(tag, QString(), notGiven, rect);
-    QApplication::processEvents();
-    return CUI_WindowWithTag(tag);
-}
+using Windows = WindowTest;
 
 bool isCentred(const Window *window)
 {
@@ -51,7 +33,7 @@ bool isCentred(const Window *window)
 
 TEST_F(Windows, StatementMakesAndShows)
 {
-    struct Row
+    const struct
     {
         const char *name;
         Tag tag;
@@ -59,8 +41,7 @@ TEST_F(Windows, StatementMakesAndShows)
         QSizeF size;
         bool centred;
         bool shown;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"empty rectangle", 1, QRectF(), QSizeF(550, 400), true, true},
         {"size without height counts as empty", 1, QRectF(10, 10, 300, 0), QSizeF(550, 400), true, true},
         {"origin (0, 0)", 1, QRectF(0, 0, 580, 250), QSizeF(580, 250), true, true},
@@ -68,12 +49,9 @@ TEST_F(Windows, StatementMakesAndShows)
         {"origin (0, y)", 1, QRectF(0, 60, 300, 200), QSizeF(300, 200), false, true},
         {"negative tag hides", -1, QRectF(0, 0, 300, 200), QSizeF(300, 200), true, false},
     };
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
-        CUI_Window(row.tag, QString(), notGiven, row.rect);
-        QApplication::processEvents();
-        QPointer<Window> window = CUI_WindowWithTag(1);
-        ASSERT_TRUE(window);
+        Window *const window = open(row.tag, row.rect);
         EXPECT_EQ(window->contentRect().size(), row.size);
         EXPECT_EQ(isCentred(window), row.centred);
         if (!row.centred) {
@@ -93,7 +71,9 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
 {
     CUI_Window(-1, QStringLiteral("First"), windowStyleTitled, QRectF(50, 70, 300, 200));
     Window *const window = CUI_WindowWithTag(1);
-    struct Row
+    const QRectF first(50, 70, 300, 200);
+    const QRectF second(80, 90, 400, 100);
+    const struct
     {
         const char *name;
         Tag tag;
@@ -104,10 +84,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
         qint64 styleAfter;
         QRectF rectAfter;
         bool shown;
-    };
-    const QRectF first(50, 70, 300, 200);
-    const QRectF second(80, 90, 400, 100);
-    const Row rows[] = {
+    } rows[] = {
         {"shows the hidden one", 1, {}, notGiven, {}, u"First"_qs, windowStyleTitled, first, true},
         {"title only", 1, u"Second"_qs, notGiven, {}, u"Second"_qs, windowStyleTitled, first, true},
         {"empty title", 1, u""_qs, notGiven, {}, u""_qs, windowStyleTitled, first, true},
@@ -115,7 +92,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
         {"style only", 1, {}, windowStyleDefault, {}, u""_qs, windowStyleDefault, second, true},
         {"tag of the other sign hides", -1, {}, notGiven, {}, u""_qs, windowStyleDefault, second, false},
     };
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         CUI_SetSubclassFlag(true);
         CUI_Window(row.tag, row.title, row.style, row.rect);
@@ -148,22 +125,12 @@ TEST_F(Windows, InitDoesNotCheckTheTag)
 TEST_F(Windows, LookupByTag)
 {
     Window *const three = open(3);
-    const Tag address = tagFromObject(three);
-    struct Row
-    {
-        const char *name;
-        Tag tag;
-        const Window *found;
-    };
-    const Row rows[] = {
-        {"nothing", 0, nullptr},        {"tag", 3, three},
-        {"absolute value", -3, three},  {"unknown", 4, nullptr},
-        {"an address", address, three}, {"largest tag", largestTag, nullptr},
-    };
-    for (const Row &row : rows) {
-        EXPECT_EQ(CUI_WindowWithTag(row.tag), row.found) << row.name;
+    EXPECT_EQ(CUI_WindowWithTag(3), three);
+    EXPECT_EQ(CUI_WindowWithTag(-3), three);
+    EXPECT_EQ(CUI_WindowWithTag(tagFromObject(three)), three);
+    for (const Tag unknown : {Tag(0), Tag(4), largestTag}) {
+        EXPECT_EQ(CUI_WindowWithTag(unknown), nullptr) << unknown;
     }
-    EXPECT_EQ(tagFromObject(CUI_WindowWithTag(largestTag + 1)), largestTag + 1);
     WindowCenter(4);
     WindowSetBackgroundColor(4, Qt::red);
 }
@@ -180,39 +147,35 @@ TEST_F(Windows, ContentKeepsItsSizeWhateverTheMenuBarTakes)
     for (const qint64 style : {qint64(windowStyleTitled), qint64(windowStyleDefault)}) {
         CUI_Window(1, QString(), style, QRectF(40, 60, 300, 200));
         Window *const window = CUI_WindowWithTag(1);
-        const auto sizeOfContent = [window] {
-            QApplication::processEvents();
-            return window->contentRect().size();
+        const std::pair<const char *, std::function<void()>> rows[] = {
+            {"made", [] {}},
+            {"menus added", [] { CUI_EditMenu(2); }},
+            {"bar taken out of the window", [window] { window->menuBar()->hide(); }},
+            {"bar put back", [window] { window->menuBar()->show(); }},
         };
-        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200));
-        CUI_EditMenu(2);
-        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200)) << "menus added";
-        const int height = window->height();
-        window->menuBar()->hide();
-        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200)) << "bar taken out of the window";
-        EXPECT_LT(window->height(), height);
-        window->menuBar()->show();
-        EXPECT_EQ(sizeOfContent(), QSizeF(300, 200)) << "bar put back";
-        EXPECT_EQ(window->height(), height);
+        for (const auto &[name, happening] : rows) {
+            happening();
+            QApplication::processEvents();
+            EXPECT_EQ(window->contentRect().size(), QSizeF(300, 200)) << name;
+        }
         window->resize(window->width() + 20, window->height() + 30);
         const QSizeF grown = style & windowStyleResizable ? QSizeF(320, 230) : QSizeF(300, 200);
-        EXPECT_EQ(sizeOfContent(), grown);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->contentRect().size() == grown; }));
         delete window;
     }
 }
 
 TEST_F(Windows, StyleBecomesWindowFlags)
 {
-    struct Row
+    const Qt::WindowFlags buttons =
+        Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+    const struct
     {
         const char *name;
         qint64 style;
         Qt::WindowFlags set;
         Qt::WindowFlags clear;
-    };
-    const Qt::WindowFlags buttons =
-        Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
-    const Row rows[] = {
+    } rows[] = {
         {"default", windowStyleDefault, Qt::WindowTitleHint | buttons, Qt::FramelessWindowHint},
         {"title only", windowStyleTitled, Qt::WindowTitleHint, Qt::FramelessWindowHint | buttons},
         {"closable", windowStyleTitled | windowStyleClosable, Qt::WindowCloseButtonHint, Qt::WindowMinimizeButtonHint},
@@ -220,7 +183,7 @@ TEST_F(Windows, StyleBecomesWindowFlags)
     };
     Window *const window = open(1);
     const QRectF place = window->contentRect();
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         window->setStyleMask(row.style);
         QApplication::processEvents();
@@ -254,18 +217,13 @@ TEST_F(Windows, FrontToBackOrder)
     EXPECT_TRUE(QTest::qWaitForWindowActive(two));
     EXPECT_EQ(CUI_FrontWindow(), two);
     EXPECT_EQ(orderedWindows(), (QList<Window *>{two, one, hidden}));
-    CUI_Window(-2, QString(), notGiven, QRectF());
+    open(-2, QRectF());
     EXPECT_EQ(CUI_FrontWindow(), one);
-    CUI_Window(-1, QString(), notGiven, QRectF());
+    open(-1, QRectF());
     EXPECT_EQ(CUI_FrontWindow(), nullptr);
-}
-
-TEST_F(Windows, ShowingAMinimisedWindowBringsItBack)
-{
-    Window *const window = open(1);
-    window->showMinimized();
-    open(1, QRectF());
-    EXPECT_FALSE(window->isMinimized());
+    two->showMinimized();
+    open(2, QRectF());
+    EXPECT_FALSE(two->isMinimized());
 }
 
 TEST_F(Windows, BackgroundColoursTheContentOnly)
