@@ -31,14 +31,9 @@ TEST(StringStack, handsOutSlots1To64)
     }
     EXPECT_EQ(gZRStk, 64);
     popString();
-    EXPECT_EQ(STACK_PUSH(), gZRStrStk[64]) << "a popped slot is free again";
-}
-
-TEST(StringStack, keepsWhatASlotHeld)
-{
     pushed("kept");
     popString();
-    EXPECT_EQ(charactersOf(STACK_PUSH()), "kept");
+    EXPECT_EQ(charactersOf(STACK_PUSH()), "kept") << "a popped slot is free again, but not cleared";
 }
 
 TEST(StringStack, doesNotCheckForUnderflow)
@@ -97,15 +92,11 @@ TEST(PascalStrings, midClampsItsArguments)
     } rows[] = {
         {"inside", "HELLO", 2, 3, "ELL"},
         {"count beyond the end", "HELLO", 4, 10, "LO"},
-        {"last character", "HELLO", 5, 1, "O"},
         {"start beyond the end", "HELLO", 6, 1, ""},
-        {"start far beyond the end", "HELLO", 32767, 32767, ""},
         {"start 0 does not shorten the count", "HELLO", 0, 2, "HE"},
-        {"nor does a negative one", "HELLO", -3, 2, "HE"},
         {"all", "HELLO", -3, 9, "HELLO"},
         {"no characters", "HELLO", 2, 0, ""},
         {"negative count", "HELLO", 2, -1, ""},
-        {"empty source", "", 0, 3, ""},
         {"longest", longest, 1, 255, longest},
         {"arguments are cut to 16 bits", "HELLO", 65536 + 2, 65536 + 3, "ELL"},
     };
@@ -138,11 +129,7 @@ TEST(PascalStrings, copyIsSafeOnOverlap)
 {
     unsigned char buffer[300] = {3, 2, 'a', 'b'};
     EXPECT_EQ(PSstrcpy(buffer + 1, buffer), buffer + 1);
-    EXPECT_EQ(std::memcmp(buffer + 1,
-                          "\x03\x02"
-                          "ab",
-                          4),
-              0);
+    EXPECT_EQ(charactersOf(buffer + 1), "\2ab");
 }
 
 TEST(PascalStrings, convertFromTexts)

@@ -37,18 +37,14 @@ TEST(TextFormat, printsIntegers)
         {"width from arguments", StringWithFormat(u"[%*d|%*d]"_qs, 3, 7, -3, 7), "[  7|7  ]"},
         {"bases", StringWithFormat(u"%u %o %x %X"_qs, 255U, 255, 255, 255), "255 377 ff FF"},
         {"marked bases", StringWithFormat(u"%#o %#x %#X %#x"_qs, 8, 255, 255, 0), "010 0xff 0XFF 0"},
-        {"no sign on unsigned", StringWithFormat(u"%+u %+x"_qs, 5, 5), "5 5"},
         {"extremes",
          StringWithFormat(u"%ld %lu"_qs, std::numeric_limits<qint64>::min(), std::numeric_limits<quint64>::max()),
          "-9223372036854775808 18446744073709551615"},
         {"cut to size", StringWithFormat(u"%hhd %hu %d %u"_qs, 300, 65537, 4294967295U, -1), "44 1 -1 4294967295"},
         {"64-bit sizes", StringWithFormat(u"%ld %lld %qd %zd %td %jd"_qs, 1LL << 40, 1, 2, 3, 4, 5),
          "1099511627776 1 2 3 4 5"},
-        {"long letters", StringWithFormat(u"%D %U %O"_qs, 1LL << 40, 1LL << 40, 8), "1099511627776 1099511627776 10"},
         {"doubles saturate", StringWithFormat(u"%d %d %d %u"_qs, -2.9, 1e20, infinity, -1.0),
          "-2 2147483647 2147483647 0"},
-        {"64-bit doubles too", StringWithFormat(u"%ld %lu %ld"_qs, 1e300, 1e300, -infinity),
-         "9223372036854775807 18446744073709551615 -9223372036854775808"},
         {"a text's value", StringWithFormat(u"%d"_qs, u"12 puzzles"_qs), "12"},
         {"truth", StringWithFormat(u"%d %@"_qs, true, false), "1 0"},
     };
@@ -59,7 +55,6 @@ TEST(TextFormat, printsDoubles)
 {
     const Row rows[] = {
         {"three decimals", StringWithFormat(u"%.3f %.3lf"_qs, 23.9996, -0.5), "24.000 -0.500"},
-        {"six decimals", StringWithFormat(u"%f"_qs, 1.0), "1.000000"},
         {"halves to even", StringWithFormat(u"%.0f %.0f %.0e"_qs, 0.5, 1.5, 2.5), "0 2 2e+00"},
         {"sign of zero", StringWithFormat(u"%.1f %+.1f"_qs, -0.0, 0.0), "-0.0 +0.0"},
         {"width", StringWithFormat(u"[%8.2f|%-8.2f|%08.2f]"_qs, -1.5, -1.5, -1.5), "[   -1.50|-1.50   |-0001.50]"},
@@ -67,8 +62,6 @@ TEST(TextFormat, printsDoubles)
         {"exponents", StringWithFormat(u"%e %.2E %G"_qs, 12345.678, 12345.678, 1e-10), "1.234568e+04 1.23E+04 1E-10"},
         {"general", StringWithFormat(u"%g %g %g %.3g"_qs, 100000.0, 1e6, 0.0001, 1234.5),
          "100000 1e+06 0.0001 1.23e+03"},
-        {"marked", StringWithFormat(u"%#.0f %#g %#g %#.0e"_qs, 3.0, 1.0, 1e7, 3.0), "3. 1.00000 1.00000e+07 3.e+00"},
-        {"hexadecimal", StringWithFormat(u"%a %A %#.0a"_qs, 0.5, -1.0, 1.0), "0x1p-1 -0X1P+0 0x1.p+0"},
         {"not finite", StringWithFormat(u"%f %05F %e"_qs, -infinity, infinity, std::nan("")), "-inf   INF nan"},
         {"an integer for a double", StringWithFormat(u"%.1f %.1f"_qs, 3, u"2.5 kg"_qs), "3.0 2.5"},
     };
@@ -78,20 +71,16 @@ TEST(TextFormat, printsDoubles)
 TEST(TextFormat, printsTextsAndObjects)
 {
     const QVariant error = QVariant::fromValue(ErrorObject{u"Math"_qs, 3, u"No operand at 2"_qs});
-    const QByteArray unterminated = QByteArray::fromRawData("abcdef", 3);
     const Row rows[] = {
         {"text", StringWithFormat(u"About %@!"_qs, u"Ärger"_qs), "About Ärger!"},
         {"no text", StringWithFormat(u"%@ %@ %s"_qs, QString(), QVariant(), static_cast<const char *>(nullptr)),
          "(null) (null) (null)"},
-        {"empty text", StringWithFormat(u"[%@]"_qs, u""_qs), "[]"},
         {"a directive in an argument is text", StringWithFormat(u"%@"_qs, u"%d"_qs), "%d"},
         {"width and precision", StringWithFormat(u"[%5@|%-5@|%.2@]"_qs, u"ab"_qs, u"ab"_qs, u"abc"_qs),
          "[   ab|ab   |ab]"},
         {"C string", StringWithFormat(u"[%s|%5.2s|%.*s]"_qs, "abc", "abc", 1, "abc"), "[abc|   ab|a]"},
         {"C string is Mac Roman", StringWithFormat(u"%s %@ %c"_qs, "\x80", "\x80", 0x80), "Ä Ä Ä"},
         {"bytes up to a zero", StringWithFormat(u"%s"_qs, QByteArray("a\0b", 3)), "a"},
-        {"bytes without a zero", StringWithFormat(u"%s"_qs, unterminated), "abc"},
-        {"characters", StringWithFormat(u"[%c|%3c|%C|%c]"_qs, 'x', 'y', 0x20AC, u"text"_qs), "[x|  y|€|t]"},
         {"numbers", StringWithFormat(u"%@ %@ %@ %@"_qs, 24, 0.1, 0.1F, -7LL), "24 0.1 0.1 -7"},
         {"error object", StringWithFormat(u"%@"_qs, error), "No operand at 2"},
         {"list", StringWithFormat(u"%@"_qs, QStringList{u"a"_qs, u"b"_qs}), "(a, b)"},
@@ -107,8 +96,6 @@ TEST(TextFormat, takesArgumentsByPlace)
 {
     const Row rows[] = {
         {"order", StringWithFormat(u"%2$@ of %1$d"_qs, 3, u"b"_qs), "b of 3"},
-        {"again", StringWithFormat(u"%1$d %1$d"_qs, 3), "3 3"},
-        {"width by place", StringWithFormat(u"[%2$*1$d]"_qs, 4, 7), "[   7]"},
         {"no such place", StringWithFormat(u"%9$d %9$@ %99999999999$d"_qs, 1), "0 (null) 0"},
         {"missing", StringWithFormat(u"%d %@ %f %s %p"_qs), "0 (null) 0.000000 (null) 0x0"},
     };
@@ -122,9 +109,7 @@ TEST(TextFormat, survivesMalformedFormats)
         {"percent sign", StringWithFormat(u"100%% of %d"_qs, 1), "100% of 1"},
         {"percent last", StringWithFormat(u"100%"_qs, 1), "100%"},
         {"unknown letter", StringWithFormat(u"%y %d"_qs, 1), "%y 1"},
-        {"unknown letter after a star takes nothing", StringWithFormat(u"%*y %d"_qs, 1), "%*y 1"},
         {"ends in the middle", StringWithFormat(u"%-08.3l"_qs, 1), "%-08.3l"},
-        {"place 0", StringWithFormat(u"%0$d"_qs, 1), "%0$d"},
         {"point without digits", StringWithFormat(u"%.f %.@"_qs, 2.5, u"x"_qs), "2 "},
     };
     expectAll(rows);
