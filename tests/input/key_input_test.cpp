@@ -8,7 +8,6 @@
 #include "runtime/input/key_input.h"
 #include "runtime/strings/not_given.h"
 
-#include <QInputMethodEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QTimer>
@@ -35,86 +34,63 @@ protected:
     }
 };
 
-struct KeyCase
+TEST_F(KeyInput, takesTheFirstAcceptedKey)
 {
-    const char *shows;
-    QString characters;
-    qint64 pass;
-    qint64 caseOption;
-    QString refused; ///< pressed first; the panel must go on waiting
-    QString pressed;
-    QString expected;
-};
-
-void PrintTo(const KeyCase &row, std::ostream *out)
-{
-    *out << row.shows;
+    const struct
+    {
+        const char *shows;
+        QString characters;
+        qint64 pass;
+        qint64 caseOption;
+        QString refused; ///< pressed first; the panel must go on waiting
+        QString pressed;
+        QString expected;
+    } rows[] = {
+        {"any without a format", QString(), notGiven, notGiven, u""_s, u"x"_s, u"x"_s},
+        {"listed", u"yn"_s, 1, notGiven, u"xY 1"_s, u"y"_s, u"y"_s},
+        {"not listed", u"yn"_s, 0, notGiven, u"yn"_s, u"Y"_s, u"Y"_s},
+        {"raised before the list", u"Q"_s, 1, caseForceUpper, u"x"_s, u"q"_s, u"Q"_s},
+        {"lowered before the list", u"q"_s, 1, caseForceLower, u"x"_s, u"Q"_s, u"q"_s},
+        {"a capital is lowered out of its list", u"Qa"_s, 1, caseForceLower, u"Qq"_s, u"A"_s, u"a"_s},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.shows);
+        CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
+        const QString key = ask(row.characters, row.pass, row.caseOption, [&](ZRInkeyWindow &panel) {
+            press(row.refused);
+            EXPECT_EQ(modalWindow(), &panel);
+            EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString(), u"before"_s);
+            EXPECT_NE(panel.cursorTimer(), nullptr);
+            press(row.pressed);
+            EXPECT_EQ(panel.cursorTimer(), nullptr) << "the cursor still blinks";
+        });
+        EXPECT_EQ(key, row.expected);
+    }
 }
-
-class KeyFilter : public KeyInput, public testing::WithParamInterface<KeyCase>
-{};
-
-TEST_P(KeyFilter, takesTheFirstAcceptedKey)
-{
-    const KeyCase &row = GetParam();
-    CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
-    EXPECT_EQ(ask(row.characters, row.pass, row.caseOption,
-                  [&](ZRInkeyWindow &panel) {
-                      press(row.refused);
-                      EXPECT_EQ(modalWindow(), &panel);
-                      EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString(), u"before"_s);
-                      EXPECT_NE(panel.cursorTimer(), nullptr);
-                      press(row.pressed);
-                      EXPECT_EQ(panel.cursorTimer(), nullptr) << "the cursor still blinks";
-                  }),
-              row.expected);
-}
-
-const KeyCase keyCases[] = {
-    {"anyWithoutAFormat", QString(), notGiven, notGiven, u""_s, u"x"_s, u"x"_s},
-    {"listed", u"yn"_s, 1, notGiven, u"xY 1"_s, u"y"_s, u"y"_s},
-    {"notListed", u"yn"_s, 0, notGiven, u"yn"_s, u"Y"_s, u"Y"_s},
-    {"raisedBeforeTheList", u"Q"_s, 1, caseForceUpper, u"x"_s, u"q"_s, u"Q"_s},
-    {"loweredBeforeTheList", u"q"_s, 1, caseForceLower, u"x"_s, u"Q"_s, u"q"_s},
-    {"capitalIsLoweredOutOfItsList", u"Qa"_s, 1, caseForceLower, u"Qq"_s, u"A"_s, u"a"_s},
-};
-
-INSTANTIATE_TEST_SUITE_P(, KeyFilter, testing::ValuesIn(keyCases), [](const auto &row) { return row.param.shows; });
 
 TEST_F(KeyInput, escapeGivesNoKeyWithTheCodeOfAnAnswer)
 {
     CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
     const WithPanel<ZRInkeyWindow> played([](ZRInkeyWindow &panel) { QTest::keyClick(&panel, Qt::Key_Escape); });
-    ZRInkeyWindow panel(u""_s, notGiven, notGiven);
+    ZRInkeyWindow panel(u""_s, 10, 190);
+    EXPECT_EQ(panel.bodyRect(), QRect(10, 154, 40, 36)) << "without a prompt forty wide";
     EXPECT_EQ(panel.run(), modalStopped);
     EXPECT_TRUE(CUI_AppDelegateObj()->inkeyResponseString().isNull());
 }
 
 TEST_F(KeyInput, keysThatAreNoAnswerAreWaitedOver)
 {
-    const QString key = ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &panel) {
+    const QString key = ask(u"é\t\r"_s, 1, notGiven, [](ZRInkeyWindow &panel) {
         for (const Qt::Key silent : {Qt::Key_Shift, Qt::Key_Left, Qt::Key_F5}) {
             QTest::keyClick(&panel, silent);
         }
-        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-        QCoreApplication::sendEvent(&panel, &held);
+        repeatHeldKey(&panel, Qt::Key_Return);
+        compose(&panel, u"è"_s);
         EXPECT_EQ(modalWindow(), &panel);
-        QTest::keyClick(&panel, Qt::Key_Tab);
+        compose(&panel, u"é"_s);
     });
-    EXPECT_EQ(key, u"\t"_s);
-}
-
-TEST_F(KeyInput, composedKeysPassTheFilterToo)
-{
-    EXPECT_EQ(ask(u"é"_s, 1, notGiven,
-                  [](ZRInkeyWindow &panel) {
-                      for (const QString &composed : {u"è"_s, u"é"_s}) {
-                          QInputMethodEvent commit;
-                          commit.setCommitString(composed);
-                          QCoreApplication::sendEvent(&panel, &commit);
-                      }
-                  }),
-              u"é"_s);
+    EXPECT_EQ(key, u"é"_s);
+    EXPECT_EQ(ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &p) { QTest::keyClick(&p, Qt::Key_Tab); }), u"\t"_s);
 }
 
 TEST_F(KeyInput, theFormatPersistsUntilItIsRemoved)
@@ -138,12 +114,6 @@ TEST_F(KeyInput, theCursorBlinksAndStandsAfterThePrompt)
         press(u"k"_s);
         EXPECT_EQ(timer, nullptr);
     });
-}
-
-TEST_F(KeyInput, withoutAPromptItIsFortyWideAtLeast)
-{
-    const ZRInkeyWindow panel(u""_s, 10, 190);
-    EXPECT_EQ(panel.bodyRect(), QRect(10, 154, 40, 36));
 }
 
 TEST_F(KeyInput, aWindowDeletedUnderTheRunGivesNone)

