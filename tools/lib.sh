@@ -8,9 +8,16 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 packages_build=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core fonts-noto-color-emoji)
 # shellcheck disable=SC2034
 packages_test=(libgtest-dev xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core
-    python3-gi gir1.2-atspi-2.0 locales)
+    python3-gi gir1.2-atspi-2.0 locales strace)
+# shellcheck disable=SC2034
+packages_package=(librsvg2-bin dpkg-dev fakeroot lintian file desktop-file-utils appstream mandoc)
 # shellcheck disable=SC2034
 packages_lint=(clang clang-format clang-tidy)
+# shellcheck disable=SC2034
+packages_fuzz=(clang libclang-rt-dev)
+# shellcheck disable=SC2034
+packages_bench=(libbenchmark-dev libfparser-dev libmuparser-dev pkgconf libx11-dev libxtst-dev libxdamage-dev
+    xvfb openbox dbus-daemon python3 sgt-puzzles kmines gbrainy)
 
 fail() {
     printf '%s\n' "$@" >&2
