@@ -49,9 +49,10 @@ Qt::WindowFlags hintsForStyle(qint64 mask)
 
 } // namespace
 
-Window::Window(const QRectF &contentRect)
-    : m_contentView(new ContentViewSC(this)), m_translator(std::make_unique<WindowTranslator>(this))
+Window::Window(const QRectF &contentRect) : m_translator(std::make_unique<WindowTranslator>(this))
 {
+    // Not before all members stand: the new child is an event of this window.
+    m_contentView = new ContentViewSC(this);
     setAttribute(Qt::WA_DeleteOnClose);
     setCentralWidget(m_contentView);
     menuBar()->setAccessibleName(tr("Menu bar"));
