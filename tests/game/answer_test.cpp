@@ -27,19 +27,14 @@ TEST(Answer, IsJudgedInTheOrderOfTheChecks)
         Outcome outcome;
     } rows[] = {
         {"empty", "1 3 4 6", "", Outcome::nothingTyped},
-        {"q", "1 3 4 6", "q", Outcome::quit},
         {"Q", "1 3 4 6", "Q", Outcome::quit},
-        {"s", "1 3 4 6", "s", Outcome::skip},
         {"S", "1 3 4 6", "S", Outcome::skip},
         {"q is a command only alone", "1 3 4 6", "qq", Outcome::wrongNumbers},
         {"first example of the instructions", "1 6 8 9", "9+6+1+8", Outcome::correct},
         {"second example of the instructions", "1 3 3 7", "((3*1)*7)+3", Outcome::correct},
         {"only with fractions", "1 3 4 6", "6/(1-3/4)", Outcome::correct},
-        {"x multiplies", "1 3 3 7", "((3x1)X7)+3", Outcome::correct},
         {"five digits, before all else", "1 3 4 6", "1+2+3+4+5", Outcome::extraNumbers},
         {"five digits and all the right ones", "1 3 4 6", "6/(1-3/4)*1", Outcome::extraNumbers},
-        {"zeros do not count as digits", "1 3 4 6", "6/(1-3/4)+0000", Outcome::correct},
-        {"too few digits", "1 3 4 6", "4*6", Outcome::wrongNumbers},
         {"joined digits that are not the puzzle's", "1 3 4 6", "12+12", Outcome::wrongNumbers},
         {"joined digits of the puzzle", "1 2 3 4", "13+24", Outcome::incorrect},
         {"one number missing, another twice", "1 3 4 6", "6*4+1-1", Outcome::wrongNumbers},
@@ -48,10 +43,8 @@ TEST(Answer, IsJudgedInTheOrderOfTheChecks)
         {"above 24 and below 25", "1 2 4 9", "49/2*1", Outcome::correct},
         {"25 and above", "1 2 5 9", "(9+1)*5/2", Outcome::incorrect},
         {"unbalanced", "1 3 4 6", "6/(1-3/4", Outcome::incorrect},
-        {"unfinished", "1 3 4 6", "1+3+4+6+", Outcome::incorrect},
         {"a letter", "1 3 4 6", "1+3+4+6q", Outcome::incorrect},
         {"division by zero", "1 3 4 6", "6/(4-3-1)", Outcome::incorrect},
-        {"zero by zero", "2 2 4 4", "(2-2)/(4-4)", Outcome::incorrect},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -72,20 +65,13 @@ TEST(EvaluateMath, GivesTheValueAsText)
     } rows[] = {
         {"whole", "9+6+1+8", "24", 24},
         {"integers divide as decimals", "9/2", "4.500", 4},
-        {"fractions", "6/(1-3/4)", "24", 24},
         {"rounds up to 24", "23.9996", "24", 24},
         {"does not round up to 24", "23.9994", "23.999", 23},
-        {"above 24", "49/2", "24.500", 24},
         {"x", "2x3X4", "24", 24},
-        {"decimals stay as they are", "1.5+22.5", "24", 24},
-        {"negative", "2-26", "-24", -24},
         {"negative fraction", "1/2-1", "-0.500", 0},
         {"whole but not in single precision", "16777217", "16777217.000", 16777217},
         {"whole in single precision", "16777216", "16777216", 16777216},
         {"unbalanced", "6/(1-3/4", "'(' without ')' at position 5", 0},
-        {"unfinished", "24+", "missing operand after '+' at position 5", 0},
-        {"number and letter", "24q", "unexpected 'q' at position 5", 0},
-        {"nothing", "", "the expression is empty", 0},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);

