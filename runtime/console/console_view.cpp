@@ -118,10 +118,13 @@ double CUI_PrintToWindowView::pieceX(double pieceWidth) const
 /// An empty piece becomes an item too, deliberately: archives count two items for one printed line.
 void CUI_PrintToWindowView::addPiece(const QString &piece, bool last)
 {
-    const TextExtent extent = measureText(piece, m_attributes);
+    TextExtent extent = measureText(piece, m_attributes);
     const QPointF pt(pieceX(extent.width), m_currentPoint.y());
     append({CUI_PrintToWindowItem::itemWithString(piece, pt, m_attributes), extent.width, !last},
            extent.ink.translated(pt));
+    if (extent.shape) {
+        m_itemPainter.keepShape(m_items.size() - 1, std::move(extent.shape));
+    }
     if (last) {
         m_currentPoint.rx() += extent.width;
     } else {

@@ -36,6 +36,9 @@ public:
 
     const ShapedText &shaped(const DisplayList &list, quint32 index);
 
+    /// Hands over the shape of a text that was shaped before it was drawn.
+    void keepShape(quint32 index, std::unique_ptr<ShapedText> shape) { m_shapes.insert(index, shape.release()); }
+
     /// To be called when the list was cleared.
     void forget() { m_shapes.clear(); }
 

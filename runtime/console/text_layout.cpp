@@ -123,13 +123,19 @@ TextExtent measureText(const QString &text, const TextAttributes &attributes)
     if (facts.plainAdvance > 0 && std::all_of(drawn.begin(), drawn.end(), isPlain)) {
         const double width = static_cast<double>(drawn.size()) * facts.plainAdvance;
         if (width <= measuringLimit) {
-            return {width, boxInk(width, facts)};
+            return {width, boxInk(width, facts), nullptr};
         }
+    }
+    auto shape = std::make_unique<ShapedText>(drawn, attributes);
+    const QRectF ink = glyphInk(*shape, facts);
+    // Shaping emoji decodes their pictures each time; what fits is not laid out again to be measured.
+    if (const double width = shape->width(); width <= measuringLimit) {
+        return {width, boxInk(width, facts) | ink, std::move(shape)};
     }
     QTextLayout layout;
     layOut(layout, drawn, attributes, measuringLimit);
     const double width = widestLine(layout);
-    return {width, boxInk(width, facts) | glyphInk(ShapedText(drawn, attributes), facts)};
+    return {width, boxInk(width, facts) | ink, nullptr};
 }
 
 ShapedText::ShapedText(const QString &text, const TextAttributes &attributes)
@@ -139,6 +145,11 @@ ShapedText::ShapedText(const QString &text, const TextAttributes &attributes)
     // A taller fallback font must not push the text below its neighbours on the same line.
     m_baseline = m_layout.lineCount() > 0 ? attributes.facts().ascent - m_layout.lineAt(0).ascent() : 0;
     m_glyphRuns = m_layout.glyphRuns();
+}
+
+double ShapedText::width() const
+{
+    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).horizontalAdvance() : 0;
 }
 
 double ShapedText::xOf(qsizetype index) const

@@ -6,25 +6,15 @@
 #include <QString>
 #include <QTextLayout>
 
+#include <memory>
+
 namespace tetrad {
 
 class TextAttributes;
 
-/// What is known of a text once it has been measured, relative to its top left.
-struct TextExtent
-{
-    /// Of the bounding rectangle of the text laid out within 10000 pixels.
-    double width = 0;
-    /// Covers every pixel that drawing the text on one line may touch, with room to spare.
-    QRectF ink;
-};
-
 /// The text as it is drawn and measured: without control characters, which have neither shape nor width. Only the tab
 /// stays, unless the tab interval makes it worthless.
 QString drawnText(const QString &text, const TextAttributes &attributes);
-
-/// Measures a text on one line, in device-independent pixels.
-TextExtent measureText(const QString &text, const TextAttributes &attributes);
 
 /// A drawn text shaped for drawing and for finding characters in it.
 class ShapedText
@@ -33,6 +23,8 @@ public:
     ShapedText(const QString &text, const TextAttributes &attributes);
 
     const QList<QGlyphRun> &glyphRuns() const { return m_glyphRuns; }
+
+    double width() const;
 
     /// How far the glyph runs' own baseline lies below the top of the text.
     double baseline() const { return m_baseline; }
@@ -46,5 +38,19 @@ private:
     QList<QGlyphRun> m_glyphRuns;
     double m_baseline = 0;
 };
+
+/// What is known of a text once it has been measured, relative to its top left.
+struct TextExtent
+{
+    /// Of the bounding rectangle of the text laid out within 10000 pixels.
+    double width = 0;
+    /// Covers every pixel that drawing the text on one line may touch, with room to spare.
+    QRectF ink;
+    /// The shaped text, where measuring had to shape it and found a line within the limit.
+    std::unique_ptr<ShapedText> shape;
+};
+
+/// Measures a text on one line, in device-independent pixels.
+TextExtent measureText(const QString &text, const TextAttributes &attributes);
 
 } // namespace tetrad
