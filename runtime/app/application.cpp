@@ -8,6 +8,7 @@
 #include "runtime/strings/string_stack.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
 #include <QPointer>
 
@@ -17,13 +18,36 @@ namespace {
 
 QPointer<CUI_AppDelegate> installedDelegate;
 
-// Also a program installed where the desktop does not look, in a prefix of its own, finds its icon.
-void giveIcon()
+// Looks at the files that applications install their icons as. QIcon::fromTheme would first read the whole index of
+// the theme, which takes a fifth of all the work of starting a program.
+QIcon installedIcon(const QString &name)
 {
+    // Also a program installed where the desktop does not look, in a prefix of its own, finds its icon.
     const QString besideProgram = QCoreApplication::applicationDirPath() + u"/../share/icons"_qs;
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << besideProgram);
+    for (const QString &folder : QIcon::themeSearchPaths()) {
+        QIcon icon;
+        for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+            const QString file = folder + QString::asprintf("/hicolor/%dx%d/apps/", size, size) + name + u".png"_qs;
+            if (QFile::exists(file)) {
+                icon.addFile(file, QSize(size, size));
+            }
+        }
+        const QString drawing = folder + u"/hicolor/scalable/apps/"_qs + name + u".svg"_qs;
+        if (icon.isNull() && QFile::exists(drawing)) {
+            icon.addFile(drawing);
+        }
+        if (!icon.isNull()) {
+            return icon;
+        }
+    }
+    return {};
+}
+
+void giveIcon()
+{
     if (QApplication::windowIcon().isNull()) {
-        QApplication::setWindowIcon(QIcon::fromTheme(applicationId()));
+        QApplication::setWindowIcon(installedIcon(applicationId()));
     }
 }
 

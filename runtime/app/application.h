@@ -7,7 +7,8 @@ namespace tetrad {
 class CUI_AppDelegate;
 
 /// Makes the process a window system application driven from the program's own straight-line main:
-/// creates the application object, gives it the icon theme's icon named like its id unless it has an icon,
+/// creates the application object, gives it the icon installed in the theme "hicolor" and named like its id unless
+/// it has an icon,
 /// and installs the runtime's delegate. A second call, or one made
 /// when a delegate is already installed, changes nothing.
 /// Without a display the process ends here with one sentence on standard error and status 1.
