@@ -36,7 +36,44 @@ enum SplitViewEvent : qint64 {
     splitViewEventConstrainSplitPosition = 1510,    ///< longVal: divider; floatVal: proposal and answer
     splitViewEventDividerColor = 1511,              ///< colorObj: the answer
     splitViewEventDividerThickness = 1512,          ///< floatVal: the answer
-    splitViewEventDrawDivider = 1513,               ///< rectVal: the divider; boolVal: whether it was drawn
+    splitViewEventDrawDivider =
+        1513, ///< longVal: divider; viewObj: what to draw on; rectVal: its part; boolVal: whether drawn
+};
+
+/// Questions of the families from here to the token fields that could keep something from working ask whether to refuse
+/// it: with boolVal preset to false, a program that does not know an event stands in nobody's way. An object
+/// named is passed as the event's object too.
+enum TabViewEvent : qint64 {
+    tabViewEventRefuseSelect = 1600,   ///< longVal: tab; stringObj: its label; object: its page; boolVal: the answer
+    tabViewEventWillSelect = 1601,     ///< the same fields
+    tabViewEventDidSelect = 1602,      ///< the same fields
+    tabViewEventDidChangeCount = 1603, ///< longVal: how many tabs
+};
+
+/// Rows and columns count from 0. A column is also in tableColumnObj.
+enum TableViewEvent : qint64 {
+    tableViewEventRowCount = 1700,         ///< longVal: the answer
+    tableViewEventValue = 1701,            ///< longVal: row; tableColumnObj: column; object: the answer
+    tableViewEventShouldEdit = 1702,       ///< longVal: row; tableColumnObj: column; boolVal: the answer
+    tableViewEventViewForCell = 1703,      ///< longVal: row; tableColumnObj: column; viewObj: the answer
+    tableViewEventRowHeight = 1704,        ///< longVal: row; doubleVal: pixels, in and out
+    tableViewEventDidEdit = 1705,          ///< longVal: row; tableColumnObj: column; object: the new value
+    tableViewEventRefuseSelectRow = 1706,  ///< longVal: row; boolVal: the answer
+    tableViewEventSelectionChanged = 1707, ///< longVal: the current row, -1 for none
+    tableViewEventColumnClicked = 1708,    ///< tableColumnObj: column
+    tableViewEventDrawRow = 1709,          ///< longVal: row; viewObj: what to draw on; rectVal: its part
+};
+
+/// An item is whatever value the program gave for it, an invalid one for the root, and is in `object`.
+enum OutlineViewEvent : qint64 {
+    outlineViewEventChildCount = 1800,       ///< object: item; longVal: the answer
+    outlineViewEventChild = 1801,            ///< object: parent in, child out; longVal: index
+    outlineViewEventText = 1802,             ///< object: item; tableColumnObj: column; stringObj: the answer
+    outlineViewEventDidExpand = 1803,        ///< object: item
+    outlineViewEventDidCollapse = 1804,      ///< object: item
+    outlineViewEventRefuseSelectItem = 1805, ///< object: item; boolVal: the answer
+    outlineViewEventSelectionChanged = 1806, ///< object: the current item, invalid for none
+    outlineViewEventColumnClicked = 1807,    ///< tableColumnObj: column
 };
 
 enum ToolbarEvent : qint64 {
@@ -44,8 +81,23 @@ enum ToolbarEvent : qint64 {
     toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled
 };
 
+/// Ranges are in UTF-16 units.
+enum TextViewEvent : qint64 {
+    textViewEventRefuseChange = 2100, ///< rangeVal: what is replaced; stringObj: by what; boolVal: the answer
+    textViewEventDidChange = 2101,
+    textViewEventSelectionChanged = 2102, ///< rangeVal: the selection
+    textViewEventDidBeginEditing = 2103,
+    textViewEventDidEndEditing = 2104,
+};
+
 enum FontPanelEvent : qint64 {
     fontPanelEventChanged = 2200, ///< fontObj: the font chosen
+};
+
+enum TokenFieldEvent : qint64 {
+    tokenFieldEventCompletions = 2300, ///< stringObj: what is being typed; arrayObj: the answer
+    tokenFieldEventAddTokens = 2301,   ///< arrayObj: new tokens in, those to keep out
+    tokenFieldEventDidChange = 2302,   ///< arrayObj: all tokens
 };
 
 /// Named only: nothing on this platform asks a program before a file is moved, copied or removed.

@@ -35,7 +35,7 @@ inline qint64 recordSite(qint64 event, Tag tag, Tag wndTag, qint64 obj)
     return 0;
 }
 
-/// The calls since the last time, one a line, without those of views that draw.
+/// The calls since the last time, without those of views that draw.
 inline std::string takeSiteCalls()
 {
     // What one pass over the queue queues is for the next.
@@ -44,7 +44,9 @@ inline std::string takeSiteCalls()
     }
     QStringList calls = std::exchange(siteCalls, {});
     calls.removeIf([](const QString &call) {
-        return call.startsWith(u"2000 "_qs) || call.startsWith(u"2027 "_qs) || call.startsWith(u"2028 "_qs);
+        static const QList<qint64> drawing = {viewEventDraw, viewEventWantsUpdateLayer, viewEventUpdateLayer,
+                                              splitViewEventDrawDivider, tableViewEventDrawRow};
+        return drawing.contains(call.section(u' ', 0, 0).toLongLong());
     });
     return calls.join(u", "_qs).toStdString();
 }
