@@ -37,6 +37,12 @@ def main(folder):
         desktop.press("d", "d", "d", "w")
         keys.wait_for_screen("column 13, row 3\n")
         take(camera, keys)
+    with running(desktop, "controls") as controls:
+        controls.wait_for("table cell", "cell 1, 1")
+        for role, name in [("push button", "Press me"), ("check box", "Check me"), ("table cell", "cell 1, 0")]:
+            desktop.click(*controls.wait_for(role, name).centre)
+        controls.wait_for_line_like(r"event 1707, tag 21, window 1: .*")
+        take(camera, controls)
 
 
 if __name__ == "__main__":

@@ -128,3 +128,61 @@ class TestKeys(ExampleTest):
         keys.wait_for_screen("column 10, row 4\n")
         self.desktop.press("alt+F4")
         self.assert_clean_end(keys)
+
+
+class TestControls(ExampleTest):
+    """Each event the example prints is one line; what the window system adds in between differs, so lines are awaited."""
+
+    def setUp(self):
+        super().setUp()
+        self.controls = self.start("controls")
+        # The table asks for its cells once the window is served, the last one last.
+        self.controls.wait_for("table cell", "cell 1, 1")
+        self.controls.wait_for("frame", "Controls", lambda window: "active" in window.states)
+
+    def click(self, role, name=None):
+        self.desktop.click(*self.controls.wait_for(role, name).centre)
+
+    def assert_told(self, *lines):
+        for line in lines:
+            self.controls.wait_for_line_like(line)
+
+    def test_actions(self):
+        for name, act, told in [
+            ("button, mouse", lambda: self.click("push button", "Press me"), "tag 11, window 1: value 0, text Press me"),
+            ("check box, mouse", lambda: self.click("check box", "Check me"), "tag 12, window 1: value 1, text Check me"),
+            ("check box, key", lambda: self.desktop.press("space"), "tag 12, window 1: value 0, text Check me"),
+            ("slider, keys", lambda: self.desktop.press("Tab", "Right", "End"), "tag 13, window 1: value 100, text "),
+            ("field", lambda: self.desktop.press("Tab", "ctrl+a", "4", "2", "Return"),
+             "tag 14, window 1: value 42, text 42"),
+            ("button in a page", lambda: self.click("push button", "On the first page"),
+             "tag 16, window 1: value 0, text On the first page"),
+        ]:
+            with self.subTest(name):
+                act()
+                self.assert_told(f"event 1, {told}")
+
+    def test_another_page(self):
+        self.click("page tab", "Second")
+        self.assert_told(*(rf"event {event}, tag 15, window 1: bool 0, long 1, .*" for event in (1600, 1601, 1602)))
+        self.click("check box", "On the second page")
+        self.assert_told("event 1, tag 17, window 1: value 1, text On the second page")
+
+    def test_a_divider_dragged(self):
+        left, right = (self.controls.wait_for("push button", name).rectangle for name in ("Left", "Right"))
+        x, y = (left[0] + left[2] + right[0]) // 2, left[1] + left[3] // 2
+        self.controls.drag((x, y), (x + 30, y))
+        self.assert_told(r"event 1510, tag 18, window 1: .*", r"event 1502, tag 18, window 1: .*")
+        self.controls.wait_for("push button", "Left", lambda node: node.rectangle[2] == left[2] + 30)
+
+    def test_a_row_and_a_column_of_the_table(self):
+        self.click("table cell", "cell 1, 0")
+        self.assert_told(*(rf"event {event}, tag 21, window 1: bool 0, long 1, .*" for event in (1706, 1707)))
+        self.desktop.press("Up")
+        self.assert_told(r"event 1707, tag 21, window 1: bool 0, long 0, .*")
+        self.click("table column header", "Size")
+        self.assert_told(r"event 1708, tag 21, window 1: .*")
+
+    def test_closing_ends(self):
+        self.desktop.press("alt+F4")
+        self.assert_clean_end(self.controls)
