@@ -1,11 +1,18 @@
 #include "runtime/app/platform_application.h"
 
+#include "runtime/app/exhaustion.h"
+
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 namespace tetrad {
 
@@ -32,6 +39,11 @@ QString requestedPlatform()
     return requests.join(u' ');
 }
 
+QString cannotOpenDisplay()
+{
+    return u"cannot open the display (" + requestedPlatform() + u')';
+}
+
 void requireDisplaySetting()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
@@ -49,11 +61,24 @@ QtMessageHandler handlerBefore = nullptr;
 void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtFatalMsg) {
-        endWithoutDisplay(u"cannot open the display (" + requestedPlatform() + u')');
+        endWithoutDisplay(cannotOpenDisplay());
     }
     if (handlerBefore != nullptr && qstrncmp(context.category, "qt.qpa.", 7) != 0) {
         handlerBefore(type, context, message);
     }
+}
+
+// A standard stream that the program was started without would be the next descriptor opened: the connection
+// to the display, which a warning must not be written to.
+void fillStandardStreams()
+{
+#ifdef Q_OS_UNIX
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        if (::fcntl(stream, F_GETFD) < 0) {
+            [[maybe_unused]] const int opened = ::open("/dev/null", O_RDWR);
+        }
+    }
+#endif
 }
 
 const char *executableName()
@@ -71,11 +96,19 @@ void makeApplication()
     static QByteArray name = executableName();
     static char *arguments[] = {name.data(), nullptr};
     static int count = 1;
+    fillStandardStreams();
     requireDisplaySetting();
+    endOnExhaustion();
     handlerBefore = qInstallMessageHandler(&readConstructionMessage);
     // Deliberately never deleted: the process ends from the depth of a modal loop, with windows open.
     new QApplication(count, arguments);
     qInstallMessageHandler(handlerBefore);
+    // By itself it follows only its own translations, which need not be installed.
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
+    // Some platforms go on without.
+    if (QGuiApplication::primaryScreen() == nullptr) {
+        endWithoutDisplay(cannotOpenDisplay());
+    }
 }
 
 // An application object named by nobody has its executable's name.

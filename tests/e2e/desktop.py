@@ -184,7 +184,9 @@ class Desktop:
 
     def _start_window_manager(self):
         self.start("openbox", "--sm-disable", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.wait_for_window_manager()
 
+    def wait_for_window_manager(self):
         def managed():
             return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, stdin=subprocess.DEVNULL,
                                   capture_output=True).returncode == 0

@@ -43,6 +43,21 @@ class Game:
     def wait_for_start(self):
         self.application = self._wait(lambda: application_of(self.process.pid), "the program on the accessibility bus")
 
+    def is_asking(self):
+        """Whether it has joined the accessibility bus and waits for an answer, without waiting for that."""
+        self.application = self.application or application_of(self.process.pid)
+        return self.application is not None and self.field() is not None
+
+    def wait_until_active(self):
+        """For a program that accessibility cannot see: waits until its window gets the keys."""
+
+        def active():
+            window = subprocess.run(["xdotool", "getactivewindow", "getwindowpid"], env=self.desktop.environment,
+                                    stdin=subprocess.DEVNULL, capture_output=True, text=True)
+            return window.stdout.strip() == str(self.process.pid)
+
+        self._wait(active, "an active window")
+
     # -- what is on the screen
 
     def window(self):
@@ -138,16 +153,24 @@ class Game:
         self.desktop.type(text)
         self.wait_for_field_text(result)
 
-    def choose(self, menu, item):
-        """Opens a menu of the window by mouse and clicks an item."""
+    def open_menu(self, menu):
+        """Opens a menu of the window by mouse and waits for its items."""
         title = self._wait(lambda: self.window().find("menu item", "menu", name=menu), f"the menu {menu!r}")
         self.desktop.click(*title.centre)
+        self._wait(lambda: self._open_item(), f"the items of {menu!r}")
 
-        def open_item():
-            node = self.application.find("menu item", name=item)
-            return node if node and node.rectangle[2] > 0 else None
+    def choose(self, menu, item):
+        """Opens a menu of the window by mouse and clicks an item."""
+        self.open_menu(menu)
+        self.desktop.click(*self._wait(lambda: self._open_item(item), f"the item {item!r}").centre)
 
-        self.desktop.click(*self._wait(open_item, f"the item {item!r}").centre)
+    def _open_item(self, name=None):
+        """An item of the open menu; the titles in the menu bar are items of the window."""
+        for popup in self.application.find_all("popup menu", "menu"):
+            item = popup.find("menu item", name=name)
+            if item and item.rectangle[2] > 0:
+                return item
+        return None
 
     def activate(self):
         """Brings the window to the front as a click on its title bar does."""
@@ -241,9 +264,14 @@ class PlayingTest(unittest.TestCase):
             game.end()
 
     def start(self, **options):
+        game = self.start_blind(**options)
+        game.wait_for_start()
+        return game
+
+    def start_blind(self, **options):
+        """Starts it without waiting until it can be seen."""
         game = Game(self.desktop, **options)
         self.games.append(game)
-        game.wait_for_start()
         return game
 
     def assert_clean_end(self, game):

@@ -1,0 +1,73 @@
+"""The program's system calls: it writes no file and talks to nobody but the display and the session's buses."""
+
+import os
+import re
+import unittest
+
+from desktop import Gio
+from playing import PROGRAM, PlayingTest
+
+CALLS = ("open,openat,openat2,creat,truncate,mkdir,mkdirat,mknod,mknodat,rename,renameat,renameat2,unlink,unlinkat,rmdir,"
+         "link,linkat,symlink,symlinkat,chmod,fchmodat,chown,lchown,fchownat,utimensat,setxattr,socket,connect,bind,listen,"
+         "execve,execveat")
+OPENING = re.compile(r"^(?:open|openat|openat2|creat)\(")
+FOR_WRITING = re.compile(r"O_WRONLY|O_RDWR|O_CREAT|O_TRUNC|O_TMPFILE|^creat")
+PATH_OF_SOCKET = re.compile(r'sun_path=(@?"[^"]*")')
+
+
+class TestTrace(PlayingTest):
+    def traced_session(self):
+        """Plays with everything the game has; returns its system calls, those that failed left out."""
+        path = os.path.join(self.desktop.folder, "trace")
+        game = self.start(command=["strace", "-D", "-f", "-qq", "-s", "200", "-e", f"trace={CALLS}",
+                                   "-e", "signal=none", "-o", path, str(PROGRAM)])
+        game.wait_for_prompt()
+        self.desktop.set_clipboard("1+2")
+        self.desktop.press("ctrl+v")
+        game.wait_for_field_text("1+2")
+        game.choose("Edit", "Select All")
+        self.desktop.press("ctrl+x")
+        game.wait_for_field_text("")
+        game.answer("9")
+        self.desktop.press("s", "Return")
+        won = game.win()
+        game.play_again()
+        game.wait_for_other_puzzle(won)
+        self.desktop.press("ctrl+q")
+        self.assert_clean_end(game)
+        with open(path, encoding="utf-8", errors="replace") as trace:
+            calls = [line.split(maxsplit=1)[1].strip() for line in trace]
+        return [call for call in calls if not re.search(r"= -1 E", call)]
+
+    def is_allowed(self, call):
+        if OPENING.match(call):
+            return not FOR_WRITING.search(call)
+        if call.startswith("execve("):
+            return call.startswith(f'execve("{PROGRAM}"')
+        if call.startswith("socket("):
+            return call.startswith("socket(AF_UNIX")
+        if call.startswith("connect("):
+            return bool((path := PATH_OF_SOCKET.search(call)) and self.is_desktop_socket(path[1]))
+        return False
+
+    def is_desktop_socket(self, path):
+        display = self.desktop.environment["DISPLAY"].removeprefix(":")
+        return path.strip('@"') == f"/tmp/.X11-unix/X{display}" or any(
+            f"path={path[1:-1]}" in address for address in self.bus_addresses())
+
+    def bus_addresses(self):
+        """Of the session bus, and of the accessibility bus that it knows."""
+        bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        answer = bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
+                               Gio.DBusCallFlags.NONE, -1)
+        return self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"], answer[0]
+
+    def test_it_writes_no_file_and_opens_no_connection_but_to_the_desktop(self):
+        calls = self.traced_session()
+        for call in ("openat(", "connect("):
+            self.assertTrue(any(each.startswith(call) for each in calls), f"the trace has {call}")
+        self.assertEqual([call for call in calls if not self.is_allowed(call)], [])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,92 @@
+// Answers: judged whole, and the evaluator alone. Input: a puzzle's position, then the answer.
+
+#include "tests/fuzz/fuzz_input.h"
+
+#include "game/answer.h"
+#include "game/expression.h"
+#include "game/puzzle_deck.h"
+#include "runtime/strings/mac_roman.h"
+#include "runtime/strings/number_reader.h"
+#include "runtime/strings/string_stack.h"
+
+#include <cmath>
+#include <optional>
+
+using namespace tetrad;
+using namespace tetrad::fuzz;
+
+namespace {
+
+quint32 checkBounds(quint32 index, quint32 bound, quint32, const QString &)
+{
+    require(index <= bound, "an index is within its bound", QString::number(index));
+    return index;
+}
+
+std::optional<double> valueOf(const QString &text)
+{
+    try {
+        return evaluateExpression(text);
+    } catch (const ExpressionError &error) {
+        const QString description = error.description();
+        require(!description.isEmpty(), "a failure has a description", text);
+        require(StringIntegerValue(description) == 0, "no description starts with a number", description);
+        return std::nullopt;
+    }
+}
+
+bool same(std::optional<double> left, std::optional<double> right)
+{
+    const bool bothNoNumber = left && right && std::isnan(*left) && std::isnan(*right);
+    return bothNoNumber || left == right;
+}
+
+// What an expression keeps when it is only written differently.
+void evaluate(const QString &text)
+{
+    const auto value = valueOf(text);
+    require(same(value, valueOf(u' ' + text + u'\t')), "blanks around change nothing", text);
+    if (value) {
+        require(same(value, valueOf(u'(' + text + u')')), "parentheses around change nothing", text);
+        require(same(-*value, valueOf(u"-(" + text + u')')), "a minus before negates", text);
+        require(!valueOf(text + u'+'), "an operator at the end is malformed", text);
+        require(!valueOf(u'(' + text), "a parenthesis left open is malformed", text);
+    }
+}
+
+void judge(const QString &answer, const PuzzleNumbers &numbers)
+{
+    const Outcome outcome = judgeAnswer(answer, numbers);
+    require(gZRStk == 0, "the string stack is back at its start", answer);
+    require(outcome != Outcome::noSequence, "every text has a result", answer);
+    require(answer.isEmpty() == (outcome == Outcome::nothingTyped), "nothing typed is the empty answer", answer);
+
+    const auto encoded = toMacRoman(answer);
+    const bool isCounted = encoded && encoded->size() <= 255;
+    const auto isDigit = [](QChar c) { return c >= u'1' && c <= u'9'; };
+    const auto digits = std::count_if(answer.begin(), answer.end(), isDigit);
+    require(passesDigitCount(answer) == (!isCounted || digits <= 4), "four digits pass and five do not", answer);
+    if (outcome == Outcome::correct || outcome == Outcome::incorrect) {
+        for (qint16 i = 1; i <= 4; ++i) {
+            require(answer.contains(QString::number(numbers.at(i, 0))), "every number was used", answer);
+        }
+        const QString result = EvaluateMath(answer);
+        require((StringIntegerValue(result) == 24) == (outcome == Outcome::correct), "24 is what wins", answer);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    Input input(data, size);
+    const QString puzzle = puzzleText(input.below(puzzleCount));
+    PuzzleNumbers numbers(checkBounds);
+    for (qint16 i = 1; i <= 4; ++i) {
+        numbers.at(i, 0) = static_cast<qint16>(puzzle.at(2 * (i - 1)).digitValue());
+    }
+    const QString answer = input.rest();
+    judge(answer, numbers);
+    evaluate(answer);
+    return 0;
+}
