@@ -287,6 +287,16 @@ TEST_F(Alerts, RunSurvivesTheDeletionOfItsAlertOrWindow)
     }
 }
 
+TEST_F(Alerts, ShownAgainFromItsOwnRunBothRunsEndWithTheAnswer)
+{
+    define(2);
+    whenAlertRuns([](Alert *) {
+        whenAlertRuns(clicks(1));
+        EXPECT_EQ(show(2), 1001);
+    });
+    EXPECT_EQ(show(2), 1001);
+}
+
 TEST_F(Alerts, SuppressionStateIsKeptByTheDelegate)
 {
     for (const bool checked : {true, false}) {

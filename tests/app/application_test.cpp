@@ -4,9 +4,9 @@
 #include "runtime/app/app_events.h"
 #include "runtime/app/menus.h"
 #include "runtime/app/modal.h"
-#include "runtime/app/window.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QFileOpenEvent>
 #include <QMenu>
 #include <QTest>
@@ -74,39 +74,34 @@ TEST(Application, NameOfTheProgramsOwnStays)
     EXPECT_EQ(applicationName(), u"Sketch");
 }
 
-using Delegate = CUI_AppDelegate;
-
 TEST(AppDelegate, NotificationsAreForwarded)
 {
-    const struct
-    {
-        qint64 code;
-        void (Delegate::*notification)(const QVariant &);
-    } rows[] = {
-        {1, &Delegate::applicationWillFinishLaunching},
-        {2, &Delegate::applicationDidFinishLaunching},
-        {5, &Delegate::applicationWillTerminate},
-        {6, &Delegate::applicationWillBecomeActive},
-        {7, &Delegate::applicationDidBecomeActive},
-        {8, &Delegate::applicationWillResignActive},
-        {9, &Delegate::applicationDidResignActive},
-        {10, &Delegate::applicationWillHide},
-        {11, &Delegate::applicationDidHide},
-        {12, &Delegate::applicationWillUnhide},
-        {13, &Delegate::applicationDidUnhide},
-        {14, &Delegate::applicationWillUpdate},
-        {15, &Delegate::applicationDidUpdate},
-        {19, &Delegate::applicationDidChangeScreenParameters},
-        {29, &Delegate::didDecodeRestorableState},
-        {30, &Delegate::willEncodeRestorableState},
-        {34, &Delegate::didUpdateUserActivity},
-        {35, &Delegate::applicationDidChangeOcclusionState},
+    using D = CUI_AppDelegate;
+    const std::pair<qint64, void (D::*)(const QVariant &)> rows[] = {
+        {1, &D::applicationWillFinishLaunching},
+        {2, &D::applicationDidFinishLaunching},
+        {5, &D::applicationWillTerminate},
+        {6, &D::applicationWillBecomeActive},
+        {7, &D::applicationDidBecomeActive},
+        {8, &D::applicationWillResignActive},
+        {9, &D::applicationDidResignActive},
+        {10, &D::applicationWillHide},
+        {11, &D::applicationDidHide},
+        {12, &D::applicationWillUnhide},
+        {13, &D::applicationDidUnhide},
+        {14, &D::applicationWillUpdate},
+        {15, &D::applicationDidUpdate},
+        {19, &D::applicationDidChangeScreenParameters},
+        {29, &D::didDecodeRestorableState},
+        {30, &D::willEncodeRestorableState},
+        {34, &D::didUpdateUserActivity},
+        {35, &D::applicationDidChangeOcclusionState},
     };
     CUI_SetOnAppEventFunction(onAppEvent);
     CUI_AppDelegate delegate;
-    for (const auto &row : rows) {
-        (delegate.*row.notification)(u"note"_qs);
-        EXPECT_EQ(seen.takeLast(), (Seen{row.code, u"note"_qs})) << row.code;
+    for (const auto &[code, notification] : rows) {
+        (delegate.*notification)(u"note"_qs);
+        EXPECT_EQ(seen.takeLast(), (Seen{code, u"note"_qs})) << code;
         EXPECT_TRUE(seen.isEmpty());
     }
 }
@@ -243,12 +238,6 @@ TEST(Terminate, AsksTellsAndRefuses)
     }
 }
 
-class ClosingWindow : public QWidget
-{
-protected:
-    void closeEvent(QCloseEvent *) override { AppTerminate(); }
-};
-
 void terminateFromNestedRun()
 {
     QWidget inner;
@@ -256,19 +245,10 @@ void terminateFromNestedRun()
     runModalForWindow(&inner);
 }
 
-void terminateFromACloseEvent()
+void terminateWithAnOwnedClipboard()
 {
-    ClosingWindow closing;
-    closing.show();
-    closing.close();
-}
-
-void terminateFromAnOpenMenu()
-{
-    CUI_EditMenu(2);
-    QMenu *const menu = mainMenu()->menus[0];
-    QTimer::singleShot(0, menu, [menu] { menu->actions().last()->trigger(); });
-    menu->exec();
+    QGuiApplication::clipboard()->setText(u"kept"_qs);
+    AppTerminate();
 }
 
 void terminateAgainWhileItTells()
@@ -293,8 +273,7 @@ TEST(Terminate, EndsFromAnyDepth)
 {
     const std::pair<const char *, void (*)()> rows[] = {
         {"nested runs", terminateFromNestedRun},
-        {"close event", terminateFromACloseEvent},
-        {"open menu", terminateFromAnOpenMenu},
+        {"with an owned clipboard", terminateWithAnOwnedClipboard},
         {"again while it tells", terminateAgainWhileItTells},
         {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse},
     };

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 
 namespace tetrad {
 
@@ -24,7 +25,6 @@ namespace {
 using namespace testing_helpers;
 
 using Codes = QList<qint64>;
-using Delegate = CUI_WindowDelegate;
 
 struct Call
 {
@@ -93,46 +93,37 @@ protected:
 
 TEST_F(WindowDelegate, NotificationsAndTheOutputWindow)
 {
-    struct Row
-    {
-        qint64 code;
-        void (Delegate::*notification)(Window *);
-        bool setsOutput;
-    };
-    const Row rows[] = {
-        {10001, &Delegate::windowWillBeginSheet, true},
-        {10002, &Delegate::windowDidEndSheet, true},
-        {10004, &Delegate::windowDidResize, false},
-        {10005, &Delegate::windowWillStartLiveResize, false},
-        {10006, &Delegate::windowDidEndLiveResize, true},
-        {10007, &Delegate::windowWillMiniaturize, false},
-        {10008, &Delegate::windowDidMiniaturize, false},
-        {10009, &Delegate::windowDidDeminiaturize, true},
-        {10014, &Delegate::windowWillEnterFullScreen, false},
-        {10015, &Delegate::windowDidEnterFullScreen, true},
-        {10016, &Delegate::windowWillExitFullScreen, false},
-        {10017, &Delegate::windowDidExitFullScreen, true},
-        {10022, &Delegate::windowDidFailToEnterFullScreen, false},
-        {10025, &Delegate::windowDidFailToExitFullScreen, false},
-        {10026, &Delegate::windowWillMove, true},
-        {10027, &Delegate::windowDidMove, true},
-        {10028, &Delegate::windowDidChangeScreen, true},
-        {10032, &Delegate::windowWillClose, false},
-        {10033, &Delegate::windowDidBecomeKey, true},
-        {10034, &Delegate::windowDidResignKey, false},
-        {10035, &Delegate::windowDidBecomeMain, true},
-        {10036, &Delegate::windowDidResignMain, false},
-        {10037, &Delegate::windowDidUpdate, false},
-    };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.code);
-        CUI_OutputWindowSetTag(99);
-        Tag outputDuringCall = 0;
-        onEvent = [&](qint64) { outputDuringCall = CUI_OutputWindowTag(); };
-        calls.clear();
-        (CUI_WindowDelegateObj()->*row.notification)(m_window);
-        EXPECT_EQ(calls, QList<Call>({{row.code, 7, 7, 0}}));
-        EXPECT_EQ(outputDuringCall, row.setsOutput ? 7 : 99);
+    using D = CUI_WindowDelegate;
+    using Notifications = std::map<qint64, void (D::*)(Window *)>;
+    const Notifications setIt = {{10001, &D::windowWillBeginSheet},     {10002, &D::windowDidEndSheet},
+                                 {10006, &D::windowDidEndLiveResize},   {10009, &D::windowDidDeminiaturize},
+                                 {10015, &D::windowDidEnterFullScreen}, {10017, &D::windowDidExitFullScreen},
+                                 {10026, &D::windowWillMove},           {10027, &D::windowDidMove},
+                                 {10028, &D::windowDidChangeScreen},    {10033, &D::windowDidBecomeKey},
+                                 {10035, &D::windowDidBecomeMain}};
+    const Notifications leaveIt = {{10004, &D::windowDidResize},
+                                   {10005, &D::windowWillStartLiveResize},
+                                   {10007, &D::windowWillMiniaturize},
+                                   {10008, &D::windowDidMiniaturize},
+                                   {10014, &D::windowWillEnterFullScreen},
+                                   {10016, &D::windowWillExitFullScreen},
+                                   {10022, &D::windowDidFailToEnterFullScreen},
+                                   {10025, &D::windowDidFailToExitFullScreen},
+                                   {10032, &D::windowWillClose},
+                                   {10034, &D::windowDidResignKey},
+                                   {10036, &D::windowDidResignMain},
+                                   {10037, &D::windowDidUpdate}};
+    for (const auto &[notifications, outputWindow] : {std::pair(setIt, Tag(7)), std::pair(leaveIt, Tag(99))}) {
+        for (const auto &[code, notification] : notifications) {
+            SCOPED_TRACE(code);
+            CUI_OutputWindowSetTag(99);
+            Tag outputDuringCall = 0;
+            onEvent = [&](qint64) { outputDuringCall = CUI_OutputWindowTag(); };
+            calls.clear();
+            (CUI_WindowDelegateObj()->*notification)(m_window);
+            EXPECT_EQ(calls, QList<Call>({{code, 7, 7, 0}}));
+            EXPECT_EQ(outputDuringCall, outputWindow);
+        }
     }
 }
 
@@ -154,7 +145,7 @@ QVariant answerField(const QVariant &sample)
 
 TEST_F(WindowDelegate, QuestionsAndAnswers)
 {
-    Delegate *const d = CUI_WindowDelegateObj();
+    CUI_WindowDelegate *const d = CUI_WindowDelegateObj();
     QMenu menu;
     QWidget sheet;
     const QRectF rect(1, 2, 30, 40);
@@ -205,7 +196,7 @@ TEST_F(WindowDelegate, RelayPrefersTheNearestCallback)
 {
     static QStringList got;
     static int userData = 0;
-    Delegate *const delegate = CUI_WindowDelegateObj();
+    CUI_WindowDelegate *const delegate = CUI_WindowDelegateObj();
     m_window->setCuiWindowCallback([](Tag tag, qint64 event, void *data) {
         got << u"own %1 %2 %3"_qs.arg(tag).arg(event).arg(data == &userData);
     });

@@ -83,6 +83,7 @@ TEST_F(FormattedField, tooLongAPasteChangesNothing)
     EXPECT_EQ(field.cursorPosition(), 2);
     format(u"2"_s);
     EXPECT_EQ(paste(u"12"_s), u"2"_s) << "the new format alone counts";
+    EXPECT_EQ(field.findChildren<CUI_ControlFormatter *>().size(), 1);
 }
 
 TEST_F(FormattedField, hugePastes)
