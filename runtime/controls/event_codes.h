@@ -13,14 +13,14 @@ enum ControlEvent : qint64 {
 };
 
 enum PopoverEvent : qint64 {
-    popoverEventDetachableWindow = 1300,
-    popoverEventShouldClose = 1301, ///< boolVal: the answer
+    popoverEventDetachableWindow = 1300, ///< viewObj: a window to show in its place; null makes the popover one
+    popoverEventShouldClose = 1301,      ///< boolVal: the answer; see setPopoverAsks
     popoverEventWillShow = 1302,
     popoverEventDidShow = 1303,
     popoverEventWillClose = 1304,
     popoverEventDidClose = 1305,
     popoverEventDidDetach = 1306,
-    popoverEventShouldDetach = 1307, ///< boolVal: the answer
+    popoverEventShouldDetach = 1307, ///< boolVal: the answer; see setPopoverAsks
 };
 
 /// Coordinates are pixels from the split view's left or top edge. They travel in floatVal, so in single
@@ -78,7 +78,7 @@ enum OutlineViewEvent : qint64 {
 
 enum ToolbarEvent : qint64 {
     toolbarEventItemAction = 1900,
-    toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled
+    toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled; see setToolbarItemValidates
 };
 
 /// Ranges are in UTF-16 units.

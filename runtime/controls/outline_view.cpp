@@ -114,7 +114,7 @@ void OutlineView::open(const QPersistentModelIndex &index)
 // the view or the item.
 bool OutlineView::maySelect(const QModelIndex &index)
 {
-    if (!index.isValid() || index.siblingAtColumn(0) == currentIndex().siblingAtColumn(0)) {
+    if (!index.isValid() || selectionModel()->isSelected(index)) {
         return true;
     }
     const QPointer<OutlineView> guard(this);

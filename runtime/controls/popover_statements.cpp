@@ -5,6 +5,7 @@
 #include "runtime/app/output_window.h"
 #include "runtime/app/strings_table.h"
 #include "runtime/app/windows.h"
+#include "runtime/controls/popover_events.h"
 #include "runtime/controls/view_lookup.h"
 
 #include <cstdlib>
@@ -44,6 +45,7 @@ void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
     Popover *popover = CUI_PopoverWithTag(popoverTag);
     if (!popover) {
         popover = new Popover(popoverTag, contentSize.isEmpty() ? QSize(200, 100) : contentSize.toSize());
+        CUI_PopoverReportEvents(popover);
     } else if (!contentSize.isEmpty()) {
         popover->contentView()->setFixedSize(contentSize.toSize());
     }

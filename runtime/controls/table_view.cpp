@@ -103,7 +103,8 @@ void TableView::paintEvent(QPaintEvent *event)
 bool TableView::maySelect(int row)
 {
     const QPointer<TableView> guard(this);
-    return row < 0 || row == currentRow() || (CUI_TableViewDelegateObj()->tableViewShouldSelectRow(this, row) && guard);
+    return row < 0 || selectionModel()->isRowSelected(row, QModelIndex()) ||
+           (CUI_TableViewDelegateObj()->tableViewShouldSelectRow(this, row) && guard);
 }
 
 void TableView::mousePressEvent(QMouseEvent *event)

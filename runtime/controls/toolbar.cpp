@@ -4,6 +4,7 @@
 #include "runtime/app/output_window.h"
 #include "runtime/app/strings_table.h"
 #include "runtime/app/window.h"
+#include "runtime/controls/toolbar_events.h"
 
 #include <QAction>
 #include <QToolBar>
@@ -66,6 +67,7 @@ QAction *addItem(QToolBar *toolbar, QAction *item, Tag tag)
 {
     setObjectTag(item, tag);
     setObjectWindowTag(item, objectWindowTag(toolbar));
+    CUI_ToolbarItemReportEvents(item);
     toolbar->addAction(item);
     return item;
 }
