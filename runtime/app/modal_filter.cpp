@@ -191,7 +191,7 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         return false;
     }
     if (isKey(type)) {
-        return redirectKey(event);
+        return comesFromInside(widget) ? endHere(event) : redirectKey(event);
     }
     if (type == QEvent::Close && event->spontaneous()) {
         event->ignore();
@@ -225,8 +225,7 @@ bool ModalFilter::keepKey(QEvent *event)
 bool ModalFilter::redirectKey(QEvent *event)
 {
     if (m_widget == nullptr) {
-        event->setAccepted(event->type() != QEvent::ShortcutOverride);
-        return true;
+        return endHere(event);
     }
     const QScopedValueRollback guard(m_redirecting, true);
     activateAgain();
@@ -235,6 +234,21 @@ bool ModalFilter::redirectKey(QEvent *event)
         QCoreApplication::sendEvent(focus, event);
     }
     return true;
+}
+
+bool ModalFilter::endHere(QEvent *event)
+{
+    // A shortcut may still want it.
+    event->setAccepted(event->type() != QEvent::ShortcutOverride);
+    return true;
+}
+
+// What a live widget with the focus does not use goes on to the widgets around it; it was not typed there, and the
+// focus stays.
+bool ModalFilter::comesFromInside(const QWidget *widget) const
+{
+    const QWidget *focus = QApplication::focusWidget();
+    return focus != nullptr && widget->isAncestorOf(focus) && isLive(focus);
 }
 
 bool ModalFilter::isLive(const QWidget *widget) const

@@ -46,6 +46,8 @@ private:
     bool isWithheldFromWidget(QWidget *widget, QEvent *event);
     bool keepKey(QEvent *event);
     bool redirectKey(QEvent *event);
+    static bool endHere(QEvent *event);
+    bool comesFromInside(const QWidget *widget) const;
     bool isLive(const QWidget *widget) const;
     bool isCarrier(const QWidget *window) const;
     bool isScrollBar(const QWidget *widget) const;

@@ -4,10 +4,29 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 
 namespace tetrad {
 
 namespace {
+
+// The bridge to AT-SPI, whose offsets count characters, hands offsets through as they are. Elsewhere they count UTF-16
+// units as in a QString.
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+constexpr bool clientsCountCharacters = true;
+#else
+constexpr bool clientsCountCharacters = false;
+#endif
+
+int outward(CUI_PrintToWindowView *view, qsizetype offset)
+{
+    return static_cast<int>(clientsCountCharacters ? view->reader().text().charactersBefore(offset) : offset);
+}
+
+qsizetype inward(CUI_PrintToWindowView *view, int offset)
+{
+    return clientsCountCharacters ? view->reader().text().offsetOfCharacter(offset) : offset;
+}
 
 /// The console to an assistive technology: the reader's text, places in screen coordinates.
 class ConsoleAccessible : public QAccessibleWidget, public QAccessibleTextInterface
@@ -44,11 +63,33 @@ public:
         return {setFocusAction()};
     }
 
-    int characterCount() const override { return static_cast<int>(all().size()); }
+    int characterCount() const override { return outward(all().size()); }
 
     QString text(int startOffset, int endOffset) const override
     {
-        return all().mid(startOffset, std::max(0, endOffset - startOffset));
+        const qsizetype start = inward(startOffset);
+        return all().mid(start, std::max<qsizetype>(0, inward(endOffset) - start));
+    }
+
+    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int *startOffset,
+                             int *endOffset) const override
+    {
+        const QString text = QAccessibleTextInterface::textBeforeOffset(inward(offset), type, startOffset, endOffset);
+        return turnedOutward(text, startOffset, endOffset);
+    }
+
+    QString textAfterOffset(int offset, QAccessible::TextBoundaryType type, int *startOffset,
+                            int *endOffset) const override
+    {
+        const QString text = QAccessibleTextInterface::textAfterOffset(inward(offset), type, startOffset, endOffset);
+        return turnedOutward(text, startOffset, endOffset);
+    }
+
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType type, int *startOffset,
+                         int *endOffset) const override
+    {
+        const QString text = QAccessibleTextInterface::textAtOffset(inward(offset), type, startOffset, endOffset);
+        return turnedOutward(text, startOffset, endOffset);
     }
 
     QRect characterRect(int offset) const override
@@ -56,25 +97,25 @@ public:
         if (offset < 0 || offset >= characterCount()) {
             return {};
         }
-        const QRect rect = m_view->mirrored(m_view->reader().characterRect(offset)).toAlignedRect();
+        const QRect rect = m_view->mirrored(m_view->reader().characterRect(inward(offset))).toAlignedRect();
         return {m_view->mapToGlobal(rect.topLeft()), rect.size()};
     }
 
     int offsetAtPoint(const QPoint &point) const override
     {
-        return static_cast<int>(m_view->reader().characterAt(m_view->mirrored(QPointF(m_view->mapFromGlobal(point)))));
+        return outward(m_view->reader().characterAt(m_view->mirrored(QPointF(m_view->mapFromGlobal(point)))));
     }
 
-    int cursorPosition() const override { return static_cast<int>(m_view->reader().caret()); }
-    void setCursorPosition(int position) override { m_view->select(position, position); }
+    int cursorPosition() const override { return outward(m_view->reader().caret()); }
+    void setCursorPosition(int position) override { setSelection(0, position, position); }
 
     int selectionCount() const override { return m_view->reader().hasSelection() ? 1 : 0; }
 
     void selection(int index, int *startOffset, int *endOffset) const override
     {
         const bool known = index == 0 && selectionCount() == 1;
-        *startOffset = known ? static_cast<int>(m_view->reader().selectionStart()) : 0;
-        *endOffset = known ? static_cast<int>(m_view->reader().selectionEnd()) : 0;
+        *startOffset = known ? outward(m_view->reader().selectionStart()) : 0;
+        *endOffset = known ? outward(m_view->reader().selectionEnd()) : 0;
     }
 
     void addSelection(int startOffset, int endOffset) override { setSelection(0, startOffset, endOffset); }
@@ -89,33 +130,43 @@ public:
     void setSelection(int index, int startOffset, int endOffset) override
     {
         if (index == 0) {
-            m_view->select(startOffset, endOffset);
+            m_view->select(inward(startOffset), inward(endOffset));
         }
     }
 
     QString attributes(int offset, int *startOffset, int *endOffset) const override
     {
         const ConsoleText &text = m_view->reader().text();
-        const ConsoleText::Piece *piece = text.pieceAt(offset);
-        *startOffset = piece ? static_cast<int>(piece->offset) : 0;
+        const ConsoleText::Piece *piece = text.pieceAt(inward(offset));
+        *startOffset = piece ? outward(piece->offset) : 0;
         *endOffset = characterCount();
         if (!piece) {
             return {};
         }
         if (const ConsoleText::Piece *next = text.pieceAfter(*piece)) {
-            *endOffset = static_cast<int>(next->offset);
+            *endOffset = outward(next->offset);
         }
         return described(m_view->items().item(piece->item).attributes());
     }
 
     void scrollToSubstring(int startIndex, int endIndex) override
     {
-        m_view->scrollTo(m_view->reader().characterRect(std::max(startIndex, endIndex - 1)));
-        m_view->scrollTo(m_view->reader().characterRect(startIndex));
+        m_view->scrollTo(m_view->reader().characterRect(inward(std::max(startIndex, endIndex - 1))));
+        m_view->scrollTo(m_view->reader().characterRect(inward(startIndex)));
     }
 
 private:
     const QString &all() const { return m_view->reader().text().text(); }
+
+    int outward(qsizetype offset) const { return tetrad::outward(m_view, offset); }
+    int inward(int offset) const { return static_cast<int>(tetrad::inward(m_view, offset)); }
+
+    QString turnedOutward(const QString &text, int *startOffset, int *endOffset) const
+    {
+        *startOffset = outward(*startOffset);
+        *endOffset = outward(*endOffset);
+        return text;
+    }
 
     static QString colorText(const QColor &color)
     {
@@ -150,7 +201,16 @@ struct Listening : QAccessible::ActivationObserver
 {
     bool active = QAccessible::isActive();
 
-    void accessibilityActiveChanged(bool nowActive) override { active = nowActive; }
+    void accessibilityActiveChanged(bool nowActive) override
+    {
+        active = nowActive;
+        // Whoever begins to listen reads what is there already.
+        for (QWidget *widget : QApplication::allWidgets()) {
+            if (auto *view = qobject_cast<CUI_PrintToWindowView *>(widget)) {
+                view->reader().takeUnannounced();
+            }
+        }
+    }
 };
 
 Listening &listening()
@@ -181,7 +241,7 @@ void announceInsertion(CUI_PrintToWindowView *view)
     const QString added = view->reader().takeUnannounced();
     if (!added.isEmpty()) {
         const auto end = view->reader().text().text().size();
-        QAccessibleTextInsertEvent event(view, static_cast<int>(end - added.size()), added);
+        QAccessibleTextInsertEvent event(view, outward(view, end - added.size()), added);
         QAccessible::updateAccessibility(&event);
     }
 }
@@ -195,10 +255,12 @@ void announceRemoval(CUI_PrintToWindowView *view, const QString &removed)
 void announceSelection(CUI_PrintToWindowView *view)
 {
     const ConsoleReader &reader = view->reader();
-    QAccessibleTextSelectionEvent event(view, static_cast<int>(reader.selectionStart()),
-                                        static_cast<int>(reader.selectionEnd()));
-    event.setCursorPosition(static_cast<int>(reader.caret()));
+    QAccessibleTextSelectionEvent event(view, outward(view, reader.selectionStart()),
+                                        outward(view, reader.selectionEnd()));
     QAccessible::updateAccessibility(&event);
+    // The bridge to AT-SPI does not tell the caret's place together with the selection.
+    QAccessibleTextCursorEvent caret(view, outward(view, reader.caret()));
+    QAccessible::updateAccessibility(&caret);
 }
 
 } // namespace tetrad

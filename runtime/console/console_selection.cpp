@@ -82,7 +82,7 @@ bool ConsoleSelection::pressKey(QKeyEvent *event)
         m_view->select(extend ? m_view->reader().anchor() : caret, caret);
         return true;
     }
-    const bool leaves = event->key() == Qt::Key_Escape;
+    const bool leaves = event->key() == Qt::Key_Escape || event->key() == Qt::Key_F6;
     QWidget *target = leaves || isPrintable(*event) ? typingTarget() : nullptr;
     if (!target) {
         return false;

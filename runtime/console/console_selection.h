@@ -13,7 +13,7 @@ namespace tetrad {
 class CUI_PrintToWindowView;
 
 /// The reader's hands: selects by mouse and keyboard, moves the caret, scrolls, copies, and gives the keyboard focus
-/// back to whoever had it before as soon as one types.
+/// back to whoever had it before as soon as one types, or presses F6 or Escape.
 class ConsoleSelection : public QObject
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ void ConsoleText::sync(const DisplayList &list)
             m_atLineStart = false;
         }
         m_pieces.push_back({m_text.size(), m_taken});
-        m_text += drawn;
+        append(drawn);
         m_end = entry.item.pt() + QPointF(entry.width, 0);
         if (entry.endsLine) {
             m_text += u'\n';
@@ -44,6 +44,16 @@ void ConsoleText::join(QPointF at)
     } else if (std::abs(at.x() - m_end.x()) > samePlace) {
         m_text += u' ';
     }
+}
+
+void ConsoleText::append(const QString &drawn)
+{
+    for (qsizetype i = 1; i < drawn.size(); ++i) {
+        if (drawn.at(i).isLowSurrogate() && drawn.at(i - 1).isHighSurrogate()) {
+            m_pairs.push_back(m_text.size() + i);
+        }
+    }
+    m_text += drawn;
 }
 
 void ConsoleText::clear()
@@ -69,6 +79,27 @@ const ConsoleText::Piece *ConsoleText::pieceAfter(const Piece &piece) const
 {
     const Piece *next = &piece + 1;
     return next == m_pieces.data() + m_pieces.size() ? nullptr : next;
+}
+
+qsizetype ConsoleText::charactersBefore(qsizetype offset) const
+{
+    const auto pairs = std::lower_bound(m_pairs.begin(), m_pairs.end(), offset) - m_pairs.begin();
+    return offset - pairs;
+}
+
+qsizetype ConsoleText::offsetOfCharacter(qsizetype character) const
+{
+    // The pairs ascend by at least two, so the numbers of the characters after them ascend too.
+    qsizetype pairs = 0;
+    for (qsizetype end = static_cast<qsizetype>(m_pairs.size()); pairs < end;) {
+        const qsizetype middle = (pairs + end) / 2;
+        if (m_pairs[static_cast<std::size_t>(middle)] - middle <= character) {
+            pairs = middle + 1;
+        } else {
+            end = middle;
+        }
+    }
+    return character + pairs;
 }
 
 QString ConsoleText::takeUnannounced()

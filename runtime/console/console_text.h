@@ -36,6 +36,11 @@ public:
     /// Null after the last one.
     const Piece *pieceAfter(const Piece &piece) const;
 
+    // Offsets count UTF-16 units; some assistive technology counts characters, of which a pair of units makes one.
+
+    qsizetype charactersBefore(qsizetype offset) const;
+    qsizetype offsetOfCharacter(qsizetype character) const;
+
     /// What was added since the last call, without the newlines around it.
     QString takeNew();
     /// The same for whoever announces the text's growth, character by character.
@@ -43,9 +48,11 @@ public:
 
 private:
     void join(QPointF at);
+    void append(const QString &drawn);
 
     QString m_text;
     std::vector<Piece> m_pieces;
+    std::vector<qsizetype> m_pairs; ///< Where each pair's second unit is.
     quint32 m_taken = 0;
     bool m_atLineStart = true;
     QPointF m_end;

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -74,20 +75,23 @@ QString inOneLine(QString prompt)
     return prompt;
 }
 
-/// What the console of the content gained since it was last asked; consoles are known by this slot.
+/// The consoles in a content, which are known by one of their slots.
+QWidgetList consolesIn(const QWidget *content)
+{
+    auto views = content ? content->findChildren<QWidget *>() : QWidgetList();
+    views.removeIf([](const QWidget *view) { return view->metaObject()->indexOfMethod("takeNewText()") < 0; });
+    return views;
+}
+
+/// What the consoles of the content gained since they were last asked.
 QString newConsoleText(const QWidget *content)
 {
-    if (!content) {
-        return {};
-    }
     QString text;
-    const auto views = content->findChildren<QWidget *>();
-    for (QWidget *const view : views) {
+    const auto consoles = consolesIn(content);
+    for (QWidget *const console : consoles) {
         QString gained;
-        if (view->metaObject()->indexOfMethod("takeNewText()") >= 0 &&
-            QMetaObject::invokeMethod(view, "takeNewText", Qt::DirectConnection, Q_RETURN_ARG(QString, gained))) {
-            text += gained;
-        }
+        QMetaObject::invokeMethod(console, "takeNewText", Qt::DirectConnection, Q_RETURN_ARG(QString, gained));
+        text += gained;
     }
     return text;
 }
@@ -109,14 +113,19 @@ void paintShadow(QPainter *painter, const QRectF &body)
     painter->restore();
 }
 
+QColor bodyColor(const QPalette &palette)
+{
+    QColor color = palette.color(QPalette::Window);
+    color.setAlphaF(bodyOpacity);
+    return color;
+}
+
 void paintBody(QPainter *painter, const QRectF &body, const QPalette &palette)
 {
-    QColor fill = palette.color(QPalette::Window);
-    fill.setAlphaF(bodyOpacity);
     QColor edge = palette.color(QPalette::WindowText);
     edge.setAlphaF(0.25);
     painter->setPen(QPen(edge, 1));
-    painter->setBrush(fill);
+    painter->setBrush(bodyColor(palette));
     painter->drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
 }
 
@@ -126,6 +135,7 @@ FloatingPanel::FloatingPanel(const QString &prompt, qint64 xPos, qint64 yPos)
     : QWidget(hostOfPanel()), m_prompt(prompt), m_xPos(xPos), m_yPos(yPos)
 {
     setAttribute(Qt::WA_NoMousePropagation);
+    setLayoutDirection(Qt::LeftToRight);
     if (QWidget *const content = parentWidget()) {
         content->installEventFilter(this);
     } else {
@@ -219,11 +229,17 @@ bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void FloatingPanel::paintEvent(QPaintEvent *)
+void FloatingPanel::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
+    // A key repaints the field alone, under which the body has one colour; shadow and edge are dear.
+    const QRectF plain = body.adjusted(cornerRadius, 1, -cornerRadius, -1);
+    if (plain.adjusted(1, 1, -1, -1).contains(event->rect())) {
+        painter.fillRect(plain, bodyColor(palette()));
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
     paintShadow(&painter, body);
     paintBody(&painter, body, palette());
 }
@@ -242,8 +258,15 @@ void FloatingPanel::mouseMoveEvent(QMouseEvent *event)
     }
 }
 
-// Keys that nothing in the panel used end here; the content below must not see them.
-void FloatingPanel::keyPressEvent(QKeyEvent *) {}
+// Keys that nothing in the panel used end here; the content below must not see them. F6 goes to the next pane as on
+// any desktop: the console, which brings the focus back.
+void FloatingPanel::keyPressEvent(QKeyEvent *event)
+{
+    const auto consoles = event->key() == Qt::Key_F6 ? consolesIn(parentWidget()) : QWidgetList();
+    if (!consoles.isEmpty()) {
+        consoles.first()->setFocus(Qt::OtherFocusReason);
+    }
+}
 
 void FloatingPanel::keyReleaseEvent(QKeyEvent *) {}
 

@@ -94,7 +94,9 @@ void ZRInkeyWindow::focusInEvent(QFocusEvent *event)
 
 void ZRInkeyWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (!isLeftover(event)) {
+    if (event->key() == Qt::Key_F6) {
+        FloatingPanel::keyPressEvent(event);
+    } else if (!isLeftover(event)) {
         keyDown(event);
     }
 }

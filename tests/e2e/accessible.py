@@ -2,6 +2,9 @@
 
 from desktop import Atspi, GLib
 
+TEXT_EVENTS = ("object:text-changed:insert", "object:text-changed:delete", "object:text-caret-moved",
+               "object:text-selection-changed")
+
 
 def _ask(question, default=None):
     """An object may vanish between finding it and asking it; that is an answer, not an error."""
@@ -96,5 +99,79 @@ class Node:
         line += f" {sorted(self.states)} {self.rectangle}\n"
         return line + "".join(child.tree(depth + 1) for child in self.children)
 
+    # -- text
+
+    @property
+    def caret(self):
+        return _ask(lambda: Atspi.Text.get_caret_offset(self._accessible), -1)
+
+    @property
+    def selection(self):
+        """Where the selected text starts and where it ends; None when there is none."""
+        if _ask(lambda: Atspi.Text.get_n_selections(self._accessible), 0) != 1:
+            return None
+        selected = Atspi.Text.get_selection(self._accessible, 0)
+        return selected.start_offset, selected.end_offset
+
+    def select(self, start, end):
+        return Atspi.Text.add_selection(self._accessible, start, end)
+
+    def character_rectangle(self, offset):
+        """x, y, width, height on the screen."""
+        place = Atspi.Text.get_character_extents(self._accessible, offset, Atspi.CoordType.SCREEN)
+        return place.x, place.y, place.width, place.height
+
+    def offset_at(self, x, y):
+        return Atspi.Text.get_offset_at_point(self._accessible, x, y, Atspi.CoordType.SCREEN)
+
+    # -- actions
+
+    def grab_focus(self):
+        return Atspi.Component.grab_focus(self._accessible)
+
+    def do(self, action):
+        """Asks the program to do what a press, as of a button, would do."""
+        for index in range(Atspi.Action.get_n_actions(self._accessible)):
+            if Atspi.Action.get_action_name(self._accessible, index) == action:
+                return Atspi.Action.do_action(self._accessible, index)
+        return False
+
     def _has(self, interface):
         return interface in _ask(self._accessible.get_interfaces, [])
+
+
+class TextEvents:
+    """What a program tells about one text while it changes, in the order in which it is told."""
+
+    def __init__(self, node):
+        self._node = node
+        self.events = []
+        self._listener = Atspi.EventListener.new(self._heard)
+
+    def __enter__(self):
+        for name in TEXT_EVENTS:
+            self._listener.register(name)
+        return self
+
+    def __exit__(self, *_):
+        for name in TEXT_EVENTS:
+            self._listener.deregister(name)
+
+    def _heard(self, event):
+        if self._node.is_the_same_as(Node(event.source)):
+            # GObject's boxed event is only lent.
+            self.events.append((event.type.removeprefix("object:"), event.detail1, event.detail2, event.any_data))
+
+    def replay(self, text):
+        """What a client that follows only the events makes of the text it had before."""
+        for kind, start, _, changed in self.events:
+            if kind.startswith("text-changed:insert"):
+                text = text[:start] + changed + text[start:]
+            elif kind.startswith("text-changed:delete"):
+                if not text.startswith(changed, start):
+                    raise AssertionError(f"{changed!r} was said to be deleted at {start} of {text!r}")
+                text = text[:start] + text[start + len(changed):]
+        return text
+
+    def named(self, name):
+        return [event for event in self.events if event[0] == name]
