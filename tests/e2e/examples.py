@@ -31,11 +31,12 @@ class Example(Game):
 
     def wait_for_line(self, line):
         """Waits until the console has this line, and returns all of its lines."""
-        return self._wait(lambda: (lines := self.screen().split("\n")) and line in lines and lines, f"the line {line!r}")
+        return self._wait(lambda: line in (lines := self.screen().split("\n")) and lines, f"the line {line!r}")
 
     def wait_for_line_like(self, pattern):
         """Waits until the console has a line that the regular expression describes in full."""
-        self._wait(lambda: any(re.fullmatch(pattern, line) for line in self.screen().split("\n")), f"a line {pattern!r}")
+        whole_line = re.compile(f"^{pattern}$", re.MULTILINE)
+        self._wait(lambda: whole_line.search(self.screen()), f"a line {pattern!r}")
 
     def wait_for(self, role, name=None, condition=lambda node: True):
         """Waits for an object on the screen with this role and name that satisfies the condition; returns it."""
@@ -45,7 +46,8 @@ class Example(Game):
     def drag(self, start, end):
         """Drags with the mouse from one place of the screen to another."""
         places = [str(number) for number in (*start, *end)]
-        self.desktop.run("xdotool", "mousemove", *places[:2], "mousedown", "1", "mousemove", *places[2:], "mouseup", "1")
+        self.desktop.run("xdotool", "mousemove", *places[:2], "mousedown", "1",
+                         "mousemove", *places[2:], "mouseup", "1")
 
     def wait_for_pixel(self, x, y, colour):
         """Waits until this place of the console, in its own coordinates, has the colour."""

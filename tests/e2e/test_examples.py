@@ -131,7 +131,7 @@ class TestKeys(ExampleTest):
 
 
 class TestControls(ExampleTest):
-    """Each event the example prints is one line; what the window system adds in between differs, so lines are awaited."""
+    """Each event that the example prints is one line; which others come in between is the window system's affair."""
 
     def setUp(self):
         super().setUp()
@@ -149,8 +149,10 @@ class TestControls(ExampleTest):
 
     def test_actions(self):
         for name, act, told in [
-            ("button, mouse", lambda: self.click("push button", "Press me"), "tag 11, window 1: value 0, text Press me"),
-            ("check box, mouse", lambda: self.click("check box", "Check me"), "tag 12, window 1: value 1, text Check me"),
+            ("button, mouse", lambda: self.click("push button", "Press me"),
+             "tag 11, window 1: value 0, text Press me"),
+            ("check box, mouse", lambda: self.click("check box", "Check me"),
+             "tag 12, window 1: value 1, text Check me"),
             ("check box, key", lambda: self.desktop.press("space"), "tag 12, window 1: value 0, text Check me"),
             ("slider, keys", lambda: self.desktop.press("Tab", "Right", "End"), "tag 13, window 1: value 100, text "),
             ("field", lambda: self.desktop.press("Tab", "ctrl+a", "4", "2", "Return"),
