@@ -2,11 +2,9 @@
 // digit is painted, "return" until the prompt after a Return is complete and empty again.
 #include "bench/program.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
 
 using namespace tetrad::bench;
 
@@ -34,9 +32,10 @@ void measureKey(Screen &screen, Screen::Window window, const char *key)
 
 void measureReturn(Screen &screen, Screen::Window window)
 {
+    std::string before = screen.pixels(window);
     const Clock::time_point pressed = Clock::now();
     screen.press("Return");
-    const Clock::time_point complete = screen.waitUntilSettled(window, quiet);
+    const Clock::time_point complete = screen.waitUntilSettled(window, std::move(before), quiet);
     std::printf("return %.3f\n", Milliseconds(complete - pressed).count());
 }
 
@@ -53,7 +52,7 @@ int main(int, char **argv)
     for (int i = 0; i < keys; ++i) {
         measureKey(screen, program.window(), digits[static_cast<std::size_t>(i) % digits.size()]);
         // The program finishes what it does after painting before the next key comes.
-        screen.waitUntilSettled(program.window(), Milliseconds(5));
+        screen.waitUntilSettled(program.window(), Milliseconds(20));
         if ((i + 1) % digitsOfOneAnswer == 0) {
             measureReturn(screen, program.window());
         }

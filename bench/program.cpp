@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <spawn.h>
@@ -59,9 +60,14 @@ long numberAfter(const fs::path &file, const std::string &name)
 
 Program::Program(char **argv) : m_started(Clock::now())
 {
-    if (posix_spawnp(&m_pid, argv[0], nullptr, nullptr, argv, environ) != 0) {
+    // What the program says must not get among the probe's figures.
+    posix_spawn_file_actions_t silence;
+    posix_spawn_file_actions_init(&silence);
+    posix_spawn_file_actions_addopen(&silence, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    if (posix_spawnp(&m_pid, argv[0], &silence, nullptr, argv, environ) != 0) {
         giveUp("cannot be started", argv[0]);
     }
+    posix_spawn_file_actions_destroy(&silence);
 }
 
 Program::~Program()

@@ -128,19 +128,17 @@ std::optional<Clock::time_point> Screen::waitForPicture(Window window, Clock::ti
     return std::nullopt;
 }
 
-Clock::time_point Screen::waitUntilSettled(Window window, Milliseconds quiet)
+Clock::time_point Screen::waitUntilSettled(Window window, std::string picture, Milliseconds quiet)
 {
+    const auto pause = std::chrono::duration_cast<Clock::duration>(quiet);
     Clock::time_point last = Clock::now();
-    std::string picture = pixels(window);
-    while (waitForChange(last + std::chrono::duration_cast<Clock::duration>(quiet))) {
+    do {
         const Clock::time_point seen = Clock::now();
         if (std::string now = pixels(window); now != picture) {
             picture = std::move(now);
             last = seen;
-        } else if (seen - last > quiet) {
-            break;
         }
-    }
+    } while (Clock::now() - last < pause && waitForChange(last + pause));
     return last;
 }
 

@@ -39,8 +39,13 @@ public:
     std::optional<Clock::time_point> waitForPicture(Window window, Clock::time_point until,
                                                     const std::function<bool(const std::string &)> &condition);
 
-    /// The last change of the window's pixels before they stayed the same for a while.
-    Clock::time_point waitUntilSettled(Window window, Milliseconds quiet);
+    /// When the window's pixels last changed from a picture taken earlier before they stayed the same for a while; now
+    /// if they never did.
+    Clock::time_point waitUntilSettled(Window window, std::string picture, Milliseconds quiet);
+    Clock::time_point waitUntilSettled(Window window, Milliseconds quiet)
+    {
+        return waitUntilSettled(window, pixels(window), quiet);
+    }
 
     /// A press and release of the key that has this X name in the unshifted state, as "1", "Return".
     void press(const char *key);

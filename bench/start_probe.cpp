@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <thread>
 
 using namespace tetrad::bench;
 
@@ -19,8 +18,9 @@ constexpr auto patience = std::chrono::seconds(5);
 // Ends the probe unless the key really stands in the field: then BackSpace changes the picture again.
 Clock::time_point keyTaken(Screen &screen, Screen::Window window)
 {
+    std::string without = screen.pixels(window);
     screen.press("1");
-    const Clock::time_point painted = screen.waitUntilSettled(window, quiet);
+    const Clock::time_point painted = screen.waitUntilSettled(window, std::move(without), quiet);
     const std::string with = screen.pixels(window);
     screen.press("BackSpace");
     const auto differs = [&with](const std::string &now) { return now != with; };

@@ -56,6 +56,11 @@ def median_and_spread(values):
     return f"{statistics.median(values):.1f} ({low:.1f}–{high:.1f})"
 
 
+def paired(ours, theirs):
+    """The median of the ratios of the same round: what disturbs the machine disturbs both."""
+    return f"{statistics.median(our / their for our, their in zip(ours, theirs)):.2f}"
+
+
 def times(value, reference):
     return f"{value / reference:.2f}"
 
@@ -63,7 +68,7 @@ def times(value, reference):
 def start():
     heading("Start-up", f"Median (quartiles) of {ROUNDS} rounds in which the programs took turns, after one that does "
             "not count. Window: from exec until a painted window has the keyboard. Key: until a key pressed at that "
-            "moment is painted in the field.")
+            "moment is painted in the field. Ratios are medians of the rounds' ratios.")
     programs = {name: ["--field", path] for name, path in FIELD_PROGRAMS.items()}
     programs |= {name: [command] for name, command in PEERS.items()}
     results = {name: [] for name in programs}
@@ -76,9 +81,9 @@ def start():
     for name, (window, key, proportional, dirty) in columns.items():
         has_field = any(key)
         rows.append([
-            name, median_and_spread(window), times(statistics.median(ours[0]), statistics.median(window)),
+            name, median_and_spread(window), paired(ours[0], window),
             median_and_spread(key) if has_field else "",
-            times(statistics.median(ours[1]), statistics.median(key)) if has_field else "",
+            paired(ours[1], key) if has_field else "",
             f"{statistics.median(proportional) / 1024:.1f}", f"{statistics.median(dirty) / 1024:.1f}"])
     table(["program", "window, ms", "ours : this", "key, ms", "ours : this", "PSS, MB", "private dirty, MB"], rows)
 
