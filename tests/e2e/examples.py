@@ -4,6 +4,7 @@ import os
 import re
 from pathlib import Path
 
+from pixels import Picture
 from playing import REPOSITORY, Game
 
 EXAMPLES = Path(os.environ.get("TETRAD_EXAMPLES", REPOSITORY / "build" / "examples"))
@@ -55,21 +56,15 @@ class Example(Game):
 
     def picture(self):
         """What the screen shows of the console now."""
-        x, y, width, height = self.console().rectangle
-        return Picture(self.desktop.run("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage",
-                                        "-depth", "8", "ppm:-", binary=True))
+        return ConsolePicture(self.desktop, self.console().rectangle)
 
 
-class Picture:
-    def __init__(self, portable_pixmap):
-        # "P6", width and height, largest value, one white space, then three bytes a pixel.
-        _, size, _, self._pixels = portable_pixmap.split(b"\n", 3)
-        self.width, self.height = (int(number) for number in size.split())
+class ConsolePicture(Picture):
+    """The console on the screen; places are the console's own, from its top left."""
 
     def pixel(self, x, y):
         """Red, green and blue, 0 to 255."""
-        start = 3 * (y * self.width + x)
-        return tuple(self._pixels[start:start + 3])
+        return self.at(self.x + x, self.y + y)
 
     def row(self, y):
         return [self.pixel(x, y) for x in range(self.width)]
