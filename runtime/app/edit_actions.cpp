@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaMethod>
-#include <QMimeData>
 #include <QPointer>
 #include <QVariant>
 
@@ -26,8 +25,7 @@ struct EditAction
 
 bool hasClipboardText()
 {
-    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-    return data != nullptr && data->hasText();
+    return !QGuiApplication::clipboard()->text().isEmpty();
 }
 
 bool canTakeSelection(const QLineEdit &field)

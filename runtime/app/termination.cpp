@@ -2,9 +2,8 @@
 
 #include "runtime/app/app_delegate.h"
 #include "runtime/app/application.h"
+#include "runtime/app/clipboard_handover.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QScopedValueRollback>
 
 #include <cstdio>
@@ -12,21 +11,6 @@
 #include <utility>
 
 namespace tetrad {
-
-namespace {
-
-// What the destructor of the application object does. Without it a copied text is gone with the
-// process where a clipboard manager would have taken it.
-void handClipboardOver()
-{
-    QClipboard *clipboard = QGuiApplication::clipboard();
-    if (clipboard->ownsClipboard()) {
-        QEvent handOver(QEvent::Clipboard);
-        QCoreApplication::sendEvent(clipboard, &handOver);
-    }
-}
-
-} // namespace
 
 void AppTerminate()
 {

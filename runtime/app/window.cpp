@@ -54,6 +54,8 @@ Window::Window(const QRectF &contentRect) : m_translator(std::make_unique<Window
     // Not before all members stand: the new child is an event of this window.
     m_contentView = new ContentViewSC(this);
     setAttribute(Qt::WA_DeleteOnClose);
+    // Menus follow the language's direction; the places that a program prints and asks at do not.
+    m_contentView->setLayoutDirection(Qt::LeftToRight);
     setCentralWidget(m_contentView);
     menuBar()->setAccessibleName(tr("Menu bar"));
     showMainMenuIn(menuBar());

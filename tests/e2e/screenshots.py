@@ -22,11 +22,11 @@ DARK_COLOURS = {
 }
 
 
-def dark_environment(desktop):
-    folder = Path(desktop.folder, "dark")
+def dark_environment(desktop, name="dark", colours=DARK_COLOURS):
+    folder = Path(desktop.folder, name)
     folder.mkdir(exist_ok=True)
     sections = (f"[Colors:{group}]\nBackgroundNormal={background}\nForegroundNormal={foreground}\n"
-                for group, (background, foreground) in DARK_COLOURS.items())
+                for group, (background, foreground) in colours.items())
     Path(folder, "kdeglobals").write_text("\n".join(sections))
     return {
         "QT_QPA_PLATFORMTHEME": "kde",

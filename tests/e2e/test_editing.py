@@ -1,0 +1,100 @@
+"""The Edit menu on the field, by mouse and by shortcut, and what becomes of a copied text."""
+
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+from desktop import until
+from playing import PlayingTest
+
+MANAGER = str(Path(__file__).with_name("clipboard_manager.py"))
+
+# What is in the field and in the clipboard, which part is selected, then item, shortcut, and what both are afterwards.
+ITEMS = [
+    ("Cut", "ctrl+x", "", "1+2"),
+    ("Copy", "ctrl+c", "1+2", "1+2"),
+    ("Paste", "ctrl+v", "9", "9"),
+    ("Delete", "Delete", "", "9"),
+]
+
+
+class TestEditMenu(PlayingTest):
+    def test_each_item_by_mouse_and_by_shortcut(self):
+        game = self.start()
+        game.wait_for_prompt()
+        ways = {
+            "mouse": lambda item, shortcut: game.choose("Edit", item),
+            "shortcut": lambda item, shortcut: self.desktop.press(shortcut),
+        }
+        for way, act in ways.items():
+            for item, shortcut, text, clipboard in ITEMS:
+                with self.subTest(way, item=item):
+                    self.desktop.set_clipboard("9")
+                    game.type("1+2")
+                    act("Select All", "ctrl+a")
+                    until(lambda: game.field() and game.field().selection == (0, 3), "everything selected")
+                    act(item, shortcut)
+                    game.wait_for_field_text(text)
+                    until(lambda: self.desktop.clipboard() == clipboard, f"{clipboard!r} in the clipboard")
+                    if text != "1+2":
+                        act("Undo", "ctrl+z")
+                        game.wait_for_field_text("1+2")
+                        act("Redo", "ctrl+shift+z")
+                        game.wait_for_field_text(text)
+                    self.desktop.press("ctrl+a", "BackSpace")
+                    game.wait_for_field_text("")
+
+    def test_items_that_can_do_nothing_are_disabled(self):
+        game = self.start()
+        game.wait_for_prompt()
+        for state, clipboard, keys, expected in [
+            ("nothing typed, nothing copied", "", [], []),
+            ("nothing typed", "9", [], ["Paste"]),
+            ("typed", "9", ["1", "2"], ["Undo", "Paste", "Select All"]),
+            ("selected", "9", ["ctrl+a"], ["Undo", "Cut", "Copy", "Paste", "Delete", "Select All"]),
+            ("undone", "9", ["ctrl+z"], ["Redo", "Paste"]),
+        ]:
+            with self.subTest(state):
+                self.desktop.set_clipboard(clipboard)
+                if keys:
+                    self.desktop.press(*keys)
+                game.open_menu("Edit")
+                menu = next(menu for menu in game.application.find_all("popup menu", "menu") if menu.find("menu item"))
+                items = menu.find_all("menu item")
+                self.assertEqual([item.name for item in items if "sensitive" in item.states], expected)
+                self.assertEqual(len(items), 7)
+                # Out of the menu, out of the bar.
+                self.desktop.press("Escape", "Escape")
+                until(game.field, "the focus back in the field")
+
+
+class TestClipboardManager(PlayingTest):
+    def test_copied_text_survives_quitting(self):
+        for what, copy in [("field", self.copy_from_field), ("console", self.copy_from_console)]:
+            with self.subTest(what):
+                manager = self.desktop.start(sys.executable, "-B", MANAGER, stdout=subprocess.PIPE, text=True)
+                self.assertEqual(manager.stdout.readline(), "ready\n")
+                game = self.start()
+                game.wait_for_prompt()
+                copied = copy(game)
+                self.desktop.press("ctrl+q")
+                self.assert_clean_end(game)
+                self.assertEqual(self.desktop.clipboard(), copied)
+                manager.terminate()
+                manager.communicate()
+
+    def copy_from_field(self, game):
+        game.type("(1+2)*8")
+        self.desktop.press("ctrl+a", "ctrl+c")
+        return "(1+2)*8"
+
+    def copy_from_console(self, game):
+        self.desktop.press("F6")
+        until(lambda: "focused" in game.console().states, "the focus on the console")
+        self.desktop.press("ctrl+a", "ctrl+c")
+        return game.screen()
+
+
+if __name__ == "__main__":
+    unittest.main()
