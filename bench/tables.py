@@ -105,7 +105,7 @@ def console():
     row("print, repaint after each", "printAndRepaint/{}/1000/iterations:1", lambda result: result["cpu_time"] / 1000)
     for lines in (1000, 100000):
         for place, percent in (("middle", 50), ("end", 100)):
-            row(f"repaint in the {place} of {lines:,}", f"repaint/{{}}/{lines}/{percent}/iterations:50",
+            row(f"repaint at the {place} of {lines:,}", f"repaint/{{}}/{lines}/{percent}/iterations:50",
                 lambda result: result["cpu_time"])
     row("memory", "memory/{}/10000/iterations:1", lambda result: result["bytes"])
     table(["", *kinds, "ours : QPlainTextEdit"], rows)
