@@ -107,19 +107,20 @@ Program::Memory Program::memory() const
     return sum;
 }
 
-Program::Activity Program::activity() const
+std::map<pid_t, Program::Activity> Program::activity() const
 {
-    Activity sum;
+    std::map<pid_t, Activity> threads;
     for (const pid_t pid : familyOf(m_pid)) {
         std::error_code gone;
         for (const auto &task : fs::directory_iterator(folderOf(pid) / "task", gone)) {
             long nanoseconds = 0;
             std::ifstream(task.path() / "schedstat") >> nanoseconds;
-            sum.cpuMilliseconds += static_cast<double>(nanoseconds) / 1e6;
-            sum.wakeUps += numberAfter(task.path() / "status", "voluntary_ctxt_switches:");
+            threads[std::atoi(task.path().filename().c_str())] = {
+                static_cast<double>(nanoseconds) / 1e6,
+                numberAfter(task.path() / "status", "voluntary_ctxt_switches:")};
         }
     }
-    return sum;
+    return threads;
 }
 
 } // namespace tetrad::bench

@@ -2,6 +2,7 @@
 
 #include "bench/screen.h"
 
+#include <map>
 #include <sys/types.h>
 
 namespace tetrad::bench {
@@ -32,13 +33,13 @@ public:
     };
     Memory memory() const;
 
-    /// Of all threads and descendants so far.
     struct Activity
     {
         double cpuMilliseconds = 0;
         long wakeUps = 0;
     };
-    Activity activity() const;
+    /// What each thread that lives now has done so far, with those of all descendants.
+    std::map<pid_t, Activity> activity() const;
 
 private:
     pid_t m_pid = 0;

@@ -16,8 +16,15 @@ int main(int, char **argv)
     Program program(argv + 2);
     program.waitUntilReady(screen);
     std::this_thread::sleep_for(startUpWork);
-    const Program::Activity before = program.activity();
+    const auto before = program.activity();
     std::this_thread::sleep_for(time);
-    const Program::Activity after = program.activity();
-    std::printf("%.2f %ld\n", after.cpuMilliseconds - before.cpuMilliseconds, after.wakeUps - before.wakeUps);
+    // A thread that ended meanwhile is left out.
+    Program::Activity sum;
+    for (const auto &[thread, after] : program.activity()) {
+        const auto earlier = before.find(thread);
+        const Program::Activity start = earlier == before.end() ? Program::Activity() : earlier->second;
+        sum.cpuMilliseconds += after.cpuMilliseconds - start.cpuMilliseconds;
+        sum.wakeUps += after.wakeUps - start.wakeUps;
+    }
+    std::printf("%.2f %ld\n", sum.cpuMilliseconds, sum.wakeUps);
 }
