@@ -3,6 +3,7 @@
 #include "runtime/app/alert.h"
 #include "runtime/app/alert_delegate.h"
 #include "runtime/app/application.h"
+#include "runtime/app/menus.h"
 #include "runtime/strings/error_object.h"
 #include "tests/app/alert_helper.h"
 #include "tests/app/window_helper.h"
@@ -352,6 +353,21 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, row.reported}));
         EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
     }
+}
+
+TEST_F(Alerts, TheQuitShortcutWorksWhileASheetIsUp)
+{
+    EXPECT_EXIT(
+        {
+            CocoaInit();
+            CUI_BuildMinimalMenu();
+            open(1);
+            CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1);
+            Alert *const alert = CUI_AlertWithTag(4);
+            EXPECT_TRUE(QTest::qWaitForWindowActive(alert));
+            pressKey(alert, Qt::Key_Q, false, Qt::ControlModifier);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 TEST_F(Alerts, SheetWithoutAWindowRunsModally)
