@@ -41,13 +41,16 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const auto *const mouse = static_cast<QMouseEvent *>(event);
-        if (event->type() == QEvent::MouseButtonPress) {
-            m_pressedAt = mouse->globalPosition().toPoint();
-        } else if (event->type() == QEvent::MouseMove && mouse->buttons() & Qt::LeftButton) {
-            const QPoint distance = mouse->globalPosition().toPoint() - m_pressedAt;
-            if (!m_isDetached && distance.manhattanLength() > QApplication::startDragDistance()) {
-                m_pressedAt = mouse->globalPosition().toPoint();
+        const bool isMove = event->type() == QEvent::MouseMove;
+        if (isMove || event->type() == QEvent::MouseButtonPress) {
+            const auto *const mouse = static_cast<QMouseEvent *>(event);
+            const QPoint place = mouse->globalPosition().toPoint();
+            const QPoint distance = place - m_pressedAt;
+            if (!isMove) {
+                m_pressedAt = place;
+            } else if (mouse->buttons() & Qt::LeftButton && !m_isDetached &&
+                       distance.manhattanLength() > QApplication::startDragDistance()) {
+                m_pressedAt = place;
                 detach(distance);
                 return true;
             }
