@@ -113,10 +113,12 @@ enum ColorPanelEvent : qint64 {
     colorPanelEventAction = 2600, ///< colorObj: the colour chosen
 };
 
+/// Named only: no statement attaches a gesture recogniser.
 enum GestureEvent : qint64 {
     gestureEventAction = 2700,
 };
 
+/// Named only: no statement shows an open or save panel.
 enum FilePanelEvent : qint64 {
     filePanelEventUserEnteredName = 2901,
     filePanelEventSelectionChanged = 2902,
@@ -171,6 +173,7 @@ enum ErrorEvent : qint64 {
     errorEventPresentedWithRecovery = 4900,
 };
 
+/// Named only: no statement prints on paper.
 enum PrintEvent : qint64 {
     printEventDidRun = 5200,
 };
