@@ -16,7 +16,7 @@ import warnings
 
 NUMBER = re.compile(r"[0-9.]+")
 # What Python takes for an operator or a value of its own and arithmetic does not have.
-ONLY_PYTHON = re.compile(r"\*\*|//|\([ \t]*\)")
+ONLY_PYTHON = re.compile(r"\*\*|//|\([ \t]*\)|\.\.\.")
 MISMATCHES_SHOWN = 20
 
 OPERATORS = "+-*/" * 3 + "x"
