@@ -55,6 +55,12 @@ void requireDisplaySetting()
 
 QtMessageHandler handlerBefore = nullptr;
 
+// The Wayland plugin reports a missing compositor without a category.
+bool isAboutAPlatform(const QMessageLogContext &context, const QString &message)
+{
+    return qstrncmp(context.category, "qt.qpa.", 7) == 0 || message.startsWith(u"Failed to create wl_display");
+}
+
 // Without a usable display the construction aborts with several lines and a core dump. Its lines are
 // one sentence here; those about a platform that was tried in vain before another one worked are
 // of no use to anybody.
@@ -63,7 +69,7 @@ void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, 
     if (type == QtFatalMsg) {
         endWithoutDisplay(cannotOpenDisplay());
     }
-    if (handlerBefore != nullptr && qstrncmp(context.category, "qt.qpa.", 7) != 0) {
+    if (handlerBefore != nullptr && !isAboutAPlatform(context, message)) {
         handlerBefore(type, context, message);
     }
 }
