@@ -93,7 +93,7 @@ void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRe
         return;
     }
     const QSignalBlocker blocker(slider);
-    const auto [least, most] = std::minmax(toInt(minimum), toInt(maximum));
+    const auto [least, most] = std::minmax({toInt(minimum), toInt(maximum)});
     if (!rect.isEmpty()) {
         slider->setOrientation(rect.height() > rect.width() ? Qt::Vertical : Qt::Horizontal);
     }
