@@ -5,38 +5,11 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <optional>
 
 namespace tetrad {
 
 namespace {
-
-bool isNumberCharacter(QChar c)
-{
-    return (c >= u'0' && c <= u'9') || c == u'.';
-}
-
-QString placed(const QString &what, qsizetype index)
-{
-    return what + QStringLiteral(" at position ") + QString::number(index + 1);
-}
-
-QString quoted(QStringView text)
-{
-    return u'\'' + text.toString() + u'\'';
-}
-
-// A character that cannot be seen, or half of one, is named by its code.
-QString characterName(QStringView text, qsizetype index)
-{
-    const QChar c = text[index];
-    if (c.isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate()) {
-        return quoted(text.mid(index, 2));
-    }
-    if (c.isPrint() && !c.isSpace()) {
-        return quoted(text.mid(index, 1));
-    }
-    return QStringLiteral("character U+") + QString::number(c.unicode(), 16).toUpper().rightJustified(4, u'0');
-}
 
 // What is known inside one pair of parentheses: "2+3*" is the sum 2 and the product 3. The sign of a
 // term is kept in its product. The first sum is -0 because that is the number that changes no other
@@ -65,19 +38,27 @@ class Evaluator
 public:
     explicit Evaluator(QStringView text) : m_text(text) {}
 
-    double run()
+    std::variant<double, ExpressionFailure> run()
     {
-        while (skipBlanks()) {
+        while (!m_failure && skipBlanks()) {
             if (m_wantsOperand) {
                 takeOperand();
             } else {
                 takeOperator();
             }
         }
-        return finish();
+        if (!m_failure) {
+            finish();
+        }
+        if (m_failure) {
+            return *m_failure;
+        }
+        return m_frame.sum + m_frame.product;
     }
 
 private:
+    void fail(ExpressionFailure::Kind kind, qsizetype index) { m_failure = {kind, index}; }
+
     bool skipBlanks()
     {
         while (m_at < m_text.size() && (m_text[m_at] == u' ' || m_text[m_at] == u'\t')) {
@@ -90,8 +71,7 @@ private:
     {
         const QChar c = m_text[m_at];
         if (isNumberCharacter(c)) {
-            m_frame.take(number());
-            m_wantsOperand = false;
+            takeNumber();
             return;
         }
         switch (c.unicode()) {
@@ -107,9 +87,10 @@ private:
         case u')':
         case u'*':
         case u'/':
-            throw missingOperand();
+            failForOperand();
+            break;
         default:
-            throw ExpressionError(placed(QStringLiteral("unexpected ") + characterName(m_text, m_at), m_at));
+            fail(ExpressionFailure::unexpectedCharacter, m_at);
         }
         m_before = m_at++;
     }
@@ -134,7 +115,7 @@ private:
             closeParenthesis();
             break;
         default:
-            throw unexpectedAfterOperand(c);
+            failAfterOperand(c);
         }
         m_before = m_at++;
     }
@@ -142,7 +123,8 @@ private:
     void closeParenthesis()
     {
         if (m_outer.isEmpty()) {
-            throw ExpressionError(placed(QStringLiteral("')' without '('"), m_at));
+            fail(ExpressionFailure::notOpened, m_at);
+            return;
         }
         const double value = m_frame.sum + m_frame.product;
         m_frame = m_outer.last();
@@ -151,18 +133,16 @@ private:
         m_wantsOperand = false;
     }
 
-    double finish()
+    void finish()
     {
         if (m_wantsOperand) {
-            throw missingOperand();
+            failForOperand();
+        } else if (!m_outer.isEmpty()) {
+            fail(ExpressionFailure::notClosed, m_frame.openedAt);
         }
-        if (!m_outer.isEmpty()) {
-            throw ExpressionError(placed(QStringLiteral("'(' without ')'"), m_frame.openedAt));
-        }
-        return m_frame.sum + m_frame.product;
     }
 
-    double number()
+    void takeNumber()
     {
         const qsizetype start = m_at;
         QVarLengthArray<char, 64> digits;
@@ -172,10 +152,11 @@ private:
         double value = 0.0;
         const auto [end, error] = std::from_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
         if (end != digits.end()) {
-            throw ExpressionError(
-                placed(QStringLiteral("malformed number ") + quoted(m_text.mid(start, m_at - start)), start));
+            fail(ExpressionFailure::malformedNumber, start);
+            return;
         }
-        return error == std::errc::result_out_of_range ? outOfRange(digits) : value;
+        m_frame.take(error == std::errc::result_out_of_range ? outOfRange(digits) : value);
+        m_wantsOperand = false;
     }
 
     // from_chars does not tell too large from too small; only the too large have digits before the point.
@@ -187,30 +168,27 @@ private:
         return isLarge ? std::numeric_limits<double>::infinity() : 0.0;
     }
 
-    ExpressionError missingOperand() const
+    void failForOperand()
     {
         const bool atEnd = m_at >= m_text.size();
         if (m_before < 0) {
-            return ExpressionError(
-                atEnd ? QStringLiteral("the expression is empty")
-                      : placed(QStringLiteral("missing operand before ") + quoted(m_text.mid(m_at, 1)), m_at));
+            fail(atEnd ? ExpressionFailure::empty : ExpressionFailure::missingOperandBefore, m_at);
+        } else if (m_text[m_before] == u'(' && !atEnd && m_text[m_at] == u')') {
+            fail(ExpressionFailure::emptyParentheses, m_before);
+        } else {
+            fail(ExpressionFailure::missingOperandAfter, m_before);
         }
-        if (m_text[m_before] == u'(' && !atEnd && m_text[m_at] == u')') {
-            return ExpressionError(placed(QStringLiteral("empty parentheses"), m_before));
-        }
-        return ExpressionError(
-            placed(QStringLiteral("missing operand after ") + quoted(m_text.mid(m_before, 1)), m_before));
     }
 
-    ExpressionError unexpectedAfterOperand(QChar c) const
+    void failAfterOperand(QChar c)
     {
         if (isNumberCharacter(c)) {
-            return ExpressionError(placed(QStringLiteral("two numbers side by side"), m_at));
+            fail(ExpressionFailure::numbersSideBySide, m_at);
+        } else if (c == u'(') {
+            fail(ExpressionFailure::missingOperator, m_at);
+        } else {
+            fail(ExpressionFailure::unexpectedCharacter, m_at);
         }
-        if (c == u'(') {
-            return ExpressionError(placed(QStringLiteral("missing operator before '('"), m_at));
-        }
-        return ExpressionError(placed(QStringLiteral("unexpected ") + characterName(m_text, m_at), m_at));
     }
 
     QStringView m_text;
@@ -218,14 +196,24 @@ private:
     qsizetype m_before = -1; ///< the last operator, sign or parenthesis
     bool m_wantsOperand = true;
     Frame m_frame;
+    std::optional<ExpressionFailure> m_failure;
     QVarLengthArray<Frame, 16> m_outer; ///< on the heap only for expressions nested deeper than that
 };
 
 } // namespace
 
-double evaluateExpression(QStringView text)
+std::variant<double, ExpressionFailure> evaluateExpression(std::nothrow_t, QStringView text)
 {
     return Evaluator(text).run();
+}
+
+double evaluateExpression(QStringView text)
+{
+    const auto value = evaluateExpression(std::nothrow, text);
+    if (const auto *failure = std::get_if<ExpressionFailure>(&value)) {
+        throw ExpressionError(failure->description(text));
+    }
+    return std::get<double>(value);
 }
 
 QVariant ExpressionValueWithObject(const Expression &expression, const QVariant &, const QVariant &)

@@ -1,28 +1,28 @@
 #pragma once
 
+#include "game/expression_failure.h"
 #include "runtime/strings/text_format.h"
 
 #include <QString>
 #include <QVariant>
 
-#include <stdexcept>
+#include <new>
+#include <variant>
 
 namespace tetrad {
 
-/// Why a text is not an arithmetic expression. The description names what is wrong and where, counted
-/// in UTF-16 units from 1: "missing operand after '+' at position 3". It never starts with a number.
-class ExpressionError : public std::runtime_error
+/// A digit of ASCII or the point.
+inline bool isNumberCharacter(QChar c)
 {
-public:
-    explicit ExpressionError(const QString &description) : std::runtime_error(description.toStdString()) {}
-
-    QString description() const { return QString::fromUtf8(what()); }
-};
+    return (c >= u'0' && c <= u'9') || c == u'.';
+}
 
 /// The value of a text of decimals, + - * /, signs, parentheses and blanks, in double precision with
 /// the usual precedence: "6.0/(1.0-3.0/4.0)" is 24. Dividing by zero follows IEEE arithmetic. Any
 /// depth of parentheses is fine: the time is linear in the length and the call stack is not used.
-/// Throws ExpressionError.
+std::variant<double, ExpressionFailure> evaluateExpression(std::nothrow_t, QStringView text);
+
+/// The same, but throws ExpressionError for a text that is malformed.
 double evaluateExpression(QStringView text);
 
 /// An arithmetic expression that was found to be well formed. It has no variables, so its value is
@@ -30,6 +30,7 @@ double evaluateExpression(QStringView text);
 class Expression
 {
 public:
+    explicit Expression(double value) : m_value(value) {}
     explicit Expression(QStringView text) : m_value(evaluateExpression(text)) {}
 
     double value() const { return m_value; }
@@ -48,6 +49,16 @@ Expression ExpressionWithFormat(const QString &format, const Args &...args)
     } else {
         return Expression(StringWithFormat(format, args...));
     }
+}
+
+/// The same for a text that stands for itself, but hands a failure back.
+inline std::variant<Expression, ExpressionFailure> ExpressionWithFormat(std::nothrow_t, const QString &text)
+{
+    const auto value = evaluateExpression(std::nothrow, text);
+    if (const auto *failure = std::get_if<ExpressionFailure>(&value)) {
+        return *failure;
+    }
+    return Expression(std::get<double>(value));
 }
 
 /// The expression's value as a number. The object and the context would supply variables and are not
