@@ -1,5 +1,6 @@
-# The icon theme's tree, made from icon.svg in the build folder: hicolor/48x48/apps/ID.png and so on.
-set(icon_theme "${CMAKE_CURRENT_BINARY_DIR}/icons/hicolor")
+# The icon theme's tree, made from icon.svg: hicolor/48x48/apps/ID.png and so on. In share/icons beside the program, where
+# it looks, so that it has its icon before it is installed too.
+set(icon_theme "${PROJECT_BINARY_DIR}/share/icons/hicolor")
 set(icon_sizes 16 22 24 32 48 64 128 256)
 
 configure_file(icon.svg "${icon_theme}/scalable/apps/${TETRAD_APP_ID}.svg" COPYONLY)
@@ -21,4 +22,5 @@ foreach(size IN LISTS icon_sizes)
         VERBATIM)
     list(APPEND icon_files "${file}")
 endforeach()
-add_custom_target(tetrad_icons ALL DEPENDS ${icon_files})
+add_custom_target(tetrad_icons DEPENDS ${icon_files})
+add_dependencies(tetrad_game tetrad_icons)

@@ -5,12 +5,12 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 
 # Debian packages by what they are for, read through set_up; `build` is all that ./play needs.
 # shellcheck disable=SC2034
-packages_build=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core fonts-noto-color-emoji)
+packages_build=(g++ cmake ninja-build qt6-base-dev librsvg2-bin fonts-dejavu-core fonts-noto-color-emoji)
 # shellcheck disable=SC2034
 packages_test=(libgtest-dev xvfb openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core
     python3-gi gir1.2-atspi-2.0 python3-xlib locales strace sway wtype grim qt6-wayland)
 # shellcheck disable=SC2034
-packages_package=(librsvg2-bin dpkg-dev fakeroot lintian file desktop-file-utils appstream mandoc)
+packages_package=(dpkg-dev fakeroot lintian file desktop-file-utils appstream mandoc)
 # shellcheck disable=SC2034
 packages_lint=(clang clang-format clang-tidy)
 # shellcheck disable=SC2034

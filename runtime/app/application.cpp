@@ -22,9 +22,11 @@ QPointer<CUI_AppDelegate> installedDelegate;
 // the theme, which takes a fifth of all the work of starting a program.
 QIcon installedIcon(const QString &name)
 {
-    // Also a program installed where the desktop does not look, in a prefix of its own, finds its icon.
-    const QString besideProgram = QCoreApplication::applicationDirPath() + u"/../share/icons"_qs;
-    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << besideProgram);
+    // Also a program installed where the desktop does not look, in a prefix of its own, or not installed at all, finds
+    // its icon: in share, beside the folder the program is in or beside the program.
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths()
+                               << programFolder + u"/../share/icons"_qs << programFolder + u"/share/icons"_qs);
     for (const QString &folder : QIcon::themeSearchPaths()) {
         QIcon icon;
         for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {

@@ -7,10 +7,9 @@ namespace tetrad {
 class CUI_AppDelegate;
 
 /// Makes the process a window system application driven from the program's own straight-line main:
-/// creates the application object, gives it the icon installed in the theme "hicolor" and named like its id unless
-/// it has an icon,
-/// and installs the runtime's delegate. A second call, or one made
-/// when a delegate is already installed, changes nothing.
+/// creates the application object, gives it the icon that is named like its id unless it has one (in the theme
+/// "hicolor" where the desktop keeps its themes, or in share/icons beside the program or the program's folder), and
+/// installs the runtime's delegate. A second call, or one made when a delegate is already installed, changes nothing.
 /// Without a display the process ends here with one sentence on standard error and status 1.
 void CocoaInit();
 

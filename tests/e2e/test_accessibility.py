@@ -22,6 +22,8 @@ class TestAccessibility(PlayingTest):
         self.assertTrue(console.name)
         game.win()
         self.assertTrue(game.wait_for_alert().name)
+        # The icon that the build puts beside the program.
+        self.assertTrue(game.alert().find("image"))
 
     def test_the_field_is_described_by_what_is_new(self):
         game = self.start()
