@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QVariant>
 
+#include <bit>
+
 namespace tetrad {
 
 namespace {
@@ -14,22 +16,22 @@ constexpr char windowTagKey[] = "wndTagNumber";
 
 Tag tagFromObject(const QObject *object)
 {
-    return static_cast<Tag>(reinterpret_cast<qintptr>(object));
+    return std::bit_cast<qintptr>(object);
 }
 
 QObject *objectFromTag(Tag value)
 {
-    return isObjectAddress(value) ? reinterpret_cast<QObject *>(static_cast<qintptr>(value)) : nullptr;
+    return isObjectAddress(value) ? std::bit_cast<QObject *>(static_cast<qintptr>(value)) : nullptr;
 }
 
 Tag tagFromEvent(const QEvent *event)
 {
-    return static_cast<Tag>(reinterpret_cast<qintptr>(event));
+    return std::bit_cast<qintptr>(event);
 }
 
 QEvent *eventFromTag(Tag value)
 {
-    return isObjectAddress(value) ? reinterpret_cast<QEvent *>(static_cast<qintptr>(value)) : nullptr;
+    return isObjectAddress(value) ? std::bit_cast<QEvent *>(static_cast<qintptr>(value)) : nullptr;
 }
 
 Tag objectTag(const QObject *object)
