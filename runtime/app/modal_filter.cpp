@@ -194,9 +194,10 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         return comesFromInside(widget) ? endHere(event) : redirectKey(event);
     }
     if (type == QEvent::Close && event->spontaneous()) {
-        event->ignore();
-        // A runtime window asks its delegate, whatever runs.
-        return !widget->inherits("tetrad::Window");
+        // A runtime window asks its delegate, whatever runs; the answer it gives is its own.
+        const bool withheld = !widget->inherits("tetrad::Window");
+        event->setAccepted(!withheld);
+        return withheld;
     }
     if (type == QEvent::Wheel) {
         event->ignore();

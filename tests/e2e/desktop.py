@@ -145,6 +145,13 @@ class Desktop:
         left, right, top, bottom = (int(number) for number in extents.split("=")[1].split(","))
         return x - left, y - top, width + left + right, height + top + bottom
 
+    def click_close_box(self, window):
+        """Clicks the rightmost button of the title bar, which the window manager draws as high as wide."""
+        x, y, width, _ = self.framed_rectangle(window)
+        title = re.search(r"= \d+, \d+, (\d+)", self.run("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS"))
+        half = int(title[1]) // 2
+        self.click(x + width - half, y + half)
+
     # -- starting
 
     def _start_display(self):

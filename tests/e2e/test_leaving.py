@@ -54,11 +54,13 @@ class TestLeaving(PlayingTest):
         self.assert_clean_end(game)
 
     def test_the_close_box_of_the_window(self):
-        # The window manager's own key asks for the same as a click on the close box.
-        game = self.start()
-        game.wait_for_prompt()
-        self.desktop.press("alt+F4")
-        self.assert_clean_end(game)
+        for name, close in [("mouse", lambda window: self.desktop.click_close_box(window)),
+                            ("the window manager's key", lambda window: self.desktop.press("alt+F4"))]:
+            with self.subTest(name):
+                game = self.start()
+                game.wait_for_prompt()
+                close(self.desktop.window_of(game.process.pid))
+                self.assert_clean_end(game)
 
     def test_escape_and_the_close_box_leave_the_alert_open(self):
         game = self.start()

@@ -163,6 +163,51 @@ class TestWindows(PlayingTest):
         self.assertEqual(games[1].wait_for_prompt(prompt_after("9")).name, prompt_after("9"))
 
 
+class TestTwoWindows(PlayingTest):
+    """The panel stands over the front window; the other one neither takes its keys nor ends it."""
+
+    def setUp(self):
+        super().setUp()
+        self.program = self.start(command=[os.environ["TETRAD_TWO_WINDOWS"]])
+
+    def ask(self, window):
+        """Waits until this window's panel asks, with the keys going there."""
+        until(lambda: (shown := self.window(window)) and "active" in shown.states, f"{window!r} active")
+        field = self.program.wait_for_prompt("Which?")
+        self.assertTrue(self.window(window).find("text", name="Which?").is_the_same_as(field))
+
+    def window(self, name):
+        return self.program.application.find("frame", name=name)
+
+    def identifier(self, name):
+        return self.desktop.window_of(self.program.process.pid, name)
+
+    def answer(self, window, text):
+        self.program.answer(text, "Which?")
+        until(lambda: text in self.window(window).find("terminal").text.splitlines(), f"{text!r} in {window!r}")
+
+    def test_the_other_window_brought_to_the_front_gives_way(self):
+        for name, bring in [
+            ("by its title bar", lambda: self.desktop.run("xdotool", "windowactivate", self.identifier("First"))),
+            ("by a click in it", lambda: self.desktop.click(*self.window("First").centre)),
+        ]:
+            with self.subTest(name):
+                self.ask("Second")
+                bring()
+                self.answer("Second", name)
+
+    def test_each_close_box(self):
+        self.ask("Second")
+        self.answer("Second", "other")
+        self.ask("First")
+        self.answer("First", "here")
+        self.desktop.click_close_box(self.identifier("Second"))
+        until(lambda: not self.window("Second"), "the window without the panel to close")
+        self.answer("First", "still")
+        self.desktop.click_close_box(self.identifier("First"))
+        self.assert_clean_end(self.program)
+
+
 class TestSmallScreen(PlayingTest):
     def setUp(self):
         os.environ["TETRAD_E2E_SCREEN"] = "440x180x24"

@@ -1,0 +1,33 @@
+// Two windows at once. Asks in the one made last until it is answered "other", then in the other one.
+
+#include "runtime/app/application.h"
+#include "runtime/app/menus.h"
+#include "runtime/app/windows.h"
+#include "runtime/console/console_statements.h"
+#include "runtime/input/line_input.h"
+#include "runtime/strings/not_given.h"
+
+#include <QCoreApplication>
+
+using namespace tetrad;
+
+static void askUntilOther()
+{
+    QString answer;
+    while (answer != QStringLiteral("other")) {
+        answer = ZRInput(10, 60, QStringLiteral("Which?"), QString(), notGiven, notGiven, notGiven);
+        CUI_PrintToWindowPrintStatement({answer});
+    }
+}
+
+int main()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Windows"));
+    CocoaInit();
+    CUI_EditMenu(1);
+    CUI_Window(1, QStringLiteral("First"), notGiven, QRectF(100, 100, 400, 150));
+    CUI_Window(2, QStringLiteral("Second"), notGiven, QRectF(600, 300, 400, 150));
+    askUntilOther();
+    CUI_Window(1, QString(), notGiven, QRectF());
+    askUntilOther();
+}
