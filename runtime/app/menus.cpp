@@ -2,6 +2,7 @@
 
 #include "runtime/app/application.h"
 #include "runtime/app/edit_actions.h"
+#include "runtime/app/menu_keys.h"
 
 #include <QCoreApplication>
 #include <QMenu>
@@ -110,6 +111,7 @@ void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index)
 void appendMenu(MainMenu *menu, QMenu *added)
 {
     menu->menus.append(added);
+    leaveBarWithEscape(added);
     if (menu != theMainMenu) {
         return;
     }
@@ -124,6 +126,7 @@ void showMainMenuIn(QMenuBar *bar)
 {
     bars.removeAll(nullptr);
     bars.append(bar);
+    openWithF10(bar);
     const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
     for (QMenu *menu : menus) {
         bar->addMenu(menu);

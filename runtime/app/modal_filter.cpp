@@ -67,6 +67,16 @@ QWidget *widgetOfWindow(const QWindow *window)
     return nullptr;
 }
 
+bool isInMenu(const QWidget *widget)
+{
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (qobject_cast<const QMenu *>(widget) != nullptr || qobject_cast<const QMenuBar *>(widget) != nullptr) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool worksWhenModal(const QWidget *widget)
 {
     for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
@@ -169,6 +179,9 @@ bool ModalFilter::isWithheldFromWindow(QWindow *window, QEvent *event)
     }
     const QWidget *child = top->childAt(pressPosition(event));
     const QWidget *target = child != nullptr ? child : top;
+    if (qobject_cast<const QMenuBar *>(QApplication::focusWidget()) != nullptr && !isInMenu(target)) {
+        focusInside();
+    }
     if (isLive(target) || isScrollBar(target)) {
         return false;
     }
@@ -239,9 +252,10 @@ bool ModalFilter::redirectKey(QEvent *event)
 
 bool ModalFilter::endHere(QEvent *event)
 {
-    // A shortcut may still want it.
-    event->setAccepted(event->type() != QEvent::ShortcutOverride);
-    return true;
+    // A shortcut may still want it, and the menu bar watches its window for a tapped Alt.
+    const bool asksFirst = event->type() == QEvent::ShortcutOverride;
+    event->setAccepted(!asksFirst);
+    return !asksFirst || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Alt;
 }
 
 // What a live widget with the focus does not use goes on to the widgets around it; it was not typed there, and the
@@ -255,12 +269,11 @@ bool ModalFilter::comesFromInside(const QWidget *widget) const
 bool ModalFilter::isLive(const QWidget *widget) const
 {
     for (const QWidget *each = widget; each != nullptr; each = each->parentWidget()) {
-        if (each == m_widget || qobject_cast<const QMenu *>(each) != nullptr ||
-            qobject_cast<const QMenuBar *>(each) != nullptr) {
+        if (each == m_widget) {
             return true;
         }
     }
-    return worksWhenModal(widget);
+    return isInMenu(widget) || worksWhenModal(widget);
 }
 
 bool ModalFilter::isCarrier(const QWidget *window) const

@@ -30,7 +30,8 @@ ConsoleSelection::ConsoleSelection(CUI_PrintToWindowView *view) : QObject(view),
 
 void ConsoleSelection::focusChanged(QWidget *before, QWidget *now)
 {
-    if (now == m_view && before) {
+    // A menu bar has the focus only in passing, and takes none.
+    if (now == m_view && before && before->focusPolicy() != Qt::NoFocus) {
         m_focusBefore = before;
     }
     if (now == m_view || before == m_view) {

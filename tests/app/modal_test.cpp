@@ -1,6 +1,7 @@
 #include "runtime/app/modal.h"
 
 #include "runtime/app/application.h"
+#include "runtime/app/menus.h"
 #include "runtime/app/window.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -242,6 +244,48 @@ TEST_F(Modal, ShortcutsOfAWindowWithoutTheFocusWork)
     QSignalSpy triggered(item, &QAction::triggered);
     runWhile([this] { QTest::keyClick(carrier.windowHandle(), Qt::Key_K, Qt::ControlModifier); });
     EXPECT_EQ(triggered.count(), 1);
+}
+
+TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
+{
+    const struct
+    {
+        const char *name;
+        QList<Qt::Key> enter;
+        QList<Qt::Key> leave; ///< none: a click beside panel and bar
+    } rows[] = {
+        {"Escape in a menu", {Qt::Key_F10}, {Qt::Key_Escape}},
+        {"Escape in the next menu", {Qt::Key_F10, Qt::Key_Down, Qt::Key_Right}, {Qt::Key_Escape}},
+        {"Escape in a menu of a bar entered before", {Qt::Key_Alt, Qt::Key_Down}, {Qt::Key_Escape}},
+        {"Escape in the bar", {Qt::Key_Alt, Qt::Key_Right}, {Qt::Key_Escape}},
+        {"Alt in the bar", {Qt::Key_Alt}, {Qt::Key_Alt}},
+        {"an item", {Qt::Key_Alt, Qt::Key_Right, Qt::Key_Up}, {Qt::Key_Return}},
+        {"a click", {Qt::Key_Alt}, {}},
+    };
+    CUI_EditMenu(1);
+    QMenuBar bar(&carrier);
+    showMainMenuIn(&bar);
+    bar.show();
+    const auto press = [this](Qt::Key key) {
+        QWidget *popup = QApplication::activePopupWidget();
+        QTest::keyClick((popup != nullptr ? popup : &carrier)->windowHandle(), key,
+                        key == Qt::Key_Alt ? Qt::AltModifier : Qt::NoModifier);
+    };
+    runWhile([&] {
+        for (const auto &row : rows) {
+            SCOPED_TRACE(row.name);
+            field->setText(u"1"_qs);
+            std::ranges::for_each(row.enter, press);
+            EXPECT_TRUE(bar.hasFocus() || QApplication::activePopupWidget() != nullptr);
+            std::ranges::for_each(row.leave, press);
+            if (row.leave.isEmpty()) {
+                QTest::mouseClick(carrier.windowHandle(), Qt::LeftButton, {}, carrier.rect().bottomRight());
+            }
+            EXPECT_TRUE(field->hasFocus());
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+            EXPECT_EQ(bar.activeAction(), nullptr);
+        }
+    });
 }
 
 TEST_F(Modal, CloseRequests)

@@ -64,8 +64,7 @@ class TestEditMenu(PlayingTest):
                 items = menu.find_all("menu item")
                 self.assertEqual([item.name for item in items if "sensitive" in item.states], expected)
                 self.assertEqual(len(items), 7)
-                # Out of the menu, out of the bar.
-                self.desktop.press("Escape", "Escape")
+                self.desktop.press("Escape")
                 until(game.field, "the focus back in the field")
 
 

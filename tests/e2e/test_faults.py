@@ -158,8 +158,7 @@ class TestSurroundings(FaultTest):
             self.desktop.press("ctrl+v")
             game.type_more("+3)", "1+(2+3)")
             game.open_menu("Edit")
-            # The first closes the menu, the second leaves the bar.
-            self.desktop.press("Escape", "Escape")
+            self.desktop.press("Escape")
             game.type_more("*4", "1+(2+3)*4")
             game.process.send_signal(signal.SIGTERM)
             self.assert_clean_end(game)
