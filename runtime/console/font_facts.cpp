@@ -52,7 +52,7 @@ QString installedFamily(const QString &family)
 QString emojiFamily()
 {
     for (const char16_t *name : {u"Noto Color Emoji", u"Apple Color Emoji", u"Segoe UI Emoji"}) {
-        if (const QString family = QString::fromUtf16(name); QFontDatabase::hasFamily(family)) {
+        if (QString family = QString::fromUtf16(name); QFontDatabase::hasFamily(family)) {
             return family;
         }
     }
