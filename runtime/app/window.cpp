@@ -112,7 +112,7 @@ void Window::setContentRect(const QRectF &rect)
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     m_chrome = measuredChrome();
-    const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - m_contentView->pos();
+    const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - QPoint(0, m_chrome.height());
     setGeometry(QRect(origin, rect.size().toSize() + m_chrome));
     keepContentSize();
     fixSizeUnlessResizable();
@@ -260,7 +260,8 @@ QSize Window::measuredChrome()
         layout()->invalidate();
     }
     layout()->activate();
-    return size() - m_contentView->size();
+    // The layout of a window too small for any content puts it out of sight, at the size it had.
+    return rect().contains(m_contentView->pos()) ? size() - m_contentView->size() : m_chrome;
 }
 
 // The menu bar's height is known for certain only once it is shown, and it may come and go later: a

@@ -168,6 +168,22 @@ TEST_F(Windows, ContentKeepsItsSizeWhateverTheMenuBarTakes)
     }
 }
 
+TEST_F(Windows, TinyOnesComeBack)
+{
+    CUI_EditMenu(1);
+    CUI_Window(1, u"Tiny"_qs, windowStyleDefault, QRectF(10, 100, 200, 100));
+    Window *const window = CUI_WindowWithTag(1);
+    const QSize size = window->size();
+    for (const QSize tiny : {QSize(1, 1), QSize(200, 1), QSize(1, 100)}) {
+        window->resize(tiny);
+        QCoreApplication::processEvents();
+        EXPECT_GT(window->width(), 0);
+        window->resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->contentRect().size(), QSizeF(200, 100));
+    }
+}
+
 TEST_F(Windows, StyleBecomesWindowFlags)
 {
     const Qt::WindowFlags buttons =
