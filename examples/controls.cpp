@@ -13,6 +13,7 @@
 #include "runtime/controls/split_view.h"
 #include "runtime/controls/tab_view.h"
 #include "runtime/controls/table_view.h"
+#include "runtime/controls/view_lookup.h"
 #include "runtime/strings/text_format.h"
 
 #include <QCoreApplication>
@@ -67,6 +68,10 @@ int main()
     SplitViewAddSubview(18, 19);
     SplitViewAddSubview(18, 20);
     CUI_TableView(21, {"Name", "Size"}, {10, 240, 340, 170});
+    // What says nothing by itself is read aloud by these names.
+    CUI_ViewWithTag(13)->setAccessibleName("Amount");
+    CUI_ViewWithTag(14)->setAccessibleName("Number");
+    CUI_ViewWithTag(21)->setAccessibleName("Cells");
 
     runModalForWindow(CUI_WindowWithTag(1)); // until the window is closed
     AppTerminate();

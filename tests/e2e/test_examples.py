@@ -164,6 +164,11 @@ class TestControls(ExampleTest):
                 act()
                 self.assert_told(f"event 1, {told}")
 
+    def test_names_are_given(self):
+        for role, name in [("slider", "Amount"), ("text", "Number"), ("table", "Cells")]:
+            with self.subTest(role):
+                self.controls.wait_for(role, name)
+
     def test_another_page(self):
         self.click("page tab", "Second")
         self.assert_told(*(rf"event {event}, tag 15, window 1: bool 0, long 1, .*" for event in (1600, 1601, 1602)))
