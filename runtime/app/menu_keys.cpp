@@ -42,15 +42,15 @@ public:
         if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel)) {
             return false;
         }
-        auto *menu = static_cast<QMenu *>(watched);
-        const QPointer<QMenuBar> bar = barShowing(menu);
+        const QPointer<QMenu> menu = static_cast<QMenu *>(watched);
+        QMenuBar *bar = barShowing(menu);
         if (bar == nullptr) {
             return false;
         }
-        menu->close();
-        if (bar != nullptr) {
-            // A bar that was entered by key gives the keyboard back to where it came from.
-            QCoreApplication::sendEvent(bar, event);
+        // A bar that was entered by key gives the keyboard back to where it came from.
+        QCoreApplication::sendEvent(bar, event);
+        if (menu != nullptr) {
+            menu->close();
         }
         return true;
     }

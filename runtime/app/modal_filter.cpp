@@ -77,6 +77,14 @@ bool isInMenu(const QWidget *widget)
     return false;
 }
 
+/// A menu bar has the keyboard while one of its titles is highlighted. When its window was left and entered again
+/// meanwhile, the bar gets the focus back without that, and nothing the player can do would move it on.
+bool isIdleBar(const QWidget *widget)
+{
+    const auto *bar = qobject_cast<const QMenuBar *>(widget);
+    return bar != nullptr && bar->activeAction() == nullptr;
+}
+
 bool worksWhenModal(const QWidget *widget)
 {
     for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
@@ -200,8 +208,12 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         windowActivated(widget);
         return false;
     }
-    if (m_redirecting || isLive(widget)) {
+    const bool isLost = isKey(type) && isIdleBar(widget) && widget->hasFocus();
+    if (m_redirecting || (isLive(widget) && !isLost)) {
         return false;
+    }
+    if (isLost) {
+        return redirectKey(event);
     }
     if (isKey(type)) {
         return comesFromInside(widget) ? endHere(event) : redirectKey(event);
@@ -319,7 +331,7 @@ void ModalFilter::focusMoved(QWidget *now)
     }
     if (m_widget == now || m_widget->isAncestorOf(now)) {
         m_lastFocus = now;
-    } else if (!isLive(now) && now->window() == m_widget->window()) {
+    } else if ((!isLive(now) || isIdleBar(now)) && now->window() == m_widget->window()) {
         focusInside();
     }
 }

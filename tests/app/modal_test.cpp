@@ -285,6 +285,11 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
             EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
             EXPECT_EQ(bar.activeAction(), nullptr);
         }
+        press(Qt::Key_Alt);
+        other.activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return other.isActiveWindow() || field->hasFocus(); }));
+        carrier.activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return field->hasFocus(); })) << "its window was left and entered again";
     });
 }
 
