@@ -75,8 +75,9 @@ public:
     /// "OK". The alert may be gone when this returns.
     qint64 runModal(QWidget *over);
 
-    /// Shows the alert attached to a window, which takes no input until it is answered, and returns at
-    /// once. `completion` gets the button's code; it is not called when the alert is dismissed.
+    /// Shows the alert attached to a window, which takes no input until it is answered, its menu bar included (the
+    /// shortcuts of the menus work in the alert), and returns at once. `completion` gets the button's code; it is not
+    /// called when the alert is dismissed.
     void beginSheet(QWidget *window, std::function<void(qint64)> completion);
     bool isRunningAsSheet() const { return m_sheetWindow && isVisible(); }
 

@@ -11,8 +11,10 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -331,6 +333,12 @@ TEST_F(Alerts, HelpAsksTheDelegateAndLeavesTheAlertOpen)
 TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
 {
     Window *const owner = open(1);
+    auto *const behind = new QPushButton(owner->contentView());
+    behind->show();
+    const QSignalSpy presses(behind, &QPushButton::pressed);
+    const auto pressBehind = [owner, behind] {
+        QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, behind->rect().center()));
+    };
     const struct
     {
         const char *name;
@@ -348,11 +356,15 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         ASSERT_TRUE(alert && alert->isRunningAsSheet() && alert->sheet());
         EXPECT_EQ(alert->parentWidget(), owner);
         EXPECT_EQ(show(4), 0) << "already shown";
+        pressBehind();
+        EXPECT_EQ(presses.count(), 0) << "its window takes no input";
         row.answer(alert);
         const QStringList told = dialogEvents.filter(QRegularExpression(u"^(1000|1000[012]) "_qs));
         EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, row.reported}));
         EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
     }
+    pressBehind();
+    EXPECT_EQ(presses.count(), 1);
 }
 
 TEST_F(Alerts, TheQuitShortcutWorksWhileASheetIsUp)
