@@ -1,15 +1,11 @@
 #pragma once
 
 #include "runtime/app/alert.h"
-#include "runtime/app/modal.h"
+#include "tests/windows.h"
 
 #include <QPushButton>
-#include <QTest>
-#include <QTimer>
 
-#include <functional>
-
-namespace tetrad::testing_helpers {
+namespace tetrad {
 
 /// Calls `action` with the alert that is run next, once it is on the screen and active; start it before the call
 /// that blocks.
@@ -64,4 +60,4 @@ inline bool noAlertLeft()
     return modalWindow() == nullptr;
 }
 
-} // namespace tetrad::testing_helpers
+} // namespace tetrad

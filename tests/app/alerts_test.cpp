@@ -6,7 +6,6 @@
 #include "runtime/app/menus.h"
 #include "runtime/strings/error_object.h"
 #include "tests/app/alert_helper.h"
-#include "tests/app/window_helper.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -16,15 +15,11 @@
 #include <QScreen>
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
-
 #include <thread>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 using Answer = std::function<void(Alert *)>;
 
@@ -59,12 +54,7 @@ protected:
 
 TEST_F(Alerts, ButtonsAreMadeOnceFromTheTitles)
 {
-    const struct
-    {
-        const char *name;
-        QVariant buttons;
-        QStringList titles;
-    } rows[] = {
+    const Table<QVariant, QStringList> rows = {
         {"text", u"Quit;Play Again"_qs, {u"Quit"_qs, u"Play Again"_qs}},
         {"empty pieces", u"A;;B;"_qs, {u"A"_qs, u""_qs, u"B"_qs, u""_qs}},
         {"empty text", u""_qs, {u""_qs}},
@@ -75,9 +65,9 @@ TEST_F(Alerts, ButtonsAreMadeOnceFromTheTitles)
         {"no text", QString(), {}},
         {"neither text nor list", 7, {}},
     };
-    for (const auto &row : rows) {
-        define(5, row.buttons);
-        EXPECT_EQ(titlesOf(CUI_AlertWithTag(5)), row.titles) << row.name;
+    for (const auto &[name, buttons, titles] : rows) {
+        define(5, buttons);
+        EXPECT_EQ(titlesOf(CUI_AlertWithTag(5)), titles) << name;
         show(-5);
     }
 }
@@ -103,12 +93,7 @@ TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
         pressKey(alert, Qt::Key_Tab);
         pressKey(alert, Qt::Key_Return);
     };
-    const struct
-    {
-        const char *name;
-        Answer answer;
-        qint64 code;
-    } rows[] = {
+    const Table<Answer, qint64> rows = {
         {"click on the first", clicks(0), 1000},
         {"click on the second", clicks(1), 1001},
         {"Return presses the first", presses(Qt::Key_Return), 1000},
@@ -121,32 +106,25 @@ TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
         {"stopped by the program", [](Alert *) { stopModalWithCode(1001); }, 1001},
         {"aborted", [](Alert *) { abortModal(); }, 0},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, answer, code] : rows) {
+        SCOPED_TRACE(name);
         dialogEvents.clear();
         define(2);
-        whenAlertRuns([&row](Alert *alert) {
+        whenAlertRuns([act = answer](Alert *alert) {
             EXPECT_EQ(alert->text(), u"Correct"_qs);
             EXPECT_EQ(alert->informativeText(), u"You won!"_qs);
-            row.answer(alert);
+            act(alert);
         });
-        EXPECT_EQ(show(2), row.code);
-        EXPECT_EQ(dialogEvents, QStringList{u"1000 %1 2"_qs.arg(row.code)});
+        EXPECT_EQ(show(2), code);
+        EXPECT_EQ(dialogEvents, QStringList{u"1000 %1 2"_qs.arg(code)});
         EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
     }
 }
 
 TEST_F(Alerts, KeyEquivalentPressesItsButton)
 {
-    const struct
-    {
-        const char *name;
-        quint64 index;
-        QString key;
-        Qt::Key pressed;
-        Qt::KeyboardModifiers modifiers;
-        qint64 code; // 0: nothing happens
-    } rows[] = {
+    // A code of 0: nothing happens.
+    const Table<quint64, QString, Qt::Key, Qt::KeyboardModifiers, qint64> rows = {
         {"past the last button", 2, u"\033"_qs, Qt::Key_Escape, {}, 0},
         {"Escape on the second", 1, u"\033"_qs, Qt::Key_Escape, {}, 1001},
         {"Return on the second", 1, u"\r"_qs, Qt::Key_Return, {}, 1001},
@@ -157,21 +135,21 @@ TEST_F(Alerts, KeyEquivalentPressesItsButton)
         {"no key takes Return away", 0, u""_qs, Qt::Key_Return, {}, 0},
         {"another key takes Return away", 0, u"q"_qs, Qt::Key_Return, {}, 0},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, index, key, pressed, modifiers, code] : rows) {
+        SCOPED_TRACE(name);
         define(2);
-        AlertButtonSetKeyEquivalent(2, row.index, row.key);
-        AlertButtonSetKeyEquivalent(3, row.index, row.key); // no such alert
-        whenAlertRuns([&row](Alert *alert) {
-            pressKey(alert, row.pressed, true, row.modifiers); // held down from before: never
+        AlertButtonSetKeyEquivalent(2, index, key);
+        AlertButtonSetKeyEquivalent(3, index, key); // no such alert
+        whenAlertRuns([pressing = pressed, with = modifiers, answers = code != 0](Alert *alert) {
+            pressKey(alert, pressing, true, with); // held down from before: never
             EXPECT_TRUE(alert->isVisible());
-            pressKey(alert, row.pressed, false, row.modifiers);
-            if (row.code == 0) {
+            pressKey(alert, pressing, false, with);
+            if (!answers) {
                 EXPECT_FALSE(alert->alertButtons().at(0)->isDown() || alert->alertButtons().at(1)->isDown());
                 alert->dismiss();
             }
         });
-        EXPECT_EQ(show(2), row.code);
+        EXPECT_EQ(show(2), code);
     }
 }
 
@@ -228,45 +206,36 @@ TEST_F(Alerts, LongTextsStayOnTheScreenInFull)
     }
 }
 
-TEST_F(Alerts, LookupByTagComparesAsGivenAndTakesAddresses)
+TEST_F(Alerts, AreFoundByTheTagAsGivenAndByAddress)
 {
     define(2);
-    Alert *const alert = CUI_AlertWithTag(2);
-    ASSERT_NE(alert, nullptr);
-    EXPECT_EQ(CUI_AlertWithTag(tagFromObject(alert)), alert);
-    EXPECT_EQ(CUI_AlertWithTag(-2), nullptr);
-    EXPECT_EQ(CUI_AlertWithTag(0), nullptr);
-    delete alert;
-    EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
-}
+    EXPECT_TRUE(CUI_AlertWithTag(2));
+    EXPECT_EQ(CUI_AlertWithTag(tagFromObject(CUI_AlertWithTag(2))), CUI_AlertWithTag(2));
+    EXPECT_TRUE(!CUI_AlertWithTag(-2) && !CUI_AlertWithTag(0));
+    delete CUI_AlertWithTag(2);
+    EXPECT_FALSE(CUI_AlertWithTag(2));
 
-TEST_F(Alerts, AProgramsOwnAlertIsShownByAddressAndStaysItsOwn)
-{
-    Alert alert;
-    alert.addAlertButton(u"A"_qs);
-    alert.addAlertButton(u"B"_qs);
+    Alert own;
+    own.addAlertButton(u"A"_qs);
+    own.addAlertButton(u"B"_qs);
     for (const int index : {1, 0}) {
         whenAlertRuns(clicks(index));
-        EXPECT_EQ(show(tagFromObject(&alert)), 1000 + index);
+        EXPECT_EQ(show(tagFromObject(&own)), 1000 + index) << "the program's own is not forgotten";
     }
 }
 
-TEST_F(Alerts, DismissedUnshownOrWhileRunningReportsZero)
+TEST_F(Alerts, DismissedUnshownWhileRunningOrBehindAnotherReportZero)
 {
     define(2);
     EXPECT_EQ(show(-2), 0);
-    EXPECT_EQ(dialogEvents, QStringList{u"1000 0 2"_qs});
+    EXPECT_EQ(std::exchange(dialogEvents, {}), QStringList{u"1000 0 2"_qs});
     EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
 
     define(2);
-    dialogEvents.clear();
     whenAlertRuns([](Alert *) { EXPECT_EQ(show(-2), 0); });
     EXPECT_EQ(show(2), 0);
     EXPECT_EQ(dialogEvents, (QStringList{u"1000 0 2"_qs, u"1000 0 2"_qs})) << "the dismissal and the run's end";
-}
 
-TEST_F(Alerts, DismissedBehindAnotherAlertEndsWhenItsTurnComes)
-{
     define(2);
     define(3);
     whenAlertRuns([](Alert *) {
@@ -332,6 +301,8 @@ TEST_F(Alerts, HelpAsksTheDelegateAndLeavesTheAlertOpen)
 
 TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
 {
+    whenAlertRuns(clicks(1));
+    EXPECT_EQ(CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1), 1001) << "modal without a window";
     Window *const owner = open(1);
     auto *const behind = new QPushButton(owner->contentView());
     behind->show();
@@ -339,17 +310,12 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     const auto pressBehind = [owner, behind] {
         QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, behind->rect().center()));
     };
-    const struct
-    {
-        const char *name;
-        Answer answer;
-        QString reported;
-    } rows[] = {
+    const Table<Answer, QString> rows = {
         {"answered", clicks(1), u"1000 1001 4"_qs},
         {"dismissed", [](Alert *) { show(-4); }, u"1000 0 4"_qs},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, answer, reported] : rows) {
+        SCOPED_TRACE(name);
         dialogEvents.clear();
         EXPECT_EQ(CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1), 0);
         Alert *const alert = CUI_AlertWithTag(4);
@@ -358,17 +324,25 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         EXPECT_EQ(show(4), 0) << "already shown";
         pressBehind();
         EXPECT_EQ(presses.count(), 0) << "its window takes no input";
-        row.answer(alert);
+        answer(alert);
         const QStringList told = dialogEvents.filter(QRegularExpression(u"^(1000|1000[012]) "_qs));
-        EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, row.reported}));
+        EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, reported}));
         EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
     }
     pressBehind();
     EXPECT_EQ(presses.count(), 1);
 }
 
-TEST_F(Alerts, TheQuitShortcutWorksWhileASheetIsUp)
+TEST_F(Alerts, QuitShortcutOverASheetAndQuitOfAWarningEndTheProgram)
 {
+    EXPECT_EXIT(
+        {
+            CocoaInit();
+            whenAlertRuns(clicks(1));
+            CUI_ShowAlert(alertStyleWarning, u"first"_qs, u"one"_qs);
+            EXPECT_TRUE(QTest::qWaitFor([] { return false; }, 60000));
+        },
+        testing::ExitedWithCode(0), "");
     EXPECT_EXIT(
         {
             CocoaInit();
@@ -380,12 +354,6 @@ TEST_F(Alerts, TheQuitShortcutWorksWhileASheetIsUp)
             pressKey(alert, Qt::Key_Q, false, Qt::ControlModifier);
         },
         testing::ExitedWithCode(0), "");
-}
-
-TEST_F(Alerts, SheetWithoutAWindowRunsModally)
-{
-    whenAlertRuns(clicks(1));
-    EXPECT_EQ(CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1), 1001);
 }
 
 TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
@@ -411,18 +379,4 @@ TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
     EXPECT_TRUE(dialogEvents.isEmpty());
 }
 
-TEST_F(Alerts, QuitOfAWarningEndsTheProgram)
-{
-    EXPECT_EXIT(
-        {
-            CocoaInit();
-            whenAlertRuns(clicks(1));
-            CUI_ShowAlert(alertStyleWarning, u"first"_qs, u"one"_qs);
-            EXPECT_TRUE(QTest::qWaitFor([] { return false; }, 60000));
-        },
-        testing::ExitedWithCode(0), "");
-}
-
 } // namespace
-
-} // namespace tetrad

@@ -17,9 +17,9 @@
 #include <csignal>
 #include <functional>
 
-namespace {
-
 using namespace tetrad;
+
+namespace {
 
 struct Seen
 {

@@ -15,9 +15,9 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 using namespace tetrad;
+
+namespace {
 
 QString titles()
 {

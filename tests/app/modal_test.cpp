@@ -2,9 +2,8 @@
 
 #include "runtime/app/application.h"
 #include "runtime/app/menus.h"
-#include "runtime/app/window.h"
+#include "tests/windows.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -12,18 +11,11 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
 #include <QVBoxLayout>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <functional>
 
 namespace {
-
-using namespace tetrad;
 
 // A window with a panel raised over it, and one beside it; each has a button and a field.
 class Modal : public testing::Test
@@ -76,12 +68,7 @@ void clickInWindow(const QWidget &inside)
 
 TEST_F(Modal, EveryWayToEndGivesItsCode)
 {
-    const struct
-    {
-        const char *name;
-        std::function<void()> act;
-        qint64 code;
-    } rows[] = {
+    const Table<std::function<void()>, qint64> rows = {
         {"stopped", [] { stopModalWithCode(modalStopped); }, modalStopped},
         {"any code", [] { stopModalWithCode(1001); }, 1001},
         {"aborted", [] { abortModal(); }, modalAborted},
@@ -93,9 +80,9 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
          [this] { panel->hide(), panel->show(), QCoreApplication::processEvents(), stopModalWithCode(6); }, 6},
     };
     stopModalWithCode(1); // nothing to stop yet
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(runWhile(row.act), row.code);
+    for (const auto &[name, act, code] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(runWhile(act), code);
         EXPECT_EQ(modalWindow(), nullptr);
     }
 }
@@ -248,12 +235,8 @@ TEST_F(Modal, ShortcutsOfAWindowWithoutTheFocusWork)
 
 TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
 {
-    const struct
-    {
-        const char *name;
-        QList<Qt::Key> enter;
-        QList<Qt::Key> leave; ///< none: a click beside panel and bar
-    } rows[] = {
+    // Ways in and out by keys; no way out is a click beside panel and bar.
+    const Table<QList<Qt::Key>, QList<Qt::Key>> rows = {
         {"Escape in a menu", {Qt::Key_F10}, {Qt::Key_Escape}},
         {"Escape in the next menu", {Qt::Key_F10, Qt::Key_Down, Qt::Key_Right}, {Qt::Key_Escape}},
         {"Escape in a menu of a bar entered before", {Qt::Key_Alt, Qt::Key_Down}, {Qt::Key_Escape}},
@@ -272,13 +255,13 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
                         key == Qt::Key_Alt ? Qt::AltModifier : Qt::NoModifier);
     };
     runWhile([&] {
-        for (const auto &row : rows) {
-            SCOPED_TRACE(row.name);
+        for (const auto &[name, enter, leave] : rows) {
+            SCOPED_TRACE(name);
             field->setText(u"1"_qs);
-            std::ranges::for_each(row.enter, press);
+            std::ranges::for_each(enter, press);
             EXPECT_TRUE(bar.hasFocus() || QApplication::activePopupWidget() != nullptr);
-            std::ranges::for_each(row.leave, press);
-            if (row.leave.isEmpty()) {
+            std::ranges::for_each(leave, press);
+            if (leave.isEmpty()) {
                 QTest::mouseClick(carrier.windowHandle(), Qt::LeftButton, {}, carrier.rect().bottomRight());
             }
             EXPECT_TRUE(field->hasFocus());

@@ -3,15 +3,10 @@
 #include "runtime/app/content_view.h"
 #include "runtime/app/popover.h"
 #include "tests/app/alert_helper.h"
-#include "tests/app/window_helper.h"
 
-#include <gtest/gtest.h>
-
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 using OutputWindow = WindowTest;
 
@@ -20,27 +15,20 @@ TEST_F(OutputWindow, IsFoundByTheAbsoluteTag)
     Popover popover(9, QSize(100, 50));
     Window *const one = open(1);
     Window *const hidden = open(-2);
-    const struct
-    {
-        const char *name;
-        Tag set;
-        Tag stored;
-        QWidget *output;
-        QWidget *contentView;
-    } rows[] = {
+    const Table<Tag, Tag, QWidget *, QWidget *> rows = {
         {"none", 0, 0, nullptr, nullptr},
         {"window", 1, 1, one, one->contentView()},
         {"hidden window, negative tag", -2, 2, hidden, hidden->contentView()},
         {"popover", 9, 9, &popover, popover.contentView()},
         {"unknown", -5, 5, nullptr, nullptr},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        CUI_OutputWindowSetTag(row.set);
-        EXPECT_EQ(CUI_OutputWindowTag(), row.stored);
-        EXPECT_EQ(CUI_OutputWindow(), row.output);
-        EXPECT_EQ(CUI_OutputWindowContentView(), row.contentView);
-        EXPECT_EQ(CUI_TargetWithTag(row.set), row.output);
+    for (const auto &[name, set, stored, output, contentView] : rows) {
+        SCOPED_TRACE(name);
+        CUI_OutputWindowSetTag(set);
+        EXPECT_EQ(CUI_OutputWindowTag(), stored);
+        EXPECT_EQ(CUI_OutputWindow(), output);
+        EXPECT_EQ(CUI_OutputWindowContentView(), contentView);
+        EXPECT_EQ(CUI_TargetWithTag(set), output);
     }
 }
 
@@ -52,26 +40,19 @@ TEST_F(OutputWindow, TargetIsTheOutputWindowElseTheFrontmost)
     open(1);
     open(2);
     open(-3);
-    const struct
-    {
-        const char *name;
-        Tag output;
-        Tag asked;
-        Tag found;
-        Tag writtenBack;
-    } rows[] = {
+    const Table<Tag, Tag, Tag, Tag> rows = {
         {"output window, though hidden", 3, 0, 3, 3},
         {"no output window: the frontmost", 0, 0, 2, 2},
         {"output tag of no window: the frontmost", 8, 0, 2, 2},
         {"a tag", 3, -1, 1, -1},
         {"an unknown tag", 3, 8, 0, 8},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        CUI_OutputWindowSetTag(row.output);
-        Tag tag = row.asked;
-        EXPECT_EQ(CUI_TargetWindow(&tag), CUI_WindowWithTag(row.found));
-        EXPECT_EQ(tag, row.writtenBack);
+    for (const auto &[name, output, asked, found, writtenBack] : rows) {
+        SCOPED_TRACE(name);
+        CUI_OutputWindowSetTag(output);
+        Tag tag = asked;
+        EXPECT_EQ(CUI_TargetWindow(&tag), CUI_WindowWithTag(found));
+        EXPECT_EQ(tag, writtenBack);
     }
 }
 
@@ -127,5 +108,3 @@ TEST_F(OutputWindow, PopoverShowsAndCloses)
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -7,16 +7,12 @@
 
 #include <QTranslator>
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <memory>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 // The strings table of an application that was translated: every text is wrapped in brackets.
 class Brackets : public QTranslator
@@ -63,24 +59,17 @@ void reportBoundsError(quint32 index, quint32 bound, const QString &inFile)
 
 TEST(BoundsError, IsWrittenInThreeLinesBeforeTheAlertThatOffersNoContinue)
 {
-    const struct
-    {
-        const char *name;
-        quint32 index;
-        QString file;
-        const char *fileWritten;
-        const char *indexWritten;
-    } rows[] = {
+    const Table<quint32, QString, const char *, const char *> rows = {
         {"one past the bound", 98, file, "Tetrad Game.zr", "98"},
         {"negative", quint32(-3), file, "Tetrad Game.zr", "-3"},
         {"bytes of Mac Roman", 98, u"\u00e9\u2022.zr"_qs, "\x8e\xa5.zr", "98"},
         {"characters the encoding lacks", 98, u"\u4e00\U0001f534%s.zr"_qs, "\\?\\?%s.zr", "98"},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EXIT(reportBoundsError(row.index, 97, row.file), testing::ExitedWithCode(0),
-                    std::string("(^|\n)Array bounds error:\nAt line 128 of ") + row.fileWritten + "\nIndex " +
-                        row.indexWritten + " is outside the DIM range 0 to 97\\. \\[Type ctrl-C if process hangs\\]\n");
+    for (const auto &[name, index, inFile, fileWritten, indexWritten] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EXIT(reportBoundsError(index, 97, inFile), testing::ExitedWithCode(0),
+                    std::string("(^|\n)Array bounds error:\nAt line 128 of ") + fileWritten + "\nIndex " +
+                        indexWritten + " is outside the DIM range 0 to 97\\. \\[Type ctrl-C if process hangs\\]\n");
     }
 }
 
@@ -171,5 +160,3 @@ TEST(Stop, WritesTheTextsAndAbortsWithoutAnApplication)
 }
 
 } // namespace
-
-} // namespace tetrad

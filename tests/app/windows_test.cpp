@@ -5,25 +5,16 @@
 #include "runtime/app/menus.h"
 #include "runtime/app/window_controller.h"
 #include "runtime/app/window_delegate.h"
-#include "tests/app/window_helper.h"
+#include "tests/windows.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QPointer>
 #include <QScreen>
-#include <QTest>
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 using Windows = WindowTest;
 
@@ -35,15 +26,7 @@ bool isCentred(const Window *window)
 
 TEST_F(Windows, StatementMakesAndShows)
 {
-    const struct
-    {
-        const char *name;
-        Tag tag;
-        QRectF rect;
-        QSizeF size;
-        bool centred;
-        bool shown;
-    } rows[] = {
+    const Table<Tag, QRectF, QSizeF, bool, bool> rows = {
         {"empty rectangle", 1, QRectF(), QSizeF(550, 400), true, true},
         {"size without height counts as empty", 1, QRectF(10, 10, 300, 0), QSizeF(550, 400), true, true},
         {"origin (0, 0)", 1, QRectF(0, 0, 580, 250), QSizeF(580, 250), true, true},
@@ -51,17 +34,17 @@ TEST_F(Windows, StatementMakesAndShows)
         {"origin (0, y)", 1, QRectF(0, 60, 300, 200), QSizeF(300, 200), false, true},
         {"negative tag hides", -1, QRectF(0, 0, 300, 200), QSizeF(300, 200), true, false},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        Window *const window = open(row.tag, row.rect);
-        EXPECT_EQ(window->contentRect().size(), row.size);
-        EXPECT_EQ(isCentred(window), row.centred);
-        if (!row.centred) {
+    for (const auto &[name, tag, rect, size, centred, shown] : rows) {
+        SCOPED_TRACE(name);
+        Window *const window = open(tag, rect);
+        EXPECT_EQ(window->contentRect().size(), size);
+        EXPECT_EQ(isCentred(window), centred);
+        if (!centred) {
             // The offscreen platform keeps the 2 pixels of its frame on the screen.
-            const QPointF off = window->contentRect().topLeft() - row.rect.topLeft();
+            const QPointF off = window->contentRect().topLeft() - rect.topLeft();
             EXPECT_LE(off.manhattanLength(), 2);
         }
-        EXPECT_EQ(window->isVisible(), row.shown);
+        EXPECT_EQ(window->isVisible(), shown);
         EXPECT_EQ(window->windowTitle(), u"Untitled");
         EXPECT_EQ(window->styleMask(), windowStyleDefault);
         EXPECT_EQ(CUI_OutputWindowTag(), 1);
@@ -75,18 +58,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
     Window *const window = CUI_WindowWithTag(1);
     const QRectF first(50, 70, 300, 200);
     const QRectF second(80, 90, 400, 100);
-    const struct
-    {
-        const char *name;
-        Tag tag;
-        QString title;
-        qint64 style;
-        QRectF rect;
-        QString titleAfter;
-        qint64 styleAfter;
-        QRectF rectAfter;
-        bool shown;
-    } rows[] = {
+    const Table<Tag, QString, qint64, QRectF, QString, qint64, QRectF, bool> rows = {
         {"shows the hidden one", 1, {}, notGiven, {}, u"First"_qs, windowStyleTitled, first, true},
         {"title only", 1, u"Second"_qs, notGiven, {}, u"Second"_qs, windowStyleTitled, first, true},
         {"empty title", 1, u""_qs, notGiven, {}, u""_qs, windowStyleTitled, first, true},
@@ -94,23 +66,24 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
         {"style only", 1, {}, windowStyleDefault, {}, u""_qs, windowStyleDefault, second, true},
         {"tag of the other sign hides", -1, {}, notGiven, {}, u""_qs, windowStyleDefault, second, false},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, tag, title, style, rect, titleAfter, styleAfter, rectAfter, shown] : rows) {
+        SCOPED_TRACE(name);
         CUI_SetSubclassFlag(true);
-        CUI_Window(row.tag, row.title, row.style, row.rect);
+        CUI_Window(tag, title, style, rect);
         QApplication::processEvents();
         EXPECT_EQ(CUI_WindowWithTag(1), window);
         EXPECT_EQ(orderedWindows().size(), 1);
-        EXPECT_EQ(window->windowTitle(), row.titleAfter);
-        EXPECT_EQ(window->styleMask(), row.styleAfter);
-        EXPECT_EQ(window->contentRect(), row.rectAfter);
-        EXPECT_EQ(window->isVisible(), row.shown);
+        EXPECT_EQ(window->windowTitle(), titleAfter);
+        EXPECT_EQ(window->styleMask(), styleAfter);
+        EXPECT_EQ(window->contentRect(), rectAfter);
+        EXPECT_EQ(window->isVisible(), shown);
         EXPECT_FALSE(CUI_IsSubclassFlag());
     }
 }
 
-TEST_F(Windows, InitDoesNotCheckTheTag)
+TEST_F(Windows, InitDoesNotCheckTheTagAndTakesTheSubclassFlagOnce)
 {
+    CUI_SetSubclassFlag(true);
     Window *const first = WindowInit(5, QRectF(40, 60, 300, 200));
     Window *const second = WindowInit(5, QRectF(40, 60, 300, 200));
     Window *const negative = WindowInit(-6, QRectF(40, 60, 300, 200));
@@ -122,6 +95,7 @@ TEST_F(Windows, InitDoesNotCheckTheTag)
     EXPECT_EQ(second->windowController()->window(), second);
     EXPECT_EQ(second->delegate(), CUI_WindowDelegateObj());
     EXPECT_EQ(second->contentView()->objectName(), u"-1437226411");
+    EXPECT_TRUE(qobject_cast<WindowSC *>(first) && !qobject_cast<WindowSC *>(second));
 }
 
 TEST_F(Windows, LookupByTag)
@@ -135,13 +109,6 @@ TEST_F(Windows, LookupByTag)
     }
     WindowCenter(4);
     WindowSetBackgroundColor(4, Qt::red);
-}
-
-TEST_F(Windows, SubclassFlagServesOneWindow)
-{
-    CUI_SetSubclassFlag(true);
-    EXPECT_NE(qobject_cast<WindowSC *>(WindowInit(1, QRectF())), nullptr);
-    EXPECT_EQ(qobject_cast<WindowSC *>(WindowInit(2, QRectF())), nullptr);
 }
 
 TEST_F(Windows, ContentKeepsItsSizeWhateverTheMenuBarTakes)
@@ -188,13 +155,7 @@ TEST_F(Windows, StyleBecomesWindowFlags)
 {
     const Qt::WindowFlags buttons =
         Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
-    const struct
-    {
-        const char *name;
-        qint64 style;
-        Qt::WindowFlags set;
-        Qt::WindowFlags clear;
-    } rows[] = {
+    const Table<qint64, Qt::WindowFlags, Qt::WindowFlags> rows = {
         {"default", windowStyleDefault, Qt::WindowTitleHint | buttons, Qt::FramelessWindowHint},
         {"title only", windowStyleTitled, Qt::WindowTitleHint, Qt::FramelessWindowHint | buttons},
         {"closable", windowStyleTitled | windowStyleClosable, Qt::WindowCloseButtonHint, Qt::WindowMinimizeButtonHint},
@@ -202,16 +163,16 @@ TEST_F(Windows, StyleBecomesWindowFlags)
     };
     Window *const window = open(1);
     const QRectF place = window->contentRect();
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        window->setStyleMask(row.style);
+    for (const auto &[name, style, set, clear] : rows) {
+        SCOPED_TRACE(name);
+        window->setStyleMask(style);
         QApplication::processEvents();
-        EXPECT_EQ(window->windowFlags() & row.set, row.set);
-        EXPECT_EQ(window->windowFlags() & row.clear, Qt::WindowFlags());
+        EXPECT_EQ(window->windowFlags() & set, set);
+        EXPECT_EQ(window->windowFlags() & clear, Qt::WindowFlags());
         EXPECT_EQ(window->windowHandle()->flags(), window->windowFlags());
         EXPECT_TRUE(window->isVisible());
         EXPECT_EQ(window->contentRect(), place);
-        EXPECT_EQ(window->minimumSize() == window->maximumSize(), !(row.style & windowStyleResizable));
+        EXPECT_EQ(window->minimumSize() == window->maximumSize(), !(style & windowStyleResizable));
     }
 }
 
@@ -309,5 +270,3 @@ TEST_F(Windows, AwakeFromAnInterfaceFile)
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -6,40 +6,27 @@
 #include <QRandomGenerator>
 #include <QRawFont>
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
-struct EmojiCase
+TEST(Emoji, areFoundInTheText)
 {
-    const char *name;
-    QString text;
-    QList<TextRun> runs;
-};
-
-void PrintTo(const EmojiCase &test, std::ostream *out)
-{
-    *out << test.name;
+    const Table<QString, QList<TextRun>> rows = {
+        {"digits never", u"0123456789#*+-/() 1\ufe0f"_qs, {}},
+        {"white circle", u"\u26aa Easy"_qs, {{0, 1}}},
+        {"level label", u"a 🔴 🔴 Medium"_qs, {{2, 2}, {5, 2}}},
+        {"neighbours are one run", u"🟡🟡"_qs, {{0, 4}}},
+        {"selector makes one", u"x\u2764\ufe0fy"_qs, {{1, 2}}},
+        {"without selector a text", u"\u2764"_qs, {}},
+        {"text selector unmakes one", u"\u26aa\ufe0e"_qs, {}},
+        {"skin tone and joiner", u"👩🏽\u200d🚀!"_qs, {{0, 7}}},
+        {"lone surrogate", QString(QChar(0xD83D)) + QChar(u'a'), {}},
+    };
+    for (const auto &[name, text, runs] : rows) {
+        EXPECT_EQ(emojiRuns(text), runs) << name;
+    }
 }
-
-class Emoji : public testing::TestWithParam<EmojiCase>
-{};
-
-TEST_P(Emoji, areFoundInTheText)
-{
-    EXPECT_EQ(emojiRuns(GetParam().text), GetParam().runs);
-}
-
-INSTANTIATE_TEST_SUITE_P(Console, Emoji,
-                         testing::Values(EmojiCase{"digitsNever", u"0123456789#*+-/() 1\ufe0f"_qs, {}},
-                                         EmojiCase{"whiteCircle", u"\u26aa Easy"_qs, {{0, 1}}},
-                                         EmojiCase{"levelLabel", u"a 🔴 🔴 Medium"_qs, {{2, 2}, {5, 2}}},
-                                         EmojiCase{"neighboursAreOneRun", u"🟡🟡"_qs, {{0, 4}}},
-                                         EmojiCase{"selectorMakesOne", u"x\u2764\ufe0fy"_qs, {{1, 2}}},
-                                         EmojiCase{"withoutSelectorAText", u"\u2764"_qs, {}},
-                                         EmojiCase{"textSelectorUnmakesOne", u"\u26aa\ufe0e"_qs, {}},
-                                         EmojiCase{"skinToneAndJoiner", u"👩🏽\u200d🚀!"_qs, {{0, 7}}},
-                                         EmojiCase{"loneSurrogate", QString(QChar(0xD83D)) + QChar(u'a'), {}}),
-                         [](const auto &row) { return std::string(row.param.name); });
 
 TEST(Fonts, emojiAreSetInTheColourFontAndNothingElse)
 {
@@ -220,4 +207,3 @@ TEST(Culling, looksAtNoMoreThanWhatIsNear)
 }
 
 } // namespace
-} // namespace tetrad

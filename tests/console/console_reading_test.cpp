@@ -8,7 +8,8 @@
 #include <QScrollBar>
 #include <QTest>
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 TEST_F(Console, readsAsOneText)
@@ -156,4 +157,3 @@ TEST_F(ReadConsole, startsOverAtTheTopAndFollowsTheWidth)
 }
 
 } // namespace
-} // namespace tetrad

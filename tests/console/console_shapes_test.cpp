@@ -1,6 +1,7 @@
 #include "tests/console/printing.h"
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 TEST_F(Console, aPolylineIsASegmentPerPoint)
@@ -68,57 +69,38 @@ TEST_F(Console, theArchiveHasTenKeysAndThosePresent)
     EXPECT_EQ(array.at(5).toMap().value(u"rect"_qs), QRectF(1, 2, 3, 4));
 }
 
-struct StrokeCase
+TEST_F(Console, strokesAreSeenInTheMiddleOfALine)
 {
-    const char *name;
-    LineStyle style;
-    const char *row; ///< the pixels from x 4 to 35, '#' dark, along a line from x 10 to 30
-};
-
-void PrintTo(const StrokeCase &test, std::ostream *out)
-{
-    *out << test.name;
-}
-
-class Stroking : public Console, public testing::WithParamInterface<StrokeCase>
-{};
-
-TEST_P(Stroking, isSeenInTheMiddleOfTheLine)
-{
-    const LineStyle &style = GetParam().style;
-    view.setCurrentLineWidth(style.width);
-    view.setCurrentLineCapStyle(style.capStyle);
-    view.setCurrentLineDashPattern(style.dashPattern);
-    view.setCurrentLineDashPhase(style.dashPhase);
-    view.setCurrentLinePoint({10, 20.5});
-    view.addLines({{30, 20.5}}, true);
-    const QImage image = picture(1);
-    std::string row;
-    for (int x = 4; x < 36; ++x) {
-        row += image.pixelColor(x, 20).lightness() < 128 ? '#' : '.';
+    // The pixels from x 4 to 35, '#' dark, along a line from x 10 to 30.
+    const Table<LineStyle, std::string> rows = {
+        {"flat by default", {.width = 8}, "......####################......"},
+        {"butt", {.width = 8, .capStyle = 0}, "......####################......"},
+        {"square", {.width = 8, .capStyle = 2}, "..############################.."},
+        {"round", {.width = 8, .capStyle = 1}, "..############################.."},
+        {"negative width", {.width = -1}, "................................"},
+        {"thinnest", {.width = 0}, "......####################......"},
+        {"dashes in pixels", {.width = 3, .dashPattern = {5, 3}}, "......#####...#####...####......"},
+        {"dashes of the thinnest", {.width = 0, .dashPattern = {5, 3}}, "......#####...#####...####......"},
+        {"phase", {.width = 3, .dashPattern = {5, 3}, .dashPhase = 2}, "......###...#####...#####......."},
+        {"odd pattern", {.width = 2, .dashPattern = {4}}, "......####....####....####......"},
+        {"useless pattern", {.width = 3, .dashPattern = {0, 0}}, "......####################......"},
+    };
+    for (const auto &[name, style, expected] : rows) {
+        view.clear();
+        view.setCurrentLineWidth(style.width);
+        view.setCurrentLineCapStyle(style.capStyle);
+        view.setCurrentLineDashPattern(style.dashPattern);
+        view.setCurrentLineDashPhase(style.dashPhase);
+        view.setCurrentLinePoint({10, 20.5});
+        view.addLines({{30, 20.5}}, true);
+        const QImage image = picture(1);
+        std::string row;
+        for (int x = 4; x < 36; ++x) {
+            row += image.pixelColor(x, 20).lightness() < 128 ? '#' : '.';
+        }
+        EXPECT_EQ(row, expected) << name;
     }
-    EXPECT_EQ(row, GetParam().row);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Console, Stroking,
-    testing::Values(
-        StrokeCase{"flatByDefault", {.width = 8}, "......####################......"},
-        StrokeCase{"butt", {.width = 8, .capStyle = 0}, "......####################......"},
-        StrokeCase{"square", {.width = 8, .capStyle = 2}, "..############################.."},
-        StrokeCase{"round", {.width = 8, .capStyle = 1}, "..############################.."},
-        StrokeCase{"negativeWidth", {.width = -1}, "................................"},
-        StrokeCase{"thinnest", {.width = 0}, "......####################......"},
-        StrokeCase{"dashesInPixels", {.width = 3, .dashPattern = {5, 3}}, "......#####...#####...####......"},
-        StrokeCase{"dashesOfTheThinnest", {.width = 0, .dashPattern = {5, 3}}, "......#####...#####...####......"},
-        StrokeCase{
-            "phase",
-            {.width = 3, .dashPattern = {5, 3}, .dashPhase = 2},
-            "......###...#####...#####.......",
-        },
-        StrokeCase{"oddPattern", {.width = 2, .dashPattern = {4}}, "......####....####....####......"},
-        StrokeCase{"uselessPattern", {.width = 3, .dashPattern = {0, 0}}, "......####################......"}),
-    [](const auto &row) { return std::string(row.param.name); });
 
 TEST_F(Console, aNegativeWidthFillsWithoutStroking)
 {
@@ -135,4 +117,3 @@ TEST_F(Console, aNegativeWidthFillsWithoutStroking)
 }
 
 } // namespace
-} // namespace tetrad

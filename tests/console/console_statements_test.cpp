@@ -10,7 +10,8 @@
 #include "runtime/strings/not_given.h"
 #include "tests/console/printing.h"
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 CUI_PrintToWindowView *outputView()
@@ -81,39 +82,21 @@ TEST(Statements, textAppliesOnlyWhatIsGiven)
     EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2"_qs);
 }
 
-struct RectCase
+TEST(Statements, aRectangleChasesTheFillColour)
 {
-    const char *name;
-    QColor given;
-    bool fill;
-    const char *drawnFill;
-    QColor rememberedAfter;
-};
-
-void PrintTo(const RectCase &test, std::ostream *out)
-{
-    *out << test.name;
+    const Table<QColor, bool, const char *, QColor> rows = {{"given", Qt::red, true, "#ff0000", Qt::red},
+                                                            {"remembered", QColor(), true, "#0000ff", Qt::blue},
+                                                            {"only remembering", Qt::red, false, "none", Qt::red},
+                                                            {"outline", QColor(), false, "none", Qt::blue}};
+    for (const auto &[name, given, fill, drawnFill, rememberedAfter] : rows) {
+        SCOPED_TRACE(name);
+        CUI_PrintToWindowClearStatement();
+        outputView()->setCurrentFillColor(Qt::blue);
+        CUI_DrawToWindowRectStatement(given, fill, QRectF(10, 200, 400, 15));
+        EXPECT_EQ(outputView()->dump().toStdString(),
+                  std::string("rect (10,200) size 400x15 width 1 stroke #000000 fill ") + drawnFill + "\n");
+        EXPECT_EQ(outputView()->currentFillColor(), rememberedAfter);
+    }
 }
-
-class DrawRect : public testing::TestWithParam<RectCase>
-{};
-
-TEST_P(DrawRect, chasesTheFillColour)
-{
-    CUI_PrintToWindowClearStatement();
-    outputView()->setCurrentFillColor(Qt::blue);
-    CUI_DrawToWindowRectStatement(GetParam().given, GetParam().fill, QRectF(10, 200, 400, 15));
-    EXPECT_EQ(outputView()->dump().toStdString(),
-              std::string("rect (10,200) size 400x15 width 1 stroke #000000 fill ") + GetParam().drawnFill + "\n");
-    EXPECT_EQ(outputView()->currentFillColor(), GetParam().rememberedAfter);
-}
-
-INSTANTIATE_TEST_SUITE_P(Statements, DrawRect,
-                         testing::Values(RectCase{"given", Qt::red, true, "#ff0000", Qt::red},
-                                         RectCase{"remembered", QColor(), true, "#0000ff", Qt::blue},
-                                         RectCase{"onlyRemembering", Qt::red, false, "none", Qt::red},
-                                         RectCase{"outline", QColor(), false, "none", Qt::blue}),
-                         [](const auto &row) { return std::string(row.param.name); });
 
 } // namespace
-} // namespace tetrad

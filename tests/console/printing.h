@@ -1,13 +1,10 @@
 #pragma once
 
 #include "runtime/console/console_view.h"
+#include "tests/table.h"
 
 #include <QImage>
 #include <QPainter>
-
-#include <gtest/gtest.h>
-
-#include <ostream>
 
 namespace tetrad {
 
@@ -54,9 +51,4 @@ inline void PrintTo(const QPointF &point, std::ostream *out)
 inline void PrintTo(const QImage &image, std::ostream *out)
 {
     *out << image.width() << " x " << image.height() << " pixels";
-}
-
-inline void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << '"' << text.toStdString() << '"';
 }

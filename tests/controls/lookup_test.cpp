@@ -9,7 +9,7 @@
 #include "runtime/controls/view_lookup.h"
 #include "runtime/controls/view_tag.h"
 #include "runtime/controls/visual_effect_view.h"
-#include "tests/controls/controls_helper.h"
+#include "tests/controls/site_helper.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -24,11 +24,9 @@
 
 #include <memory>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 class Lookup : public WindowTest
 {
@@ -51,7 +49,7 @@ protected:
 
 TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
 {
-    QWidget *const content = open(1);
+    QWidget *const content = open(1)->contentView();
     QWidget *const plain = named(content, u"7"_qs);
     QWidget *const trailing = named(content, u"14 apples"_qs);
     QWidget *const effect = named<VisualEffectView>(content, u"10"_qs);
@@ -60,13 +58,7 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
     tagged<QWidget>(content, 9);
     QWidget *const button = tagged(content, 5);
     QWidget *const inner = tagged<ContentViewSC>(content, 11);
-    struct Row
-    {
-        const char *name;
-        Tag tag;
-        QWidget *found;
-    };
-    const Row rows[] = {
+    const Table<Tag, QWidget *> rows = {
         {"no view", 0, nullptr},
         {"unknown", 99, nullptr},
         {"negative", -5, nullptr},
@@ -81,9 +73,8 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
         {"the content view itself", contentViewTag, content},
         {"a view in place of a tag", tagFromObject(effect), effect},
     };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(CUI_ViewWithTag(row.tag), row.found);
+    for (const auto &[name, tag, found] : rows) {
+        EXPECT_EQ(CUI_ViewWithTag(tag), found) << name;
     }
     EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), content->findChild<QPushButton *>(u"8"_qs))
         << "a view without a tag counts as 0";
@@ -91,7 +82,7 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
 
 TEST_F(Lookup, ReportsAndSearchesByDifferentTags)
 {
-    QWidget *const content = open(1);
+    QWidget *const content = open(1)->contentView();
     setObjectTag(content, 70);
     QWidget *const effect = named<VisualEffectView>(content, u"10"_qs);
     setObjectTag(effect, 71);
@@ -108,7 +99,7 @@ TEST_F(Lookup, ReportsAndSearchesByDifferentTags)
 
 TEST_F(Lookup, GoesDepthFirstAndTakesTheFirst)
 {
-    QWidget *const content = open(1);
+    QWidget *const content = open(1)->contentView();
     QWidget *const box = named(content, {});
     QWidget *const deeper = named(box, {});
     QWidget *const deep = tagged(deeper, 3);
@@ -126,7 +117,7 @@ TEST_F(Lookup, GoesDepthFirstAndTakesTheFirst)
 
 TEST_F(Lookup, SearchesAllTabsAndNoSegments)
 {
-    QWidget *const content = open(1);
+    QWidget *const content = open(1)->contentView();
     auto *const tabs = tagged<QTabWidget>(content, 20);
     tabs->addTab(named(nullptr, u"24"_qs), u"One"_qs);
     tabs->addTab(named(nullptr, {}), u"Two"_qs);
@@ -149,8 +140,8 @@ TEST_F(Lookup, TakesTheShownPopoverThenTheOutputWindowThenTheFront)
 {
     EXPECT_EQ(CUI_ViewWithTag(3), nullptr);
     EXPECT_EQ(CUI_ViewWithTag(contentViewTag), nullptr);
-    QWidget *const one = open(1);
-    QWidget *const two = open(2);
+    QWidget *const one = open(1)->contentView();
+    QWidget *const two = open(2)->contentView();
     QWidget *const inOne = tagged(one, 3);
     QWidget *const inTwo = tagged(two, 3);
     Popover popover(9, QSize(100, 50));
@@ -172,7 +163,7 @@ TEST_F(Lookup, TakesTheShownPopoverThenTheOutputWindowThenTheFront)
 
 TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
 {
-    QWidget *const content = open(1);
+    QWidget *const content = open(1)->contentView();
     Window *const window = CUI_WindowWithTag(1);
     const QSize before = content->size();
     QWidget *const accessory = named<QFrame>(nullptr, u"40"_qs);
@@ -208,28 +199,19 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     CUI_OutputWindowSetTag(1);
     window->setStyleMask(windowStyleBorderless);
     EXPECT_EQ(TitlebarAccessoryViewWithTag(40), nullptr) << "no title bar";
-    EXPECT_EQ(alertsOf([] { CUI_ToolbarAddItem(51, 1, {}); }),
-              QStringList(u"Tag error.|Can't find tool bar 51 in window 1."_qs));
+    EXPECT_EQ(alertsOf([] { CUI_ToolbarAddItem(51, 1, {}); }), u"Tag error.|Can't find tool bar 51 in window 1."_qs);
 }
 
 TEST_F(Lookup, TellsWhatIsWrong)
 {
-    QWidget *const content = open(1);
+    QWidget *const content = open(1)->contentView();
     QWidget *const plain = named(content, u"5"_qs);
     QWidget *const button = tagged(content, 6);
     QAction action;
     const auto hex = [](const QObject *object) -> QString {
         return u"0x"_qs + QString::number(tagFromObject(object), 16);
     };
-    struct Row
-    {
-        const char *name;
-        Tag argument;
-        QString className;
-        QWidget *found;
-        QString alert;
-    };
-    const Row rows[] = {
+    const Table<Tag, QString, QWidget *, QString> rows = {
         {"a control", 6, u"NSControl"_qs, button, {}},
         {"its own class", 6, u"NSButton"_qs, button, {}},
         {"a control as an object", tagFromObject(button), u"NSControl"_qs, button, {}},
@@ -247,24 +229,23 @@ TEST_F(Lookup, TellsWhatIsWrong)
         {"object that is no view", tagFromObject(&action), u"NSView"_qs, nullptr,
          u"Class error.|View <NSToolbarItem: %1> cannot respond to NSView messages."_qs.arg(hex(&action))},
     };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
-        QWidget *found = nullptr;
-        const QStringList alerts = alertsOf([&] { found = CUI_ValidateViewKindOfClass(row.argument, row.className); });
-        EXPECT_EQ(found, row.found);
-        EXPECT_EQ(alerts, row.alert.isEmpty() ? QStringList() : QStringList(row.alert));
+    for (const auto &[name, argument, className, expected, alert] : rows) {
+        SCOPED_TRACE(name);
+        const QWidget *found = nullptr;
+        EXPECT_EQ(alertsOf([&, a = argument, c = className] { found = CUI_ValidateViewKindOfClass(a, c); }), alert);
+        EXPECT_EQ(found, expected);
     }
 }
 
 TEST_F(Lookup, TellsWhenThereIsNoWindow)
 {
     QWidget *found = nullptr;
-    EXPECT_EQ(alertsOf([&] { found = ControlWithTag(3); }), QStringList(u"Error.|Can't find any windows."_qs));
+    EXPECT_EQ(alertsOf([&] { found = ControlWithTag(3); }), u"Error.|Can't find any windows."_qs);
     EXPECT_EQ(found, nullptr);
     QPushButton loose;
-    EXPECT_EQ(alertsOf([&] { found = ControlWithTag(tagFromObject(&loose)); }), QStringList());
+    EXPECT_EQ(alertsOf([&] { found = ControlWithTag(tagFromObject(&loose)); }), QString());
     EXPECT_EQ(found, &loose) << "an object needs no window";
-    EXPECT_EQ(alertsOf([&] { CUI_Button(3, u"x"_qs, {}); }), QStringList(u"Error.|Can't find any windows."_qs));
+    EXPECT_EQ(alertsOf([&] { CUI_Button(3, u"x"_qs, {}); }), u"Error.|Can't find any windows."_qs);
 }
 
 TEST_F(Lookup, NamesClassesByTheirNearestName)
@@ -292,5 +273,3 @@ TEST_F(Lookup, NamesClassesByTheirNearestName)
 }
 
 } // namespace
-
-} // namespace tetrad

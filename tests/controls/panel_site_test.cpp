@@ -13,11 +13,9 @@
 #include <QLineEdit>
 #include <QToolBar>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 class PopoverSite : public SiteTest
 {
@@ -25,29 +23,22 @@ protected:
     void SetUp() override
     {
         SiteTest::SetUp();
-        CUI_Popover(9, QSizeF(80, 60), popoverApplicationDefined);
-        m_popover = CUI_PopoverWithTag(9);
-        setPopoverAsks(m_popover, true);
-        takeSiteCalls();
+        m_popover = makePopover();
     }
-
     void TearDown() override
     {
         delete m_popover;
         SiteTest::TearDown();
     }
 
-    void show() { PopoverShow(9, contentViewTag, QRectF(0, 0, 5, 5), Qt::BottomEdge); }
-
-    void drag()
+    static Popover *makePopover()
     {
-        QWidget *const content = m_popover->contentView();
-        QTest::mousePress(content, Qt::LeftButton, {}, QPoint(10, 10));
-        const QPoint place(60, 50);
-        QMouseEvent event(QEvent::MouseMove, place, content->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QApplication::sendEvent(content, &event);
+        CUI_Popover(9, QSizeF(80, 60), popoverApplicationDefined);
+        setPopoverAsks(CUI_PopoverWithTag(9), true);
+        return CUI_PopoverWithTag(9);
     }
+    static void show() { PopoverShow(9, contentViewTag, QRectF(0, 0, 5, 5), Qt::BottomEdge); }
+    static void drag(Popover *popover) { dragMouse(popover->contentView(), QPoint(10, 10), QPoint(60, 50)); }
 
     QPointer<Popover> m_popover;
 };
@@ -55,56 +46,45 @@ protected:
 TEST_F(PopoverSite, TellsWhenItShowsAndCloses)
 {
     show();
-    EXPECT_EQ(takeSiteCalls(), "1302 9 9, 1303 9 9");
+    EXPECT_EQ(takeSiteCalls(), u"1302 9 9, 1303 9 9"_qs);
     PopoverClose(9);
-    EXPECT_EQ(takeSiteCalls(), "1301 9 9");
+    EXPECT_EQ(takeSiteCalls(), u"1301 9 9"_qs);
     EXPECT_TRUE(m_popover->isVisible()) << "the preset answer is no";
     atEvent = [](qint64 event) { answer(event == popoverEventShouldClose); };
     PopoverClose(9);
-    EXPECT_EQ(takeSiteCalls(), "1301 9 9, 1304 9 9, 1305 9 9");
+    EXPECT_EQ(takeSiteCalls(), u"1301 9 9, 1304 9 9, 1305 9 9"_qs);
     EXPECT_FALSE(m_popover->isVisible());
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
-}
-
-TEST_F(PopoverSite, ThatDoesNotAskClosesUnasked)
-{
     setPopoverAsks(m_popover, false);
     show();
-    drag();
+    drag(m_popover);
     takeSiteCalls();
     PopoverClose(9);
-    EXPECT_EQ(takeSiteCalls(), "1304 9 9, 1305 9 9");
+    EXPECT_EQ(takeSiteCalls(), u"1304 9 9, 1305 9 9"_qs) << "unasked";
 }
 
 TEST_F(PopoverSite, IsDraggedOffAsAWindowOrGivesWayToOne)
 {
-    struct Row
-    {
-        const char *name;
-        bool lets;
-        bool givesWindow;
-        const char *calls;
-    };
     QWidget window;
-    for (const Row &row :
-         {Row{"refused", false, false, "1307 9 9"}, Row{"another window", true, true, "1307 9 9, 1300 9 9, 1306 9 9"},
-          Row{"itself", true, false, "1307 9 9, 1300 9 9, 1306 9 9"}}) {
-        SCOPED_TRACE(row.name);
+    const Table<bool, bool, QString> rows = {{"refused", false, false, u"1307 9 9"_qs},
+                                             {"another window", true, true, u"1307 9 9, 1300 9 9, 1306 9 9"_qs},
+                                             {"itself", true, false, u"1307 9 9, 1300 9 9, 1306 9 9"_qs}};
+    for (const auto &[name, lets, givesWindow, calls] : rows) {
+        SCOPED_TRACE(name);
         show();
         takeSiteCalls();
-        atEvent = [&](qint64 event) {
-            answer(row.lets);
-            if (event == popoverEventDetachableWindow && row.givesWindow) {
-                CUI_DialogEventObj()->viewObj = &window;
+        atEvent = [yes = lets, other = givesWindow ? &window : nullptr](qint64 event) {
+            answer(yes);
+            if (event == popoverEventDetachableWindow && other) {
+                CUI_DialogEventObj()->viewObj = other;
             }
         };
         const QPoint before = m_popover->pos();
-        drag();
-        EXPECT_EQ(takeSiteCalls(), row.calls);
-        EXPECT_EQ(m_popover->isVisible(), !row.givesWindow);
-        EXPECT_EQ(window.isVisible(), row.givesWindow);
-        const bool staysInPlace = !row.lets;
-        EXPECT_EQ((row.givesWindow ? window.pos() : m_popover->pos()) == before, staysInPlace);
+        drag(m_popover);
+        EXPECT_EQ(takeSiteCalls(), calls);
+        EXPECT_EQ(m_popover->isVisible(), !givesWindow);
+        EXPECT_EQ(window.isVisible(), givesWindow);
+        EXPECT_EQ((givesWindow ? window.pos() : m_popover->pos()) == before, !lets);
         window.hide();
         atEvent = nullptr;
     }
@@ -112,25 +92,12 @@ TEST_F(PopoverSite, IsDraggedOffAsAWindowOrGivesWayToOne)
 
 TEST_F(PopoverSite, SurvivesBeingDeletedAtEveryEvent)
 {
-    for (const qint64 deadly : {1300, 1301, 1302, 1304, 1305, 1306, 1307}) {
-        atEvent = [&](qint64 event) {
-            answer(true);
-            if (event == deadly) {
-                delete m_popover;
-            }
-        };
-        show();
-        const bool detaches = deadly == 1300 || deadly >= 1306;
-        if (m_popover && detaches) {
-            drag();
-        } else if (m_popover) {
-            PopoverClose(9);
-        }
-        EXPECT_FALSE(m_popover) << deadly;
-        CUI_Popover(9, QSizeF(80, 60), popoverApplicationDefined);
-        m_popover = CUI_PopoverWithTag(9);
-        setPopoverAsks(m_popover, true);
-    }
+    delete m_popover;
+    const auto appear = [](Popover *) { show(); };
+    const auto close = [](Popover *) { PopoverClose(9); };
+    const auto yes = [](qint64) { answer(true); };
+    expectSurvival<Popover>({1301, 1302, 1304, 1305}, makePopover, {appear, close}, yes);
+    expectSurvival<Popover>({1300, 1306, 1307}, makePopover, {appear, drag}, yes);
 }
 
 using ToolbarSite = SiteTest;
@@ -140,33 +107,32 @@ TEST_F(ToolbarSite, ClicksAreToldAndItemsValidatedWhenAsked)
     QToolBar *const toolbar = CUI_Toolbar(3);
     QAction *const item = CUI_ToolbarAddItem(3, 8, u"Go"_qs);
     takeSiteCalls();
-    QWidget *const button = toolbar->widgetForAction(item);
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_EQ(takeSiteCalls(), "1900 8 7");
+    QTest::mouseClick(toolbar->widgetForAction(item), Qt::LeftButton);
+    EXPECT_EQ(takeSiteCalls(), u"1900 8 7"_qs);
     EXPECT_EQ(lastObject, tagFromObject(item));
     bool enabled = true;
     atEvent = [&enabled](qint64 event) { answer(event == toolbarEventValidateItem && enabled); };
     setToolbarItemValidates(item, true);
-    EXPECT_EQ(takeSiteCalls(), "1901 8 7");
+    EXPECT_EQ(takeSiteCalls(), u"1901 8 7"_qs);
     EXPECT_TRUE(item->isEnabled());
     enabled = false;
     QTest::mouseClick(m_content, Qt::LeftButton);
-    EXPECT_EQ(takeSiteCalls(), "1901 8 7");
+    EXPECT_EQ(takeSiteCalls(), u"1901 8 7"_qs);
     EXPECT_FALSE(item->isEnabled());
 }
 
 TEST_F(ToolbarSite, SurvivesItsItemBeingDeleted)
 {
-    for (const qint64 deadly : {toolbarEventItemAction, toolbarEventValidateItem}) {
-        QToolBar *const toolbar = CUI_Toolbar(3);
-        const QPointer<QAction> item = CUI_ToolbarAddItem(3, 8, u"Go"_qs);
-        setToolbarItemValidates(item, deadly == toolbarEventValidateItem);
-        takeSiteCalls();
-        atEvent = [&](qint64) { delete item; };
-        QTest::mouseClick(toolbar->widgetForAction(item), Qt::LeftButton);
-        takeSiteCalls();
-        EXPECT_FALSE(item);
-        atEvent = nullptr;
+    QToolBar *const toolbar = CUI_Toolbar(3);
+    for (const bool validates : {false, true}) {
+        const auto make = [validates] {
+            QAction *const item = CUI_ToolbarAddItem(3, 8, u"Go"_qs);
+            setToolbarItemValidates(item, validates);
+            takeSiteCalls();
+            return item;
+        };
+        const auto click = [&](QAction *item) { QTest::mouseClick(toolbar->widgetForAction(item), Qt::LeftButton); };
+        expectSurvival<QAction>({validates ? 1901 : 1900}, make, {click});
     }
 }
 
@@ -174,7 +140,7 @@ using PanelSite = SiteTest;
 
 TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
 {
-    const QPointer<QColorDialog> colors = CUI_ColorPanel(Qt::red);
+    QColorDialog *const colors = CUI_ColorPanel(Qt::red);
     valuesOf = [](qint64 event) {
         const CUI_DialogEvent &record = *CUI_DialogEventObj();
         return event == colorPanelEventAction ? record.colorObj.name() : QString::number(record.fontObj.pointSize());
@@ -185,13 +151,10 @@ TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
     hex->selectAll();
     QTest::keyClicks(hex, u"#0000ff"_qs);
     QTest::keyClick(hex, Qt::Key_Return);
-    EXPECT_TRUE(QString::fromStdString(takeSiteCalls()).endsWith(u"2600 0 7 #0000ff"_qs));
+    EXPECT_TRUE(takeSiteCalls().endsWith(u"2600 0 7 #0000ff"_qs));
     EXPECT_EQ(lastObject, tagFromObject(colors));
-    atEvent = [&](qint64) { delete colors; };
-    colors->setCurrentColor(Qt::green);
-    takeSiteCalls();
-    EXPECT_FALSE(colors);
-    atEvent = nullptr;
+    expectSurvival<QColorDialog>({2600}, [] { return CUI_ColorPanel(Qt::red); },
+                                 {[](QColorDialog *dialog) { dialog->setCurrentColor(Qt::green); }});
     EXPECT_TRUE(CUI_ColorPanel(Qt::red)->isVisible());
     CUI_ColorPanel(Qt::red)->hide();
 
@@ -201,10 +164,8 @@ TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
     takeSiteCalls();
     font.setPointSize(14);
     fonts->setCurrentFont(font);
-    EXPECT_TRUE(QString::fromStdString(takeSiteCalls()).endsWith(u"2200 0 7 14"_qs));
+    EXPECT_TRUE(takeSiteCalls().endsWith(u"2200 0 7 14"_qs));
     fonts->hide();
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -1,18 +1,54 @@
 #pragma once
 
-#include "runtime/controls/dialog_event.h"
+#include "runtime/app/alerts.h"
 #include "runtime/controls/event_codes.h"
 #include "runtime/controls/view_lookup.h"
-#include "tests/controls/controls_helper.h"
+#include "tests/windows.h"
 
-#include <functional>
-#include <string>
+#include <QMessageBox>
+#include <QPushButton>
+
 #include <utility>
 
-namespace tetrad::testing_helpers {
+namespace tetrad {
 
-/// What the dialog function was called with, as "code tag wndTag", with what `values` made of the record behind
-/// it. Windows' own events are left out.
+/// Answers every alert with its first button, as long as it lives, and keeps the texts as "title|text".
+class AlertAnswerer
+{
+public:
+    QStringList shown;
+
+    AlertAnswerer()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            if (auto *const box = qobject_cast<QMessageBox *>(modalWindow())) {
+                shown << box->text() + u'|' + box->informativeText();
+                box->buttons().constFirst()->click();
+            }
+        });
+        m_timer.start(0);
+    }
+
+private:
+    QTimer m_timer;
+};
+
+/// Every alert that a statement queues. One more alert is queued behind them, so that none that was to come is
+/// missed and none is waited for in vain.
+template <typename Statement>
+QString alertsOf(Statement statement)
+{
+    AlertAnswerer answerer;
+    statement();
+    EXPECT_TRUE(answerer.shown.isEmpty()) << "alerts appear in the next modal loop";
+    CUI_ShowAlert(alertStyleWarning, u"(end)"_qs, QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return answerer.shown.contains(u"(end)|"_qs); }));
+    answerer.shown.removeAll(u"(end)|"_qs);
+    return answerer.shown.join(u", "_qs);
+}
+
+/// What the dialog function was called with, as "code tag wndTag", with what `valuesOf` made of the record
+/// behind it. Windows' own events are left out.
 inline QStringList siteCalls;
 /// Called at every event of a site, to answer it or to do harm.
 inline std::function<void(qint64 event)> atEvent;
@@ -23,7 +59,7 @@ inline qint64 lastObject = 0;
 
 inline qint64 recordSite(qint64 event, Tag tag, Tag wndTag, qint64 obj)
 {
-    if (event >= windowEventWillPositionSheet) {
+    if (event >= windowEventWillPositionSheet || event == alertEndedEvent) {
         return 0;
     }
     const QString values = valuesOf ? valuesOf(event) : QString();
@@ -32,11 +68,11 @@ inline qint64 recordSite(qint64 event, Tag tag, Tag wndTag, qint64 obj)
     if (const auto callback = atEvent) {
         callback(event);
     }
-    return 0;
+    return siteCalls.size();
 }
 
 /// The calls since the last time, without those of views that draw.
-inline std::string takeSiteCalls()
+inline QString takeSiteCalls()
 {
     // What one pass over the queue queues is for the next.
     for (int pass = 0; pass < 4; ++pass) {
@@ -48,18 +84,17 @@ inline std::string takeSiteCalls()
                                               splitViewEventDrawDivider, tableViewEventDrawRow};
         return drawing.contains(call.section(u' ', 0, 0).toLongLong());
     });
-    return calls.join(u", "_qs).toStdString();
+    return calls.join(u", "_qs);
 }
 
 /// The same by their codes only.
-inline std::string takeSiteCodes()
+inline QString takeSiteCodes()
 {
-    const QStringList calls = QString::fromStdString(takeSiteCalls()).split(u", "_qs, Qt::SkipEmptyParts);
     QStringList codes;
-    for (const QString &call : calls) {
+    for (const QString &call : takeSiteCalls().split(u", "_qs, Qt::SkipEmptyParts)) {
         codes << call.section(u' ', 0, 0);
     }
-    return codes.join(u' ').toStdString();
+    return codes.join(u' ');
 }
 
 inline void answer(bool yes)
@@ -73,7 +108,7 @@ class SiteTest : public WindowTest
 protected:
     void SetUp() override
     {
-        m_content = open(7);
+        m_content = open(7)->contentView();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_content->window()));
         CUI_SetOnDialogFunction(recordSite);
     }
@@ -82,7 +117,6 @@ protected:
     {
         atEvent = nullptr;
         valuesOf = nullptr;
-        CUI_SetOnDialogFunction(nullptr);
         WindowTest::TearDown();
         siteCalls.clear();
     }
@@ -98,7 +132,35 @@ protected:
         return view;
     }
 
+    /// Makes an object for each event, brings its events about, and deletes it at that one, which
+    /// must come and be survived. `answering` answers the others.
+    template <typename Object>
+    void expectSurvival(
+        const QList<qint64> &events, const std::function<Object *()> &make,
+        const QList<std::function<void(Object *)>> &happenings,
+        const std::function<void(qint64)> &answering = [](qint64) {})
+    {
+        for (const qint64 deadly : events) {
+            SCOPED_TRACE(deadly);
+            const QPointer<Object> victim = make();
+            atEvent = [deadly, answering, &victim](qint64 event) {
+                answering(event);
+                if (event == deadly) {
+                    delete victim;
+                }
+            };
+            for (const auto &happen : happenings) {
+                if (victim) {
+                    happen(victim);
+                    takeSiteCalls();
+                }
+            }
+            EXPECT_FALSE(victim);
+            atEvent = nullptr;
+        }
+    }
+
     QWidget *m_content = nullptr;
 };
 
-} // namespace tetrad::testing_helpers
+} // namespace tetrad

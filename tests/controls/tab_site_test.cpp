@@ -3,11 +3,9 @@
 
 #include <QWheelEvent>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 class TabSite : public SiteTest
 {
@@ -15,13 +13,6 @@ protected:
     void SetUp() override
     {
         SiteTest::SetUp();
-        makeTabs();
-    }
-
-    void makeTabs()
-    {
-        CUI_TabView(4, {u"A"_qs, u"B & C"_qs, u"D"_qs}, QRectF(0, 0, 280, 150));
-        m_tabs = settled<TabView>(4);
         valuesOf = [](qint64 event) {
             const CUI_DialogEvent &record = *CUI_DialogEventObj();
             const QString number = QString::number(record.longVal);
@@ -29,81 +20,63 @@ protected:
         };
     }
 
-    void press(int index)
+    TabView *makeTabs()
     {
-        QTest::mousePress(m_tabs->tabBar(), Qt::LeftButton, {}, m_tabs->tabBar()->tabRect(index).center());
+        CUI_TabView(4, {u"A"_qs, u"B & C"_qs, u"D"_qs}, QRectF(0, 0, 280, 150));
+        return settled<TabView>(4);
     }
-
-    void wheel(int angle)
+    static void press(TabView *tabs)
+    {
+        QTest::mousePress(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
+    }
+    static void wheel(TabView *tabs)
     {
         const QPointF place(5, 5);
-        QWheelEvent event(place, m_tabs->tabBar()->mapToGlobal(place), QPoint(), QPoint(0, angle), Qt::NoButton,
+        QWheelEvent event(place, tabs->tabBar()->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(m_tabs->tabBar(), &event);
+        QApplication::sendEvent(tabs->tabBar(), &event);
     }
-
-    QPointer<TabView> m_tabs;
 };
 
 TEST_F(TabSite, EveryWayOfSelectingIsAskedAboutAndTold)
 {
-    struct Row
-    {
-        const char *name;
-        std::function<void()> select;
+    TabView *const tabs = makeTabs();
+    const Table<std::function<void(TabView *)>> rows = {
+        {"press", press},
+        {"wheel", wheel},
+        {"arrow key", [](TabView *view) { QTest::keyClick(view->tabBar(), Qt::Key_Right); }},
+        {"Ctrl+Tab", [](TabView *view) { QTest::keyClick(view, Qt::Key_Tab, Qt::ControlModifier); }},
     };
-    const QList<Row> rows = {
-        {"press", [this] { press(1); }},
-        {"wheel", [this] { wheel(-120); }},
-        {"arrow key", [this] { QTest::keyClick(m_tabs->tabBar(), Qt::Key_Right); }},
-        {"Ctrl+Tab", [this] { QTest::keyClick(m_tabs, Qt::Key_Tab, Qt::ControlModifier); }},
-    };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
-        row.select();
-        EXPECT_EQ(takeSiteCalls(), "1600 4 7 1 B & C, 1601 4 7 1 B & C, 1602 4 7 1 B & C");
+    for (const auto &[name, select] : rows) {
+        SCOPED_TRACE(name);
+        select(tabs);
+        EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C, 1601 4 7 1 B & C, 1602 4 7 1 B & C"_qs);
         EXPECT_EQ(lastObject, tagFromObject(TabViewPage(4, 1)));
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         TabViewSelectIndex(4, 0);
-        EXPECT_EQ(takeSiteCalls(), "1602 4 7 0 A") << "the program's own selection is not asked about";
+        EXPECT_EQ(takeSiteCalls(), u"1602 4 7 0 A"_qs) << "the program's own selection is not asked about";
         atEvent = [](qint64) { answer(true); };
-        row.select();
-        EXPECT_EQ(takeSiteCalls(), "1600 4 7 1 B & C") << "refused";
+        select(tabs);
+        EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C"_qs) << "refused";
         EXPECT_EQ(TabViewSelectedIndex(4), 0);
         atEvent = nullptr;
     }
-}
-
-TEST_F(TabSite, TellsHowManyTabsThereAre)
-{
-    m_tabs->removeTab(2);
-    EXPECT_EQ(takeSiteCalls(), "1603 4 7 2");
+    tabs->removeTab(2);
+    EXPECT_EQ(takeSiteCalls(), u"1603 4 7 2"_qs);
 }
 
 TEST_F(TabSite, SurvivesBeingDeletedOrLosingThePage)
 {
-    for (const qint64 deadly : {1600, 1601, 1602}) {
-        atEvent = [&](qint64 event) {
-            if (event == deadly) {
-                delete m_tabs;
-            }
-        };
-        press(1);
-        takeSiteCalls();
-        EXPECT_FALSE(m_tabs) << deadly;
-        atEvent = nullptr;
-        makeTabs();
-    }
-    atEvent = [this](qint64 event) {
+    expectSurvival<TabView>({1600, 1601, 1602}, [this] { return makeTabs(); }, {press});
+    TabView *const tabs = makeTabs();
+    atEvent = [tabs](qint64 event) {
         if (event == tabViewEventWillSelect) {
-            delete m_tabs->widget(1);
+            delete tabs->widget(1);
         }
     };
-    press(1);
+    press(tabs);
     takeSiteCalls();
-    EXPECT_EQ(m_tabs->count(), 2);
+    EXPECT_EQ(tabs->count(), 2);
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -7,11 +7,9 @@
 #include <QLineEdit>
 #include <QPainter>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 QStringList callbackCalls;
 
@@ -22,6 +20,38 @@ qint64 ownDelegate(Tag tag, qint64 event)
     return 5;
 }
 
+void fillTable(qint64 event)
+{
+    CUI_DialogEvent &record = *CUI_DialogEventObj();
+    switch (event) {
+    case tableViewEventRowCount:
+        record.longVal = 3;
+        break;
+    case tableViewEventValue:
+        record.object = QString(QString::number(record.longVal) + u'.' + record.tableColumnObj.toString());
+        break;
+    case tableViewEventRowHeight:
+        record.doubleVal = record.longVal == 1 ? 41 : record.doubleVal;
+        break;
+    case tableViewEventShouldEdit:
+        answer(record.tableColumnObj == 1);
+        break;
+    case tableHeaderEventTextColor:
+        record.colorObj = Qt::red;
+        break;
+    case tableHeaderEventFont:
+        record.fontObj.setItalic(record.tableColumnObj == 1);
+        break;
+    default:
+        break;
+    }
+}
+
+void pressRow(TableView *table, int row)
+{
+    QTest::mousePress(table->viewport(), Qt::LeftButton, {}, table->visualItemRect(table->item(row, 0)).center());
+}
+
 /// Table 3 of two columns and three rows, whose cells say "row.column".
 class TableSite : public SiteTest
 {
@@ -29,60 +59,22 @@ protected:
     void SetUp() override
     {
         SiteTest::SetUp();
-        makeTable();
-    }
-
-    void makeTable()
-    {
-        atEvent = fill;
-        CUI_TableView(3, {u"A"_qs, u"B"_qs}, QRectF(0, 0, 260, 180));
-        m_table = settled<TableView>(3);
+        m_table = makeTable();
         valuesOf = [](qint64 event) {
             const CUI_DialogEvent &record = *CUI_DialogEventObj();
             const QString row = QString::number(record.longVal);
             const QString column = record.tableColumnObj.toString();
-            switch (event) {
-            case tableViewEventColumnClicked:
-                return column;
-            case tableViewEventDidEdit:
-                return QString(row + u'.' + column + u'=' + record.object.toString());
-            default:
-                return row;
-            }
+            return event == tableViewEventColumnClicked ? column
+                   : event == tableViewEventDidEdit     ? QString(row + u'.' + column + u'=' + record.object.toString())
+                                                        : row;
         };
     }
 
-    static void fill(qint64 event)
+    TableView *makeTable()
     {
-        CUI_DialogEvent &record = *CUI_DialogEventObj();
-        switch (event) {
-        case tableViewEventRowCount:
-            record.longVal = 3;
-            break;
-        case tableViewEventValue:
-            record.object = QString(QString::number(record.longVal) + u'.' + record.tableColumnObj.toString());
-            break;
-        case tableViewEventRowHeight:
-            record.doubleVal = record.longVal == 1 ? 41 : record.doubleVal;
-            break;
-        case tableViewEventShouldEdit:
-            answer(record.tableColumnObj == 1);
-            break;
-        case tableHeaderEventTextColor:
-            record.colorObj = Qt::red;
-            break;
-        case tableHeaderEventFont:
-            record.fontObj.setItalic(record.tableColumnObj == 1);
-            break;
-        default:
-            break;
-        }
-    }
-
-    void press(int row)
-    {
-        const QPoint place = m_table->visualItemRect(m_table->item(row, 0)).center();
-        QTest::mousePress(m_table->viewport(), Qt::LeftButton, {}, place);
+        atEvent = fillTable;
+        CUI_TableView(3, {u"A"_qs, u"B"_qs}, QRectF(0, 0, 260, 180));
+        return settled<TableView>(3);
     }
 
     QPointer<TableView> m_table;
@@ -112,16 +104,16 @@ TEST_F(TableSite, ShowsWhatTheProgramAnswers)
 TEST_F(TableSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
 {
     m_table->setFocus();
-    press(1);
-    EXPECT_EQ(takeSiteCalls(), "1706 3 7 1, 1707 3 7 1");
+    pressRow(m_table, 1);
+    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 1, 1707 3 7 1"_qs);
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
     QTest::keyClick(m_table, Qt::Key_Down);
-    EXPECT_EQ(takeSiteCalls(), "1706 3 7 2, 1707 3 7 2");
+    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 2, 1707 3 7 2"_qs);
     atEvent = [](qint64) { answer(true); };
-    press(0);
+    pressRow(m_table, 0);
     QTest::keyClick(m_table, Qt::Key_Home);
     QTest::keyClick(m_table, Qt::Key_Up);
-    EXPECT_EQ(takeSiteCodes(), "1706 1706");
+    EXPECT_EQ(takeSiteCodes(), u"1706 1706"_qs);
     EXPECT_EQ(TableViewSelectedRow(3), 2) << "refused";
 }
 
@@ -134,11 +126,10 @@ TEST_F(TableSite, EditsAndColumnClicksAreTold)
     ASSERT_TRUE(editor);
     editor->setText(u"new"_qs);
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_EQ(takeSiteCalls(), "1705 3 7 1.1=new");
+    EXPECT_EQ(takeSiteCalls(), u"1705 3 7 1.1=new"_qs);
     QHeaderView *const header = m_table->horizontalHeader();
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 10, 5));
-    const std::string calls = takeSiteCalls();
-    EXPECT_NE(calls.find("1708 3 7 1"), std::string::npos) << calls;
+    EXPECT_TRUE(takeSiteCalls().contains(u"1708 3 7 1"_qs));
 }
 
 TEST_F(TableSite, RowsDrawBehindTheirCells)
@@ -158,41 +149,26 @@ TEST_F(TableSite, RowsDrawBehindTheirCells)
 TEST_F(TableSite, ADelegateCallbackTakesThePlaceOfTheDialogFunction)
 {
     setDelegateCallback(m_table, ownDelegate);
-    callbackCalls.clear();
     EXPECT_EQ(CUI_TableViewDelegateObj()->forwardEvent(m_table, 1799, 0), 5);
     TableViewReloadData(3);
-    EXPECT_EQ(callbackCalls.value(0), u"3 1799"_qs);
-    EXPECT_EQ(callbackCalls.value(1), u"3 1700"_qs);
+    EXPECT_EQ(callbackCalls.mid(0, 2).join(u", "_qs), u"3 1799, 3 1700"_qs);
     EXPECT_EQ(m_table->rowCount(), 1);
-    EXPECT_EQ(takeSiteCalls(), "");
+    EXPECT_EQ(takeSiteCalls(), QString());
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
 }
 
-TEST_F(TableSite, SurvivesBeingDeletedAtEveryQuestion)
+TEST_F(TableSite, SurvivesBeingDeletedAtEveryQuestionOrReloadedInTheMiddle)
 {
-    for (const qint64 deadly : {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300}) {
-        SCOPED_TRACE(deadly);
-        atEvent = [&](qint64 event) {
-            fill(event);
-            if (event == deadly) {
-                delete m_table;
-            }
-        };
-        TableViewReloadData(3);
-        if (m_table) {
-            press(1);
-        }
-        takeSiteCalls();
-        EXPECT_FALSE(m_table);
-        makeTable();
-    }
-}
-
-TEST_F(TableSite, SurvivesBeingReloadedWhileItReloads)
-{
+    delete m_table;
+    const auto reload = [](TableView *) { TableViewReloadData(3); };
+    const auto press = [](TableView *table) { pressRow(table, 1); };
+    expectSurvival<TableView>(
+        {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300}, [this] { return makeTable(); }, {reload, press},
+        fillTable);
+    const TableView *const table = makeTable();
     int rows = 3;
     atEvent = [&rows](qint64 event) {
-        fill(event);
+        fillTable(event);
         if (event == tableViewEventRowCount) {
             CUI_DialogEventObj()->longVal = rows;
         } else if (event == tableViewEventValue && rows == 3) {
@@ -201,112 +177,100 @@ TEST_F(TableSite, SurvivesBeingReloadedWhileItReloads)
         }
     };
     TableViewReloadData(3);
-    EXPECT_EQ(m_table->rowCount(), 1);
+    EXPECT_EQ(table->rowCount(), 1);
 }
 
-/// Outline 5: every item is the text of its path, has two children and no end.
+/// Every item is the text of its path, has two children and no end.
+void fillOutline(qint64 event)
+{
+    CUI_DialogEvent &record = *CUI_DialogEventObj();
+    const QString path = record.object.toString();
+    if (event == outlineViewEventChildCount) {
+        record.longVal = 2;
+    } else if (event == outlineViewEventChild) {
+        record.object = QString(path + u'/' + QString::number(record.longVal));
+    } else if (event == outlineViewEventText) {
+        record.stringObj = record.tableColumnObj == 0 ? path : u"kind"_qs;
+    }
+}
+
+void pressFirst(OutlineView *outline)
+{
+    const QPoint place = outline->visualItemRect(outline->topLevelItem(0)).center();
+    QTest::mousePress(outline->viewport(), Qt::LeftButton, {}, place);
+}
+
 class OutlineSite : public SiteTest
 {
 protected:
-    void SetUp() override
+    OutlineView *makeOutline()
     {
-        SiteTest::SetUp();
-        makeOutline();
-    }
-
-    void makeOutline()
-    {
-        atEvent = fill;
+        atEvent = fillOutline;
         CUI_OutlineView(5, {u"Name"_qs, u"Kind"_qs}, QRectF(0, 0, 280, 180));
-        m_outline = settled<OutlineView>(5);
         valuesOf = [](qint64) { return CUI_DialogEventObj()->object.toString(); };
+        return settled<OutlineView>(5);
     }
-
-    static void fill(qint64 event)
-    {
-        CUI_DialogEvent &record = *CUI_DialogEventObj();
-        const QString path = record.object.toString();
-        if (event == outlineViewEventChildCount) {
-            record.longVal = 2;
-        } else if (event == outlineViewEventChild) {
-            record.object = QString(path + u'/' + QString::number(record.longVal));
-        } else if (event == outlineViewEventText) {
-            record.stringObj = record.tableColumnObj == 0 ? path : u"kind"_qs;
-        }
-    }
-
-    void press(QTreeWidgetItem *item)
-    {
-        QTest::mousePress(m_outline->viewport(), Qt::LeftButton, {}, m_outline->visualItemRect(item).center());
-    }
-
-    QPointer<OutlineView> m_outline;
 };
 
 TEST_F(OutlineSite, AsksForChildrenWhenTheirParentIsOpenedFirst)
 {
-    ASSERT_EQ(m_outline->topLevelItemCount(), 2);
-    QTreeWidgetItem *const item = m_outline->topLevelItem(1);
+    const OutlineView *const outline = makeOutline();
+    ASSERT_EQ(outline->topLevelItemCount(), 2);
+    QTreeWidgetItem *const item = outline->topLevelItem(1);
     EXPECT_EQ(item->text(0), u"/1"_qs);
     EXPECT_EQ(item->text(1), u"kind"_qs);
     EXPECT_EQ(item->childCount(), 0);
     item->setExpanded(true);
-    const std::string calls = takeSiteCalls();
+    EXPECT_TRUE(takeSiteCalls().endsWith(u"1803 5 7 /1"_qs));
     ASSERT_EQ(item->childCount(), 2);
     EXPECT_EQ(item->child(0)->text(0), u"/1/0"_qs);
-    EXPECT_TRUE(QString::fromStdString(calls).endsWith(u"1803 5 7 /1"_qs)) << calls;
     item->setExpanded(false);
-    EXPECT_EQ(takeSiteCalls(), "1804 5 7 /1");
+    EXPECT_EQ(takeSiteCalls(), u"1804 5 7 /1"_qs);
     item->setExpanded(true);
-    EXPECT_EQ(takeSiteCalls(), "1803 5 7 /1") << "the children are there already";
+    EXPECT_EQ(takeSiteCalls(), u"1803 5 7 /1"_qs) << "the children are there already";
 }
 
 TEST_F(OutlineSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
 {
-    m_outline->setFocus();
-    press(m_outline->topLevelItem(0));
-    EXPECT_EQ(takeSiteCalls(), "1805 5 7 /0, 1806 5 7 /0");
-    QTest::keyClick(m_outline, Qt::Key_Down);
-    EXPECT_EQ(takeSiteCalls(), "1805 5 7 /1, 1806 5 7 /1");
+    OutlineView *const outline = makeOutline();
+    outline->setFocus();
+    pressFirst(outline);
+    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1806 5 7 /0"_qs);
+    QTest::keyClick(outline, Qt::Key_Down);
+    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /1, 1806 5 7 /1"_qs);
     atEvent = [](qint64) { answer(true); };
-    QTest::keyClick(m_outline, Qt::Key_Up);
-    press(m_outline->topLevelItem(0));
-    EXPECT_EQ(takeSiteCalls(), "1805 5 7 /0, 1805 5 7 /0");
-    EXPECT_EQ(m_outline->selectedObject(), u"/1"_qs);
+    QTest::keyClick(outline, Qt::Key_Up);
+    pressFirst(outline);
+    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1805 5 7 /0"_qs);
+    EXPECT_EQ(outline->selectedObject(), u"/1"_qs);
 }
 
 TEST_F(OutlineSite, SurvivesBeingDeletedOrReloadedAtEveryQuestion)
 {
-    for (const bool deletes : {true, false}) {
-        for (const qint64 dangerous : {1800, 1801, 1802, 1803, 1804, 1805, 1806}) {
-            SCOPED_TRACE(dangerous);
-            bool harmed = false;
-            atEvent = [&](qint64 event) {
-                fill(event);
-                if (event != dangerous || std::exchange(harmed, true)) {
-                    return;
-                }
-                if (deletes) {
-                    delete m_outline;
-                } else {
-                    OutlineViewReloadData(5);
-                }
-            };
-            m_outline->topLevelItem(1)->setExpanded(true);
-            takeSiteCalls();
-            if (m_outline && m_outline->topLevelItem(1)) {
-                m_outline->topLevelItem(1)->setExpanded(false);
-                press(m_outline->topLevelItem(0));
-                takeSiteCalls();
+    const auto make = [this] { return makeOutline(); };
+    const auto expand = [](OutlineView *outline) { outline->topLevelItem(1)->setExpanded(true); };
+    const auto collapse = [](OutlineView *outline) { outline->topLevelItem(1)->setExpanded(false); };
+    const QList<std::function<void(OutlineView *)>> happenings = {expand, collapse, pressFirst};
+    const QList<qint64> events = {1800, 1801, 1802, 1803, 1804, 1805, 1806};
+    expectSurvival<OutlineView>(events, make, happenings, fillOutline);
+    for (const qint64 dangerous : events) {
+        SCOPED_TRACE(dangerous);
+        OutlineView *const outline = makeOutline();
+        bool harmed = false;
+        atEvent = [dangerous, &harmed](qint64 event) {
+            fillOutline(event);
+            if (event == dangerous && !std::exchange(harmed, true)) {
+                OutlineViewReloadData(5);
             }
-            EXPECT_TRUE(harmed || (!deletes && dangerous == 1804));
-            EXPECT_EQ(bool(m_outline), !deletes);
-            delete m_outline;
-            makeOutline();
+        };
+        for (const auto &happen : happenings) {
+            happen(outline);
+            takeSiteCalls();
         }
+        EXPECT_EQ(outline->topLevelItemCount(), 2);
+        EXPECT_TRUE(harmed);
+        delete outline;
     }
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -4,30 +4,29 @@
 #include <QClipboard>
 #include <QMenu>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
 
-using namespace testing_helpers;
+void select(TextView *view, int from, int to)
+{
+    QTextCursor cursor = view->textCursor();
+    cursor.setPosition(from);
+    cursor.setPosition(to, QTextCursor::KeepAnchor);
+    view->setTextCursor(cursor);
+}
 
-/// Text view 6 with "one two", the cursor after "one".
 class TextSite : public SiteTest
 {
 protected:
-    void SetUp() override
+    /// Text view 6 with "one two", a part of it selected.
+    TextView *makeText(int from = 3, int to = 3)
     {
-        SiteTest::SetUp();
-        makeText();
-    }
-
-    void makeText()
-    {
-        valuesOf = nullptr;
         CUI_TextView(6, u"one two"_qs, QRectF(0, 0, 200, 100));
-        m_text = settled<TextView>(6);
-        m_text->setFocus();
-        m_text->setPlainText(u"one two"_qs);
-        select(3, 3);
+        auto *const text = settled<TextView>(6);
+        text->setFocus();
+        text->setPlainText(u"one two"_qs);
+        select(text, from, to);
         takeSiteCalls();
         valuesOf = [](qint64 event) {
             const CUI_DialogEvent &record = *CUI_DialogEventObj();
@@ -36,125 +35,79 @@ protected:
                    : event == textViewEventSelectionChanged ? range
                                                             : QString();
         };
+        return text;
     }
-
-    void select(int from, int to)
-    {
-        QTextCursor cursor = m_text->textCursor();
-        cursor.setPosition(from);
-        cursor.setPosition(to, QTextCursor::KeepAnchor);
-        m_text->setTextCursor(cursor);
-    }
-
-    QPointer<TextView> m_text;
 };
 
 TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
 {
-    struct Row
-    {
-        const char *name;
-        int from;
-        int to;
-        std::function<void(TextView *)> act;
-        const char *question;
-        const char *result;
-    };
-    const auto key = [](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) {
+    using Act = std::function<void(TextView *)>;
+    const auto key = [](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) -> Act {
         return [code, modifiers](TextView *view) { QTest::keyClick(view, code, modifiers); };
     };
-    const Row rows[] = {
-        {"typing", 3, 3, [](TextView *view) { QTest::keyClicks(view, u"x"_qs); }, "3+0=x", "onex two"},
-        {"over a selection", 0, 3, [](TextView *view) { QTest::keyClicks(view, u"x"_qs); }, "0+3=x", "x two"},
-        {"Return", 3, 3, key(Qt::Key_Return), "3+0=\n", "one\n two"},
-        {"Backspace", 3, 3, key(Qt::Key_Backspace), "2+1=", "on two"},
-        {"Delete", 3, 3, key(Qt::Key_Delete), "3+1=", "onetwo"},
-        {"Delete of a selection", 0, 4, key(Qt::Key_Delete), "0+4=", "two"},
-        {"word before", 3, 3, key(Qt::Key_Backspace, Qt::ControlModifier), "0+3=", " two"},
-        {"Cut key", 0, 3, key(Qt::Key_X, Qt::ControlModifier), "0+3=", " two"},
-        {"Cut command", 0, 3, [](TextView *view) { QMetaObject::invokeMethod(view, "cut"); }, "0+3=", " two"},
-        {"Delete command", 0, 3, [](TextView *view) { QMetaObject::invokeMethod(view, "del"); }, "0+3=", " two"},
-        {"Paste", 3, 3,
-         [](TextView *view) {
-             QGuiApplication::clipboard()->setText(u"ab"_qs);
-             QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
-         },
-         "3+0=ab", "oneab two"},
+    const auto command = [](const char *name) -> Act {
+        return [name](TextView *view) { QMetaObject::invokeMethod(view, name); };
     };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.name);
+    const auto menuItem = [](const QString &name) -> Act {
+        return [name](TextView *view) {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+            QApplication::sendEvent(view->viewport(), &event);
+            auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            ASSERT_TRUE(menu && menu->findChild<QAction *>(name));
+            menu->findChild<QAction *>(name)->trigger();
+            menu->close();
+        };
+    };
+    const Act typing = [](TextView *view) { QTest::keyClicks(view, u"x"_qs); };
+    QGuiApplication::clipboard()->setText(u"ab"_qs);
+    const Table<int, int, Act, QString, QString> rows = {
+        {"typing", 3, 3, typing, u"3+0=x"_qs, u"onex two"_qs},
+        {"over a selection", 0, 3, typing, u"0+3=x"_qs, u"x two"_qs},
+        {"Return", 3, 3, key(Qt::Key_Return), u"3+0=\n"_qs, u"one\n two"_qs},
+        {"Backspace", 3, 3, key(Qt::Key_Backspace), u"2+1="_qs, u"on two"_qs},
+        {"Delete", 3, 3, key(Qt::Key_Delete), u"3+1="_qs, u"onetwo"_qs},
+        {"Delete of a selection", 0, 4, key(Qt::Key_Delete), u"0+4="_qs, u"two"_qs},
+        {"word before", 3, 3, key(Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_qs, u" two"_qs},
+        {"Paste", 3, 3, key(Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_qs, u"oneab two"_qs},
+        {"Cut key", 0, 3, key(Qt::Key_X, Qt::ControlModifier), u"0+3="_qs, u" two"_qs},
+        {"Cut command", 0, 3, command("cut"), u"0+3="_qs, u" two"_qs},
+        {"Delete command", 0, 3, command("del"), u"0+3="_qs, u" two"_qs},
+        {"Cut in the context menu", 0, 3, menuItem(u"edit-cut"_qs), u"0+3="_qs, u" two"_qs},
+        {"Delete in the context menu", 0, 3, menuItem(u"edit-delete"_qs), u"0+3="_qs, u" two"_qs},
+    };
+    for (const auto &[name, from, to, act, question, result] : rows) {
+        SCOPED_TRACE(name);
         for (const bool refuses : {true, false}) {
-            makeText();
-            select(row.from, row.to);
-            takeSiteCalls();
+            TextView *const text = makeText(from, to);
             atEvent = [refuses](qint64 event) { answer(refuses && event == textViewEventRefuseChange); };
-            row.act(m_text);
-            EXPECT_EQ(siteCalls.value(0), u"2100 6 7 "_qs + QLatin1StringView(row.question));
-            EXPECT_EQ(TextViewString(6), refuses ? u"one two"_qs : QString::fromLatin1(row.result));
-            const std::string codes = takeSiteCodes();
-            EXPECT_EQ(codes.find("2101") == std::string::npos, refuses) << codes;
+            act(text);
+            EXPECT_EQ(siteCalls.value(0), u"2100 6 7 "_qs + question);
+            EXPECT_EQ(TextViewString(6), refuses ? u"one two"_qs : result);
+            EXPECT_EQ(takeSiteCodes().contains(u"2101"_qs), !refuses);
         }
     }
 }
 
 TEST_F(TextSite, SelectionAndEditingAreTold)
 {
-    select(0, 3);
-    EXPECT_EQ(takeSiteCalls(), "2102 6 7 0+3");
-    QTest::keyClick(m_text, Qt::Key_Right);
-    EXPECT_EQ(takeSiteCalls(), "2102 6 7 3+0") << "moving changes nothing";
-    m_text->clearFocus();
-    EXPECT_EQ(takeSiteCalls(), "2104 6 7");
-    m_text->setFocus();
-    EXPECT_EQ(takeSiteCalls(), "2103 6 7");
+    TextView *const text = makeText();
+    select(text, 0, 3);
+    EXPECT_EQ(takeSiteCalls(), u"2102 6 7 0+3"_qs);
+    QTest::keyClick(text, Qt::Key_Right);
+    EXPECT_EQ(takeSiteCalls(), u"2102 6 7 3+0"_qs) << "moving changes nothing";
+    text->clearFocus();
+    EXPECT_EQ(takeSiteCalls(), u"2104 6 7"_qs);
+    text->setFocus();
+    EXPECT_EQ(takeSiteCalls(), u"2103 6 7"_qs);
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
-}
-
-TEST_F(TextSite, TheContextMenuCutsOnlyWithLeave)
-{
-    select(0, 3);
-    takeSiteCalls();
-    atEvent = [](qint64) { answer(true); };
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
-    QApplication::sendEvent(m_text->viewport(), &event);
-    auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    ASSERT_TRUE(menu);
-    for (const QString &name : {u"edit-cut"_qs, u"edit-delete"_qs}) {
-        auto *const action = menu->findChild<QAction *>(name);
-        ASSERT_TRUE(action) << qUtf8Printable(name);
-        action->trigger();
-        EXPECT_EQ(siteCalls.value(0), u"2100 6 7 0+3="_qs);
-        EXPECT_EQ(TextViewString(6), u"one two"_qs);
-        takeSiteCalls();
-    }
-    menu->close();
 }
 
 TEST_F(TextSite, SurvivesBeingDeletedAtEveryEvent)
 {
-    for (const qint64 deadly : {2100, 2101, 2102, 2103, 2104}) {
-        atEvent = [&](qint64 event) {
-            if (event == deadly) {
-                delete m_text;
-            }
-        };
-        QTest::keyPress(m_text, Qt::Key_X);
-        takeSiteCalls();
-        if (m_text) {
-            select(0, 2);
-            takeSiteCalls();
-        }
-        if (m_text) {
-            m_text->clearFocus();
-            m_text->setFocus();
-            takeSiteCalls();
-        }
-        EXPECT_FALSE(m_text) << deadly;
-        atEvent = nullptr;
-        makeText();
-    }
+    expectSurvival<TextView>({2100, 2101, 2102, 2103, 2104}, [this] { return makeText(); },
+                             {[](TextView *view) { QTest::keyPress(view, Qt::Key_X); },
+                              [](TextView *view) { select(view, 0, 2); }, [](TextView *view) { view->clearFocus(); },
+                              [](TextView *view) { view->setFocus(); }});
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -4,11 +4,9 @@
 
 #include <QAbstractItemView>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 /// Token field 6 with the words "a" and "b".
 class TokenSite : public SiteTest
@@ -17,15 +15,6 @@ protected:
     void SetUp() override
     {
         SiteTest::SetUp();
-        makeField();
-    }
-
-    void makeField()
-    {
-        CUI_TokenField(6, {u"a"_qs, u"b"_qs}, QRectF(0, 0, 200, 30));
-        m_field = settled<TokenField>(6);
-        m_field->setFocus();
-        takeSiteCalls();
         valuesOf = [](qint64 event) {
             const CUI_DialogEvent &record = *CUI_DialogEventObj();
             return event == tokenFieldEventCompletions ? record.stringObj
@@ -34,26 +23,34 @@ protected:
         };
     }
 
-    QPointer<TokenField> m_field;
+    TokenField *makeField()
+    {
+        CUI_TokenField(6, {u"a"_qs, u"b"_qs}, QRectF(0, 0, 200, 30));
+        auto *const field = settled<TokenField>(6);
+        field->setFocus();
+        takeSiteCalls();
+        return field;
+    }
 };
 
 TEST_F(TokenSite, AWordIsAskedAboutWhenItEndsAndTheFieldTold)
 {
-    QTest::keyClicks(m_field, u"c,"_qs);
-    EXPECT_EQ(takeSiteCalls(), "2301 6 7 c, 2302 6 7 a|b|c");
-    EXPECT_EQ(m_field->text(), u"a, b, c, "_qs);
-    QTest::keyClicks(m_field, u"d"_qs);
-    EXPECT_EQ(takeSiteCalls(), "2300 6 7 d");
-    QTest::keyClick(m_field, Qt::Key_Return);
-    EXPECT_EQ(takeSiteCalls(), "2301 6 7 d, 2302 6 7 a|b|c|d, 1 6 7");
+    TokenField *const field = makeField();
+    QTest::keyClicks(field, u"c,"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2301 6 7 c, 2302 6 7 a|b|c"_qs);
+    EXPECT_EQ(field->text(), u"a, b, c, "_qs);
+    QTest::keyClicks(field, u"d"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2300 6 7 d"_qs);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(takeSiteCalls(), u"2301 6 7 d, 2302 6 7 a|b|c|d, 1 6 7"_qs);
     atEvent = [](qint64 event) {
         if (event == tokenFieldEventAddTokens) {
             CUI_DialogEventObj()->arrayObj.clear();
         }
     };
-    QTest::keyClicks(m_field, u"e"_qs);
-    m_field->clearFocus();
-    EXPECT_EQ(takeSiteCodes(), "2300 2301");
+    QTest::keyClicks(field, u"e"_qs);
+    field->clearFocus();
+    EXPECT_EQ(takeSiteCodes(), u"2300 2301"_qs);
     EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|c|d"_qs) << "refused";
 }
 
@@ -64,37 +61,22 @@ TEST_F(TokenSite, OffersTheProgramsCompletions)
             CUI_DialogEventObj()->arrayObj = {u"candle"_qs, u"cat"_qs};
         }
     };
-    QTest::keyClicks(m_field, u"c"_qs);
+    QTest::keyClicks(makeField(), u"c"_qs);
     takeSiteCalls();
     QWidget *const list = QApplication::activePopupWidget();
     ASSERT_TRUE(list);
-    QTest::keyClick(list, Qt::Key_Down);
-    QTest::keyClick(list, Qt::Key_Down);
-    QTest::keyClick(list, Qt::Key_Return);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}) {
+        QTest::keyClick(list, key);
+    }
     takeSiteCalls();
     EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|cat"_qs);
 }
 
 TEST_F(TokenSite, SurvivesBeingDeletedAtEveryEvent)
 {
-    for (const qint64 deadly : {2300, 2301, 2302, 1}) {
-        atEvent = [&](qint64 event) {
-            if (event == deadly) {
-                delete m_field;
-            }
-        };
-        QTest::keyPress(m_field, Qt::Key_X);
-        takeSiteCalls();
-        if (m_field) {
-            QTest::keyPress(m_field, Qt::Key_Return);
-            takeSiteCalls();
-        }
-        EXPECT_FALSE(m_field) << deadly;
-        atEvent = nullptr;
-        makeField();
-    }
+    expectSurvival<TokenField>({2300, 2301, 2302, 1}, [this] { return makeField(); },
+                               {[](TokenField *field) { QTest::keyPress(field, Qt::Key_X); },
+                                [](TokenField *field) { QTest::keyPress(field, Qt::Key_Return); }});
 }
 
 } // namespace
-
-} // namespace tetrad

@@ -10,11 +10,9 @@
 #include <QMimeData>
 #include <QPainter>
 
-namespace tetrad {
+using namespace tetrad;
 
 namespace {
-
-using namespace testing_helpers;
 
 class ViewSite : public SiteTest
 {
@@ -22,75 +20,77 @@ protected:
     void SetUp() override
     {
         SiteTest::SetUp();
-        CUI_ViewSubclass(5, QRectF(10, 10, 100, 80));
-        m_view = settled<ViewSC>(5);
+        m_view = makeView();
     }
 
-    ViewSC *m_view = nullptr;
+    ViewSC *makeView(Tag tag = 5)
+    {
+        CUI_ViewSubclass(tag, QRectF(10, tag == 5 ? 10 : 100, 100, 80));
+        return settled<ViewSC>(tag);
+    }
+
+    QPointer<ViewSC> m_view;
 };
 
-void move(QWidget *view, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons)
+using Happening = std::function<void(ViewSC *)>;
+
+Happening mouse(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons)
 {
-    const QPointF place(20, 30);
-    QMouseEvent event(type, place, view->mapToGlobal(place), button, buttons, Qt::NoModifier);
+    return [=](ViewSC *view) { sendMouse(view, type, QPointF(20, 30), button, buttons); };
+}
+
+Happening key(QEvent::Type type, Qt::Key code)
+{
+    return [=](ViewSC *view) {
+        QKeyEvent event(type, code, Qt::NoModifier, QStringLiteral("x"));
+        QApplication::sendEvent(view, &event);
+    };
+}
+
+void askForMenu(ViewSC *view)
+{
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
     QApplication::sendEvent(view, &event);
 }
 
-void key(QWidget *view, QEvent::Type type, Qt::Key code)
+const Table<qint64, Happening> &happenings()
 {
-    QKeyEvent event(type, code, Qt::NoModifier, QStringLiteral("x"));
-    QApplication::sendEvent(view, &event);
-}
-
-struct Happening
-{
-    const char *name;
-    qint64 code;
-    std::function<void(QWidget *)> happen;
-};
-
-const QList<Happening> &happenings()
-{
-    static const QList<Happening> all = {
+    static const Table<qint64, Happening> all = {
         {"left down", 2002, [](QWidget *v) { QTest::mousePress(v, Qt::LeftButton); }},
-        {"left drag", 2003, [](QWidget *v) { move(v, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton); }},
+        {"left drag", 2003, mouse(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton)},
         {"left up", 2004, [](QWidget *v) { QTest::mouseRelease(v, Qt::LeftButton); }},
-        {"move", 2005, [](QWidget *v) { move(v, QEvent::MouseMove, Qt::NoButton, Qt::NoButton); }},
+        {"move", 2005, mouse(QEvent::MouseMove, Qt::NoButton, Qt::NoButton)},
         {"right down", 2008, [](QWidget *v) { QTest::mousePress(v, Qt::RightButton); }},
-        {"right drag", 2009, [](QWidget *v) { move(v, QEvent::MouseMove, Qt::NoButton, Qt::RightButton); }},
+        {"right drag", 2009, mouse(QEvent::MouseMove, Qt::NoButton, Qt::RightButton)},
         {"right up", 2010, [](QWidget *v) { QTest::mouseRelease(v, Qt::RightButton); }},
-        {"key down", 2011, [](QWidget *v) { key(v, QEvent::KeyPress, Qt::Key_A); }},
-        {"Tab down", 2011, [](QWidget *v) { key(v, QEvent::KeyPress, Qt::Key_Tab); }},
-        {"key up", 2012, [](QWidget *v) { key(v, QEvent::KeyRelease, Qt::Key_A); }},
-        {"Shift down", 2013, [](QWidget *v) { key(v, QEvent::KeyPress, Qt::Key_Shift); }},
-        {"Shift up", 2013, [](QWidget *v) { key(v, QEvent::KeyRelease, Qt::Key_Shift); }},
-        {"double click", 2002,
-         [](QWidget *v) { move(v, QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton); }},
-        {"menu", 2026,
-         [](QWidget *v) {
-             QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
-             QApplication::sendEvent(v, &event);
-         }},
+        {"key down", 2011, key(QEvent::KeyPress, Qt::Key_A)},
+        {"Tab down", 2011, key(QEvent::KeyPress, Qt::Key_Tab)},
+        {"key up", 2012, key(QEvent::KeyRelease, Qt::Key_A)},
+        {"Shift down", 2013, key(QEvent::KeyPress, Qt::Key_Shift)},
+        {"Shift up", 2013, key(QEvent::KeyRelease, Qt::Key_Shift)},
+        {"double click", 2002, mouse(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton)},
+        {"menu", 2026, askForMenu},
     };
     return all;
 }
 
-TEST_F(ViewSite, EveryEventCarriesItsCodeTagsAndPlatformEvent)
+TEST_F(ViewSite, EveryEventCarriesItsCodeTagsAndPlatformEventAndMayDeleteTheView)
 {
     m_view->setFocus();
     takeSiteCalls();
-    for (const Happening &row : happenings()) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, code, happen] : happenings()) {
+        SCOPED_TRACE(name);
         bool isCurrent = false;
         atEvent = [&isCurrent](qint64 event) {
             isCurrent = event != viewEventAcceptsFirstResponder && CUI_EventEvent() == eventFromTag(lastObject);
         };
         CUI_OutputWindowSetTag(0);
-        row.happen(m_view);
-        EXPECT_EQ(takeSiteCalls(), std::to_string(row.code) + " 5 7");
+        happen(m_view);
+        EXPECT_EQ(takeSiteCalls(), QString::number(code) + u" 5 7"_qs);
         EXPECT_TRUE(isCurrent);
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         EXPECT_FALSE(CUI_EventEvent());
+        expectSurvival<ViewSC>({code}, [this] { return makeView(6); }, {happen});
     }
 }
 
@@ -109,30 +109,14 @@ TEST_F(ViewSite, OnlyUnhandledEventsGetTheirDefaultHandling)
     m_content->installEventFilter(&listener);
     for (const bool handles : {false, true}) {
         atEvent = [handles](qint64 event) { answer(handles && event != viewEventAcceptsFirstResponder); };
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::KeyPress}) {
+        for (const auto &[type, happen] : std::vector<std::pair<QEvent::Type, Happening>>{
+                 {QEvent::MouseButtonPress, mouse(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton)},
+                 {QEvent::MouseMove, mouse(QEvent::MouseMove, Qt::LeftButton, Qt::LeftButton)},
+                 {QEvent::KeyPress, key(QEvent::KeyPress, Qt::Key_A)}}) {
             listener.seen.clear();
-            type == QEvent::KeyPress ? key(m_view, type, Qt::Key_A)
-                                     : move(m_view, type, Qt::LeftButton, Qt::LeftButton);
+            happen(m_view);
             EXPECT_EQ(listener.seen.contains(type), !handles) << type;
         }
-    }
-}
-
-TEST_F(ViewSite, SurvivesBeingDeletedByEveryEventItReports)
-{
-    for (const Happening &row : happenings()) {
-        SCOPED_TRACE(row.name);
-        CUI_ViewSubclass(6, QRectF(0, 100, 50, 50));
-        QPointer<ViewSC> victim = settled<ViewSC>(6);
-        atEvent = [&](qint64 event) {
-            if (event == row.code) {
-                delete victim;
-            }
-        };
-        row.happen(victim);
-        EXPECT_TRUE(siteCalls.contains(u"%1 6 7"_qs.arg(row.code)));
-        EXPECT_FALSE(victim);
-        atEvent = nullptr;
     }
 }
 
@@ -142,19 +126,18 @@ TEST_F(ViewSite, TellsThatTheMouseCameAndWentWhenItMayBeDeleted)
     QEvent leave(QEvent::Leave);
     valuesOf = [](qint64 event) {
         const QPointF place = event == 2006 ? static_cast<QEnterEvent *>(CUI_EventEvent())->position() : QPointF();
-        return QString::asprintf("%g,%g", place.x(), place.y());
+        return QString::asprintf("%g:%g", place.x(), place.y());
     };
     QApplication::sendEvent(m_view, &enter);
     QApplication::sendEvent(m_view, &leave);
     EXPECT_TRUE(siteCalls.isEmpty());
-    const QPointer<ViewSC> guard(m_view);
     atEvent = [this](qint64 event) {
         if (event == viewEventMouseExited) {
             delete m_view;
         }
     };
-    EXPECT_EQ(takeSiteCalls(), "2006 5 7 3,4, 2007 5 7 0,0");
-    EXPECT_FALSE(guard);
+    EXPECT_EQ(takeSiteCalls(), u"2006 5 7 3:4, 2007 5 7 0:0"_qs);
+    EXPECT_FALSE(m_view);
 }
 
 TEST_F(ViewSite, DrawsTheDirtyPartOrUpdatesItsLayer)
@@ -187,62 +170,52 @@ TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
         atEvent = [lets](qint64 event) { answer(lets && event == viewEventAcceptsFirstResponder); };
         QTest::mouseClick(m_view, Qt::LeftButton);
         EXPECT_EQ(m_view->hasFocus(), lets);
-        EXPECT_EQ(takeSiteCodes(), "2001 2002 2004");
+        EXPECT_EQ(takeSiteCodes(), u"2001 2002 2004"_qs);
     }
-}
-
-TEST_F(ViewSite, TabPassesByViewsThatRefuseTheKeyboard)
-{
-    CUI_ViewSubclass(6, QRectF(0, 100, 50, 50));
-    auto *const second = settled<ViewSC>(6);
+    m_view->clearFocus();
+    ViewSC *const second = makeView(6);
     Tag accepts = 6;
-    valuesOf = [](qint64) { return QString(); };
     atEvent = [&](qint64) { answer(siteCalls.constLast() == u"2001 %1 7"_qs.arg(accepts)); };
     m_view->setFocus(Qt::TabFocusReason);
     takeSiteCalls();
-    EXPECT_TRUE(second->hasFocus());
+    EXPECT_TRUE(second->hasFocus()) << "Tab passes by views that refuse";
     accepts = 0;
     m_view->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(takeSiteCalls(), "2001 5 7, 2001 6 7");
+    EXPECT_EQ(takeSiteCalls(), u"2001 5 7, 2001 6 7"_qs);
     EXPECT_FALSE(m_view->hasFocus() || second->hasFocus());
 }
 
 TEST_F(ViewSite, TellsOfCursorAppearanceAndLoading)
 {
     m_view->resize(60, 60);
-    EXPECT_EQ(takeSiteCalls(), "2015 5 7");
+    EXPECT_EQ(takeSiteCalls(), u"2015 5 7"_qs);
     m_view->setPalette(QPalette(Qt::green));
-    EXPECT_EQ(takeSiteCalls(), "2025 5 7");
+    EXPECT_EQ(takeSiteCalls(), u"2025 5 7"_qs);
     m_view->awakeFromNib();
-    EXPECT_EQ(takeSiteCalls(), "2029 5 7");
+    EXPECT_EQ(takeSiteCalls(), u"2029 5 7"_qs);
 }
 
 TEST_F(ViewSite, PopsUpTheMenuThatTheProgramLeavesInTheRecord)
 {
-    struct Row
-    {
-        const char *name;
-        bool handled;
-        bool replaced;
-    };
     QMenu own;
     QMenu other;
     own.addAction(u"a"_qs);
     other.addAction(u"b"_qs);
     m_view->setMenu(&own);
-    for (const Row &row :
-         {Row{"the view's own", false, false}, Row{"another", false, true}, Row{"none", true, false}}) {
-        SCOPED_TRACE(row.name);
-        atEvent = [&](qint64 event) {
+    const Table<bool, QMenu *> rows = {
+        {"the view's own", false, &own}, {"another", false, &other}, {"none", true, &own}};
+    for (const auto &[name, handled, menu] : rows) {
+        SCOPED_TRACE(name);
+        atEvent = [&own, isHandled = handled, left = menu](qint64 event) {
             if (event == viewEventMenu) {
                 EXPECT_EQ(CUI_DialogEventObj()->menuObj, &own);
-                CUI_DialogEventObj()->menuObj = row.replaced ? &other : &own;
-                answer(row.handled);
+                CUI_DialogEventObj()->menuObj = left;
+                answer(isHandled);
             }
         };
-        happenings().constLast().happen(m_view);
-        EXPECT_EQ(own.isVisible(), !row.handled && !row.replaced);
-        EXPECT_EQ(other.isVisible(), row.replaced);
+        askForMenu(m_view);
+        EXPECT_EQ(own.isVisible(), !handled && menu == &own);
+        EXPECT_EQ(other.isVisible(), menu == &other);
         own.close();
         other.close();
     }
@@ -262,7 +235,7 @@ TEST_F(ViewSite, DragsAreReportedThatOfferAnAskedForType)
         QApplication::sendEvent(m_view, &enter);
         EXPECT_EQ(enter.isAccepted(), data == &files);
     }
-    EXPECT_EQ(takeSiteCalls(), "2016 5 7 file:///a");
+    EXPECT_EQ(takeSiteCalls(), u"2016 5 7 file:///a"_qs);
     for (const bool takes : {false, true}) {
         atEvent = [takes](qint64) { answer(takes); };
         QDragEnterEvent enter(QPoint(2, 3), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
@@ -271,7 +244,7 @@ TEST_F(ViewSite, DragsAreReportedThatOfferAnAskedForType)
         QApplication::sendEvent(m_view, &drop);
         EXPECT_EQ(drop.isAccepted(), takes);
         EXPECT_EQ(CUI_DialogEventObj()->pointVal, QPointF(2, 3));
-        EXPECT_EQ(takeSiteCodes(), "2016 2022");
+        EXPECT_EQ(takeSiteCodes(), u"2016 2022"_qs);
     }
 }
 
@@ -285,11 +258,9 @@ TEST_F(ViewSite, InAPopoverReportsThePopoversTag)
     takeSiteCalls();
     CUI_OutputWindowSetTag(7);
     QTest::mousePress(inner, Qt::LeftButton);
-    EXPECT_EQ(takeSiteCalls(), "2001 8 9, 2002 8 9");
+    EXPECT_EQ(takeSiteCalls(), u"2001 8 9, 2002 8 9"_qs);
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
     delete CUI_PopoverWithTag(9);
 }
 
 } // namespace
-
-} // namespace tetrad

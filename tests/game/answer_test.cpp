@@ -1,14 +1,24 @@
 #include "game/answer.h"
 
 #include "answer_fixture.h"
-#include "runtime/strings/number_reader.h"
+#include "game/puzzle_deck.h"
 #include "runtime/strings/string_stack.h"
-
-#include <gtest/gtest.h>
+#include "solutions.h"
+#include "tests/table.h"
 
 using namespace tetrad;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+// The first digit replaced by another one that the puzzle does not have.
+QString withAForeignDigit(QString solution, const QString &puzzle)
+{
+    const auto digit = std::find_if(solution.begin(), solution.end(), [](QChar c) { return c.isDigit(); });
+    const QString digits = u"123456789"_s;
+    *digit = *std::find_if(digits.begin(), digits.end(), [&puzzle](QChar c) { return !puzzle.contains(c); });
+    return solution;
+}
 
 QString parenthesised(int depth, const QString &inside)
 {
@@ -19,13 +29,7 @@ QString parenthesised(int depth, const QString &inside)
 
 TEST(Answer, IsJudgedInTheOrderOfTheChecks)
 {
-    const struct
-    {
-        const char *name;
-        const char *puzzle;
-        const char *answer;
-        Outcome outcome;
-    } rows[] = {
+    const Table<const char *, const char *, Outcome> rows = {
         {"empty", "1 3 4 6", "", Outcome::nothingTyped},
         {"Q", "1 3 4 6", "Q", Outcome::quit},
         {"S", "1 3 4 6", "S", Outcome::skip},
@@ -46,39 +50,12 @@ TEST(Answer, IsJudgedInTheOrderOfTheChecks)
         {"a letter", "1 3 4 6", "1+3+4+6q", Outcome::incorrect},
         {"division by zero", "1 3 4 6", "6/(4-3-1)", Outcome::incorrect},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(judgeAnswer(QString::fromUtf8(row.answer), numbersOf(QString::fromUtf8(row.puzzle))), row.outcome);
+    for (const auto &[name, puzzle, answer, outcome] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(judgeAnswer(QString::fromUtf8(answer), numbersOf(QString::fromUtf8(puzzle))), outcome);
         EXPECT_EQ(gZRStk, 0);
     }
     EXPECT_EQ(judgeAnswer(QString(), numbersOf(QStringLiteral("1 3 4 6"))), Outcome::nothingTyped);
-}
-
-TEST(EvaluateMath, GivesTheValueAsText)
-{
-    const struct
-    {
-        const char *name;
-        const char *answer;
-        const char *text;
-        qint64 leading;
-    } rows[] = {
-        {"whole", "9+6+1+8", "24", 24},
-        {"integers divide as decimals", "9/2", "4.500", 4},
-        {"rounds up to 24", "23.9996", "24", 24},
-        {"does not round up to 24", "23.9994", "23.999", 23},
-        {"x", "2x3X4", "24", 24},
-        {"negative fraction", "1/2-1", "-0.500", 0},
-        {"whole but not in single precision", "16777217", "16777217.000", 16777217},
-        {"whole in single precision", "16777216", "16777216", 16777216},
-        {"unbalanced", "6/(1-3/4", "'(' without ')' at position 5", 0},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const QString text = EvaluateMath(QString::fromUtf8(row.answer));
-        EXPECT_EQ(text.toStdString(), row.text);
-        EXPECT_EQ(StringIntegerValue(text), row.leading);
-    }
 }
 
 TEST(DigitCount, AnswerWithoutALengthPrefixedFormCountsAsEmpty)
@@ -96,4 +73,27 @@ TEST(Answer, HugeOnesAreJudgedLikeAnyOther)
     EXPECT_EQ(judgeAnswer(parenthesised(100000, QStringLiteral("6/(1-3/4)")), numbers), Outcome::correct);
     EXPECT_EQ(judgeAnswer(QString(QStringLiteral("1+").repeated(100000) + u"346"), numbers), Outcome::incorrect);
     EXPECT_EQ(judgeAnswer(QString(200000, u'1'), numbers), Outcome::wrongNumbers);
+}
+
+TEST(Solutions, AllAreCorrectAndPerturbedOnesAreNot)
+{
+    int count = 0;
+    for (qint64 position = 0; position < puzzleCount; ++position) {
+        const QString puzzle = puzzleText(position);
+        const PuzzleNumbers numbers = numbersOf(puzzle);
+        const QStringList solutions = solutionsOf(puzzle);
+        EXPECT_FALSE(solutions.isEmpty()) << puzzle.toStdString();
+        for (const QString &solution : solutions) {
+            SCOPED_TRACE(puzzle.toStdString() + ": " + solution.toStdString());
+            EXPECT_EQ(EvaluateMath(solution), QStringLiteral("24"));
+            EXPECT_EQ(judgeAnswer(solution, numbers), Outcome::correct);
+            EXPECT_EQ(judgeAnswer(QString(u'-' + solution), numbers), Outcome::incorrect);
+            EXPECT_EQ(judgeAnswer(solution.chopped(1), numbers), Outcome::incorrect);
+            EXPECT_EQ(judgeAnswer(QString(solution + u"*1"), numbers), Outcome::extraNumbers);
+            const Outcome foreign = judgeAnswer(withAForeignDigit(solution, puzzle), numbers);
+            EXPECT_TRUE(foreign == Outcome::wrongNumbers || foreign == Outcome::incorrect);
+        }
+        count += static_cast<int>(solutions.size());
+    }
+    EXPECT_EQ(count, 1438);
 }

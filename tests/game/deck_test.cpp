@@ -1,7 +1,8 @@
 #include "game/puzzle_deck.h"
 
+#include "tests/table.h"
+
 #include <QStringList>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <set>
@@ -27,46 +28,28 @@ TEST(Deck, Holds96DifferentPuzzlesOfAscendingDigits)
 
 TEST(Deck, LevelsChangeBetweenTheRuns)
 {
-    const struct
-    {
-        qint64 position;
-        const char16_t *puzzle;
-        Level level;
-        const char *label;
-    } rows[] = {
-        {0, u"1 2 3 4", Level::easy, "⚪ Easy"},
-        {32, u"1 5 5 9", Level::easy, "⚪ Easy"},
-        {33, u"4 4 6 9", Level::medium, "🔴 🔴 Medium"},
-        {64, u"1 5 7 9", Level::medium, "🔴 🔴 Medium"},
-        {65, u"3 4 7 9", Level::hard, "🟡 🟡 🟡 Hard"},
-        {95, u"2 4 8 9", Level::hard, "🟡 🟡 🟡 Hard"},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.position);
-        EXPECT_EQ(puzzleText(row.position), QString::fromUtf16(row.puzzle));
-        EXPECT_EQ(levelAtPosition(row.position), row.level);
-        EXPECT_EQ(levelLabel(row.level).toStdString(), row.label);
+    const Table<qint64, const char *> rows = {{"⚪ Easy", 0, "1 2 3 4"},
+                                              {"⚪ Easy", 32, "1 5 5 9"},
+                                              {"🔴 🔴 Medium", 33, "4 4 6 9"},
+                                              {"🔴 🔴 Medium", 64, "1 5 7 9"},
+                                              {"🟡 🟡 🟡 Hard", 65, "3 4 7 9"},
+                                              {"🟡 🟡 🟡 Hard", 95, "2 4 8 9"}};
+    for (const auto &[level, position, puzzle] : rows) {
+        EXPECT_EQ(puzzleText(position), QString::fromUtf8(puzzle));
+        EXPECT_EQ(levelLabel(levelAtPosition(position)).toStdString(), level);
     }
 }
 
 TEST(ArcRandom, ReducesThe32BitNumberToTheRange)
 {
-    const struct
-    {
-        const char *name;
-        quint32 random;
-        qint64 lo;
-        qint64 hi;
-        qint64 result;
-    } rows[] = {
+    const Table<quint32, qint64, qint64, qint64> rows = {
         {"zero is the low end", 0, 0, 95, 0},   {"the last of the span", 95, 0, 95, 95},
         {"wraps after the span", 96, 0, 95, 0}, {"the largest number has no sign", 4294967295U, 0, 95, 63},
         {"low end above zero", 7, 10, 12, 11},  {"low end below zero", 5, -3, 3, 2},
         {"range of one", 123456789, 7, 7, 7},   {"the widest range", 4294967295U, 0, 4294967295, 4294967295},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(ArcRandom(row.lo, row.hi, [&row] { return row.random; }), row.result);
+    for (const auto &[name, random, lo, hi, result] : rows) {
+        EXPECT_EQ(ArcRandom(lo, hi, [drawn = random] { return drawn; }), result) << name;
     }
     std::set<qint64> seen;
     for (int i = 0; i < 10000; ++i) {

@@ -1,15 +1,11 @@
 #include "game/expression.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
+#include "game/pattern.h"
+#include "tests/table.h"
 
 using namespace tetrad;
 
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 double valueOf(const QString &text)
 {
@@ -33,38 +29,10 @@ QString nested(int depth, const QString &inside)
 
 } // namespace
 
-// A few that are to be read; the comparison with another evaluator tries many more.
-TEST(Expression, HasItsValue)
-{
-    const struct
-    {
-        const char *name;
-        const char *text;
-        double value;
-    } rows[] = {
-        {"fraction inside a division", "6.0/(1.0-3.0/4.0)", 24.0},
-        {"product before sum", "2+3*4-6/2", 11.0},
-        {"same rank from the left", "8/4/2-1-1", -1.0},
-        {"many signs", "-+--4", -4.0},
-        {"divided by a signed parenthesis", "12/-(1-4)", 4.0},
-        {"no digit after the point", "5.+1", 6.0},
-        {"by zero", "1/0", infinity},
-        {"the sign of zero lasts", "1/(-0.0)", -infinity},
-    };
-    for (const auto &row : rows) {
-        EXPECT_EQ(valueOf(QString::fromUtf8(row.text)), row.value) << row.name;
-    }
-    EXPECT_TRUE(std::isnan(valueOf(QStringLiteral("0/0"))));
-}
-
+// The values are compared with those of another evaluator, see evaluator_against_python.py.
 TEST(Expression, FailureNamesWhatIsWrongAndWhere)
 {
-    const struct
-    {
-        const char *name;
-        const char *text;
-        const char *description;
-    } rows[] = {
+    const Table<const char *, const char *> rows = {
         {"nothing", "", "the expression is empty"},
         {"operator at the end", "2*3+", "missing operand after '+' at position 4"},
         {"operator at the start", "*2", "missing operand before '*' at position 1"},
@@ -80,18 +48,9 @@ TEST(Expression, FailureNamesWhatIsWrongAndWhere)
         {"two points", "1.2.3", "malformed number '1.2.3' at position 1"},
         {"only a point", "3*.", "malformed number '.' at position 3"},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(failureOf(QString::fromUtf8(row.text)).toStdString(), row.description) << row.name;
+    for (const auto &[name, text, description] : rows) {
+        EXPECT_EQ(failureOf(QString::fromUtf8(text)).toStdString(), description) << name;
     }
-}
-
-TEST(Expression, NumbersOutsideTheRangeOfADouble)
-{
-    const QString zeros(400, u'0');
-    EXPECT_EQ(valueOf(u'1' + zeros), infinity);
-    EXPECT_EQ(valueOf(u'-' + zeros + u'1' + zeros + u".5"), -infinity);
-    EXPECT_EQ(valueOf(u"0." + zeros + u'1'), 0.0);
-    EXPECT_EQ(valueOf(zeros + u"7"), 7.0);
 }
 
 // Deep enough to exhaust the call stack of an evaluator that recurses, long enough to outlast the
@@ -112,4 +71,24 @@ TEST(Expression, IsMadeFromAFormat)
     EXPECT_EQ(ExpressionValueWithObject(plain, QVariant(), QVariant()).toDouble(), 4.5);
     EXPECT_EQ(ExpressionWithFormat(QStringLiteral("%@*%d"), QStringLiteral("2"), 3).value(), 6.0);
     EXPECT_THROW(ExpressionWithFormat(QStringLiteral("5%@")), ExpressionError);
+}
+
+TEST(Pattern, MatchesWithinTheRangeInOrder)
+{
+    const auto letters =
+        RegularExpressionWithPattern(QStringLiteral("[a-c]+"), QRegularExpression::CaseInsensitiveOption, nullptr);
+    const auto matches =
+        RegularExpressionMatches(letters, QStringLiteral("aa1Bc2cccc"), QRegularExpression::NoMatchOption, 1, 7);
+    ASSERT_EQ(matches.size(), 3);
+    EXPECT_EQ(TextCheckingResultRange(matches[0]), (TextRange{1, 1}));
+    EXPECT_EQ(TextCheckingResultRange(matches[1]), (TextRange{3, 2}));
+    EXPECT_EQ(TextCheckingResultRange(matches[2]), (TextRange{6, 2}));
+}
+
+TEST(Pattern, FaultIsReportedWithThePattern)
+{
+    ErrorObject error;
+    EXPECT_FALSE(
+        RegularExpressionWithPattern(QStringLiteral("[0-9"), QRegularExpression::NoPatternOption, &error).isValid());
+    EXPECT_TRUE(error.description.contains(u"\"[0-9\"")) << error.description.toStdString();
 }
