@@ -15,6 +15,8 @@
 
 #include <algorithm>
 
+using namespace tetrad;
+
 namespace {
 
 // A window with a panel raised over it, and one beside it; each has a button and a field.

@@ -56,43 +56,37 @@ TEST_F(Console, anEmojiIsDrawnInColour)
     EXPECT_GT(red, 20);
 }
 
-class Scaled : public Console, public testing::WithParamInterface<double>
-{};
-
-TEST_P(Scaled, aFilledRectangleHidesWhatIsUnderIt)
+TEST_F(Console, aFilledRectangleHidesWhatIsUnderItAndRowsTouchAtEveryScale)
 {
-    view.setBackgroundColor(Qt::black);
-    view.setForegroundColor(Qt::red);
-    view.addRect({0, 0, 400, 300}, Qt::black, Qt::black);
-    const QImage before = picture(GetParam());
-    view.setBackgroundColor(QColor());
-    view.addString(u"Number of digits was not 4: |gjpqy_[]{}"_qs, {10, 200});
-    EXPECT_NE(picture(GetParam()), before);
-    view.addRect({10, 200, 400, 15}, Qt::black, Qt::black);
-    EXPECT_EQ(picture(GetParam()), before);
-}
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        SCOPED_TRACE(scale);
+        view.clear();
+        view.resetAttributes();
+        view.setForegroundColor(Qt::red);
+        view.addRect({0, 0, 400, 300}, Qt::black, Qt::black);
+        const QImage before = picture(scale);
+        view.addString(u"Number of digits was not 4: |gjpqy_[]{}"_qs, {10, 200});
+        EXPECT_NE(picture(scale), before);
+        view.addRect({10, 200, 400, 15}, Qt::black, Qt::black);
+        EXPECT_EQ(picture(scale), before);
 
-TEST_P(Scaled, rowsTouchWithoutSeamOrOverlap)
-{
-    view.setBackgroundColor(QColor(0, 0, 255, 128));
-    view.setForegroundColor(Qt::transparent);
-    for (int row = 0; row < 12; ++row) {
-        view.addString(u"xxxxxxxxxxxx"_qs);
-    }
-    view.setCurrentLineWidth(-1);
-    for (int row = 0; row < 12; ++row) {
-        view.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
-    }
-    const QImage image = picture(GetParam());
-    for (const int x : {qRound(20 * GetParam()), qRound(220 * GetParam())}) {
-        EXPECT_NE(image.pixelColor(x, 0), QColor(Qt::white));
-        for (int y = 0; y < qFloor(12 * lineHeight * GetParam()); ++y) {
-            EXPECT_EQ(image.pixelColor(x, y), image.pixelColor(x, 0)) << x << ',' << y;
+        view.clear();
+        view.setBackgroundColor(QColor(0, 0, 255, 128));
+        view.setForegroundColor(Qt::transparent);
+        view.setCurrentLineWidth(-1);
+        for (int row = 0; row < 12; ++row) {
+            view.addString(u"xxxxxxxxxxxx"_qs);
+            view.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
+        }
+        const QImage rows = picture(scale);
+        for (const int x : {qRound(20 * scale), qRound(220 * scale)}) {
+            EXPECT_NE(rows.pixelColor(x, 0), QColor(Qt::white));
+            for (int y = 0; y < qFloor(12 * lineHeight * scale); ++y) {
+                EXPECT_EQ(rows.pixelColor(x, y), rows.pixelColor(x, 0)) << "neither seam nor overlap at " << y;
+            }
         }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Console, Scaled, testing::Values(1, 1.25, 1.5, 2));
 
 /// Operations at random places, colours, sizes, widths and alignments, many on top of each other.
 void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int count, int height)

@@ -1,7 +1,5 @@
 """What a screen reader is told."""
 
-import unittest
-
 from accessible import TextEvents
 from desktop import until
 from pixels import Picture
@@ -137,7 +135,3 @@ class TestAccessibility(PlayingTest):
 
     def wait_for_focus(self, console):
         until(lambda: "focused" in console.states, "the focus on the console")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,7 +1,5 @@
 """The whole deck, played."""
 
-import unittest
-
 from playing import PlayingTest
 
 DECK_SIZE = 96
@@ -24,7 +22,3 @@ class TestCycle(PlayingTest):
         game.wait_for_focus_on("Quit")
         self.desktop.press("Return")
         self.assert_clean_end(game)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -2,7 +2,6 @@
 
 import subprocess
 import sys
-import unittest
 from pathlib import Path
 
 from desktop import until
@@ -45,28 +44,6 @@ class TestEditMenu(PlayingTest):
                     self.desktop.press("ctrl+a", "BackSpace")
                     game.wait_for_field_text("")
 
-    def test_items_that_can_do_nothing_are_disabled(self):
-        game = self.start()
-        game.wait_for_prompt()
-        for state, clipboard, keys, expected in [
-            ("nothing typed, nothing copied", "", [], []),
-            ("nothing typed", "9", [], ["Paste"]),
-            ("typed", "9", ["1", "2"], ["Undo", "Paste", "Select All"]),
-            ("selected", "9", ["ctrl+a"], ["Undo", "Cut", "Copy", "Paste", "Delete", "Select All"]),
-            ("undone", "9", ["ctrl+z"], ["Redo", "Paste"]),
-        ]:
-            with self.subTest(state):
-                self.desktop.set_clipboard(clipboard)
-                if keys:
-                    self.desktop.press(*keys)
-                game.open_menu("Edit")
-                menu = next(menu for menu in game.application.find_all("popup menu", "menu") if menu.find("menu item"))
-                items = menu.find_all("menu item")
-                self.assertEqual([item.name for item in items if "sensitive" in item.states], expected)
-                self.assertEqual(len(items), 7)
-                self.desktop.press("Escape")
-                until(game.field, "the focus back in the field")
-
 
 class TestClipboardManager(PlayingTest):
     def test_copied_text_survives_quitting(self):
@@ -93,7 +70,3 @@ class TestClipboardManager(PlayingTest):
         until(lambda: "focused" in game.console().states, "the focus on the console")
         self.desktop.press("ctrl+a", "ctrl+c")
         return game.screen()
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,8 +1,6 @@
 """The game in the languages of the world: played the same everywhere, menus in the desktop's direction."""
 
 import os
-import unittest
-
 from playing import PlayingTest
 from solver import solve
 
@@ -52,7 +50,3 @@ class TestLanguages(PlayingTest):
         game.wait_for_other_puzzle(puzzle)
         game.answer("Q")
         self.assert_clean_end(game)
-
-
-if __name__ == "__main__":
-    unittest.main()

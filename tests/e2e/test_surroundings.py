@@ -25,7 +25,3 @@ class TestNoDisplay(unittest.TestCase):
                 ended = self.run_without_display(command, **variables)
                 self.assertEqual((ended.returncode, ended.stdout), (1, ""))
                 self.assertRegex(ended.stderr, r"\A[^\n]*display[^\n]*\.\n\Z")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -2,8 +2,6 @@
 
 import os
 import re
-import unittest
-
 from desktop import Gio
 from playing import PROGRAM, PlayingTest
 
@@ -67,7 +65,3 @@ class TestTrace(PlayingTest):
         for call in ("openat(", "connect("):
             self.assertTrue(any(each.startswith(call) for each in calls), f"the trace has {call}")
         self.assertEqual([call for call in calls if not self.is_allowed(call)], [])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,7 +1,5 @@
 """The field: what it takes from keys, clipboard and menu, and what does not disturb it."""
 
-import unittest
-
 from playing import PROMPT, PlayingTest
 
 
@@ -16,11 +14,8 @@ class TestTyping(PlayingTest):
         game = self.start()
         game.wait_for_prompt()
         for name, junk, kept in [
-            ("spaces and words", "6 / (1 - 3/4) is twenty-four", "6/(1-3/4)s-"),
-            ("control characters", "1\n+\t2\r\n\x1b\x7f", "1+2"),
-            ("emoji", "⚪1🟡+👩‍👩‍👧2️⃣", "1+2"),
-            ("right to left", "שלום3*ابجد4", "3*4"),
-            ("digits of other scripts", "１٣1", "1"),
+            ("spaces, words and control characters", "6 / (1 - 3/4) is\n\ttwenty-four\x1b\x7f", "6/(1-3/4)s-"),
+            ("emoji, right to left, digits of other scripts", "⚪1🟡+👩‍👩‍👧2️⃣שלום*٣3", "1+2*3"),
             ("nothing accepted", "hello, world.", ""),
         ]:
             with self.subTest(name):
@@ -46,17 +41,6 @@ class TestTyping(PlayingTest):
         game.answer("q")
         self.assert_clean_end(game)
 
-    def test_the_edit_menu_works_on_the_field_by_mouse(self):
-        game = self.start()
-        game.wait_for_prompt()
-        self.desktop.set_clipboard("(1+2)*3")
-        game.choose("Edit", "Paste")
-        game.wait_for_field_text("(1+2)*3")
-        game.choose("Edit", "Select All")
-        game.choose("Edit", "Cut")
-        game.wait_for_field_text("")
-        self.assertEqual(self.desktop.clipboard(), "(1+2)*3")
-
     def test_a_click_elsewhere_does_not_end_the_input(self):
         game = self.start()
         field = game.wait_for_prompt()
@@ -81,7 +65,3 @@ class TestTyping(PlayingTest):
             game.type_more("+4", "1+2*3+4")
         self.assertTrue(game.field().is_the_same_as(field))
         self.assertEqual(game.field().name, PROMPT)
-
-
-if __name__ == "__main__":
-    unittest.main()

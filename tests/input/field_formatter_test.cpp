@@ -13,6 +13,37 @@ namespace {
 
 const QString answerKeys = u"123456789+-*/()qs"_s;
 
+TEST(Formatter, judgesAProposal)
+{
+    const Table<QString, bool, quint64, qint64, QString, QString> rows = {
+        {"the other case is in the list", answerKeys, true, 0, 0, u"Q"_s, u"Q"_s},
+        {"zero and blank are removed", answerKeys, true, 0, 0, u"1 0+2"_s, u"1+2"_s},
+        {"case-sensitive list", u"q"_s, true, 0, 1, u"qQ"_s, u"q"_s},
+        {"refusing list", u"ab"_s, false, 0, 0, u"aBcA1"_s, u"c1"_s},
+        {"empty allowing list refuses all", u""_s, true, 0, 0, u"abc"_s, u""_s},
+        {"empty refusing list allows all", u""_s, false, 0, 0, u"a\n1"_s, u"a\n1"_s},
+        {"at the limit", u""_s, false, 3, 0, u"abc"_s, u"abc"_s},
+        {"beyond the limit", u""_s, false, 3, 0, u"abcd"_s, QString()},
+        {"limit counts what would be removed", u"1"_s, true, 2, 0, u"1xx"_s, QString()},
+        {"limit counts pairs once", u""_s, false, 2, 0, u"\U0001F600\U0001F601"_s, u"\U0001F600\U0001F601"_s},
+        {"lowered", u"ab"_s, true, 0, 2, u"aXB"_s, u"ab"_s},
+        {"raised", u"ab"_s, true, 0, 3, u"abc"_s, u"AB"_s},
+        {"capitalized", u""_s, false, 0, 4, u"o'neil mcDONALD\tx"_s, u"O'neil Mcdonald\tX"_s},
+        {"half a pair is not the pair", u"\U0001F600"_s, true, 0, 0, u"\U0001F600\U0001F601"_s, u"\U0001F600"_s},
+        {"marks and controls", answerKeys, true, 0, 0, u"\u202E1\u0007\r\n+\u05D0\0172"_s, u"1+2"_s},
+        {"dotless i is no i", u"i"_s, true, 0, 0, u"iI\u0131\u0130"_s, u"iI"_s},
+    };
+    for (const auto &[shows, list, pass, length, caseOption, proposal, expected] : rows) {
+        SCOPED_TRACE(shows);
+        const CUI_ControlFormatter formatter(list, pass, length, caseOption);
+        QString text = proposal;
+        int cursor = static_cast<int>(text.size());
+        const bool refused = formatter.validate(text, cursor) == QValidator::Invalid;
+        EXPECT_EQ(refused ? QString() : text, expected);
+        EXPECT_EQ(cursor, text.size());
+    }
+}
+
 class FormattedField : public testing::Test
 {
 protected:
@@ -100,10 +131,10 @@ TEST_F(PanelTest, aControlIsFoundByTagInTheFrontWindow)
 {
     auto *const field = new QLineEdit(host->contentView());
     setObjectTag(field, 7);
-    ControlSetFormat(8, u"1"_s, true, 0, 0);
-    EXPECT_EQ(field->validator(), nullptr);
-    ControlSetFormat(7, u"1"_s, true, 0, 0);
-    ASSERT_NE(field->validator(), nullptr);
+    for (const Tag tag : {8, 7}) {
+        ControlSetFormat(tag, u"1"_s, true, 0, 0);
+        EXPECT_EQ(field->validator() != nullptr, tag == 7);
+    }
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "panel_helper.h"
 
 #include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
 #include "runtime/input/inkey_format.h"
 #include "runtime/input/inkey_window.h"
 #include "runtime/input/input_format.h"
@@ -9,8 +8,6 @@
 #include "runtime/strings/not_given.h"
 
 #include <QLabel>
-#include <QPointer>
-#include <QTimer>
 
 using namespace tetrad;
 using namespace Qt::Literals::StringLiterals;
@@ -36,16 +33,8 @@ protected:
 
 TEST_F(KeyInput, takesTheFirstAcceptedKey)
 {
-    const struct
-    {
-        const char *shows;
-        QString characters;
-        qint64 pass;
-        qint64 caseOption;
-        QString refused; ///< pressed first; the panel must go on waiting
-        QString pressed;
-        QString expected;
-    } rows[] = {
+    // The keys that are refused are pressed first; the panel must go on waiting.
+    const Table<QString, qint64, qint64, QString, QString, QString> rows = {
         {"any without a format", QString(), notGiven, notGiven, u""_s, u"x"_s, u"x"_s},
         {"listed", u"yn"_s, 1, notGiven, u"xY 1"_s, u"y"_s, u"y"_s},
         {"not listed", u"yn"_s, 0, notGiven, u"yn"_s, u"Y"_s, u"Y"_s},
@@ -53,18 +42,18 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
         {"lowered before the list", u"q"_s, 1, caseForceLower, u"x"_s, u"Q"_s, u"q"_s},
         {"a capital is lowered out of its list", u"Qa"_s, 1, caseForceLower, u"Qq"_s, u"A"_s, u"a"_s},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.shows);
+    for (const auto &[shows, characters, pass, caseOption, refused, pressed, expected] : rows) {
+        SCOPED_TRACE(shows);
         CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
-        const QString key = ask(row.characters, row.pass, row.caseOption, [&](ZRInkeyWindow &panel) {
-            press(row.refused);
+        const QString key = ask(characters, pass, caseOption, [no = refused, yes = pressed](ZRInkeyWindow &panel) {
+            press(no);
             EXPECT_EQ(modalWindow(), &panel);
             EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString(), u"before"_s);
             EXPECT_NE(panel.cursorTimer(), nullptr);
-            press(row.pressed);
+            press(yes);
             EXPECT_EQ(panel.cursorTimer(), nullptr) << "the cursor still blinks";
         });
-        EXPECT_EQ(key, row.expected);
+        EXPECT_EQ(key, expected);
     }
 }
 

@@ -1,7 +1,6 @@
 #include "panel_helper.h"
 
 #include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
 #include "runtime/input/input_format.h"
 #include "runtime/input/line_input.h"
 #include "runtime/input/line_input_window.h"
@@ -44,13 +43,7 @@ protected:
 
 TEST_F(LineInput, endsWithTheLineOrNone)
 {
-    const struct
-    {
-        const char *shows;
-        Qt::Key key;
-        Qt::KeyboardModifiers modifiers;
-        bool answers;
-    } rows[] = {
+    const Table<Qt::Key, Qt::KeyboardModifiers, bool> rows = {
         {"Return", Qt::Key_Return, Qt::NoModifier, true},
         {"Enter", Qt::Key_Enter, Qt::KeypadModifier, true},
         {"Tab", Qt::Key_Tab, Qt::NoModifier, true},
@@ -58,16 +51,16 @@ TEST_F(LineInput, endsWithTheLineOrNone)
         {"Shift with Return", Qt::Key_Return, Qt::ShiftModifier, true},
         {"Escape", Qt::Key_Escape, Qt::NoModifier, false},
     };
-    for (const auto &row : rows) {
+    for (const auto &[shows, key, modifiers, answers] : rows) {
         for (const QString &typed : {u"12"_s, u""_s}) {
-            SCOPED_TRACE(row.shows);
-            const QString answer = ask(u"Enter:"_s, QString(), [&](ZRInputWindow &panel) {
+            SCOPED_TRACE(shows);
+            const QString answer = ask(u"Enter:"_s, QString(), [&, end = key, with = modifiers](ZRInputWindow &panel) {
                 EXPECT_EQ(CUI_AppDelegateObj()->inputWnd(), &panel);
                 type(panel, typed);
-                QTest::keyClick(panel.field(), row.key, row.modifiers);
+                QTest::keyClick(panel.field(), end, with);
             });
-            EXPECT_EQ(answer, row.answers ? typed : QString());
-            EXPECT_EQ(answer.isNull(), !row.answers);
+            EXPECT_EQ(answer, answers ? typed : QString());
+            EXPECT_EQ(answer.isNull(), !answers);
         }
     }
 }
@@ -83,21 +76,15 @@ TEST_F(LineInput, formatsPersistFromCallToCall)
     }
 }
 
-TEST_F(LineInput, limitAndCaseReachTheField)
+TEST_F(LineInput, limitAndCaseReachTheFieldAndKeysStillHeldDownAnswerNothing)
 {
-    const auto user = [](ZRInputWindow &panel) { answerWith(panel, u"abca"_s); };
-    EXPECT_EQ(ask(u""_s, u"abc"_s, user, 3, caseForceUpper), u"ABC"_s);
-}
-
-TEST_F(LineInput, keysStillHeldDownAnswerNothing)
-{
-    const QString answer = ask(u""_s, QString(), [](ZRInputWindow &panel) {
+    const auto user = [](ZRInputWindow &panel) {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab}) {
             repeatHeldKey(panel.field(), key);
         }
-        answerWith(panel, u"7"_s);
-    });
-    EXPECT_EQ(answer, u"7"_s);
+        answerWith(panel, u"abca"_s);
+    };
+    EXPECT_EQ(ask(u""_s, u"abc"_s, user, 3, caseForceUpper), u"ABC"_s);
 }
 
 TEST_F(LineInput, losingTheFocusEndsNothing)

@@ -1,25 +1,10 @@
 #pragma once
 
-#include "runtime/app/modal.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
+#include "runtime/app/application.h"
+#include "tests/windows.h"
 
-#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QPointer>
-#include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-
-/// Printed by name when a comparison fails.
-inline void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << (text.isNull() ? std::string("none") : '"' + text.toStdString() + '"');
-}
 
 namespace tetrad {
 
@@ -81,8 +66,8 @@ class PanelTest : public testing::Test
 protected:
     void SetUp() override
     {
-        CUI_Window(1, QStringLiteral("Host"), windowStyleDefault, QRectF(100, 100, 580, 250));
-        host = CUI_WindowWithTag(1);
+        CocoaInit();
+        host = open(1, QRectF(100, 100, 580, 250));
         ASSERT_TRUE(QTest::qWaitForWindowActive(host));
     }
     void TearDown() override

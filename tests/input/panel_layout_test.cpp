@@ -2,9 +2,7 @@
 
 #include "runtime/strings/not_given.h"
 
-#include <QString>
-
-#include <gtest/gtest.h>
+#include "tests/table.h"
 
 using namespace tetrad;
 
@@ -20,18 +18,7 @@ constexpr QSize game(580, 250);
 
 TEST(Layout, placesAllParts)
 {
-    const struct
-    {
-        const char *shows;
-        qint64 x;
-        qint64 y;
-        int promptWidth;
-        int entryWidth;
-        QSize content;
-        const char *body;
-        const char *entry;
-        int labelWidth;
-    } rows[] = {
+    const Table<qint64, qint64, int, int, QSize, const char *, const char *, int> rows = {
         {"no prompt is minimal", 10, 190, 0, 0, game, "10,154 110x36", "10,10 5x16", 4},
         {"prompt pushes the field", 10, 190, 140, 0, game, "10,154 170x36", "155,10 5x16", 145},
         {"grows with the text", 10, 190, 140, 100, game, "10,154 270x36", "155,10 105x16", 145},
@@ -45,13 +32,13 @@ TEST(Layout, placesAllParts)
         {"long prompt is pushed near the left edge", 400, 190, 2000, 0, game, "10,154 455x36", "440,10 5x16", 430},
         {"tiny content has no label", 10, 190, 300, 9000, {100, 20}, "0,0 100x36", "10,10 80x16", 0},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.shows);
-        const PanelMetrics metrics{row.promptWidth, row.entryWidth, 110, 120};
-        const PanelGeometry parts = layOutPanel(metrics, wantedPlace(row.x, row.y, row.content), row.content);
-        EXPECT_EQ(text(parts.body), row.body);
-        EXPECT_EQ(text(parts.entry), row.entry);
-        EXPECT_EQ(text(parts.label), text(QRect(8, 10, row.labelWidth, 16)));
+    for (const auto &[shows, x, y, promptWidth, entryWidth, content, body, entry, labelWidth] : rows) {
+        SCOPED_TRACE(shows);
+        const PanelMetrics metrics{promptWidth, entryWidth, 110, 120};
+        const PanelGeometry parts = layOutPanel(metrics, wantedPlace(x, y, content), content);
+        EXPECT_EQ(text(parts.body), body);
+        EXPECT_EQ(text(parts.entry), entry);
+        EXPECT_EQ(text(parts.label), text(QRect(8, 10, labelWidth, 16)));
     }
 }
 

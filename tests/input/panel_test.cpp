@@ -12,15 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class Panel : public PanelTest
-{
-protected:
-    void resizeContent(int width, int height)
-    {
-        host->contentView()->resize(width, height);
-        QCoreApplication::processEvents();
-    }
-};
+using Panel = PanelTest;
 
 TEST_F(Panel, standsOverTheContentAndItsTextFitsItsLine)
 {
@@ -50,9 +42,11 @@ TEST_F(Panel, aSmallerWindowPushesItInAndALargerOneRestoresIt)
 {
     const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
     const QRect before = panel.bodyRect();
-    resizeContent(150, 100);
-    EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
-    resizeContent(580, 250);
+    for (const QSize &size : {QSize(150, 100), QSize(580, 250)}) {
+        host->contentView()->resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
+    }
     EXPECT_EQ(panel.bodyRect(), before);
 }
 
@@ -64,8 +58,7 @@ TEST_F(Panel, isDraggedWithinTheContentByItsBackground)
     QTest::mousePress(&panel, Qt::LeftButton, {}, grip);
     const auto dragTo = [&](QPoint shift) {
         const QPointF at = panel.mapFromGlobal(host->contentView()->mapToGlobal(QPoint(100, 154)) + shift);
-        QMouseEvent move(QEvent::MouseMove, at, panel.mapToGlobal(at), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&panel, &move);
+        sendMouse(&panel, QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
     };
     dragTo(QPoint(0, 0));
     const QPoint start = panel.bodyRect().topLeft();

@@ -3,14 +3,14 @@
 #include "runtime/strings/number_reader.h"
 #include "runtime/strings/text_format.h"
 #include "runtime/strings/text_functions.h"
-
-#include <gtest/gtest.h>
+#include "tests/table.h"
 
 #include <cctype>
 #include <clocale>
 #include <cstdlib>
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 class UnderLocale : public testing::TestWithParam<const char *>
@@ -60,4 +60,3 @@ TEST(CaseTables, mapEveryByte)
 }
 
 } // namespace
-} // namespace tetrad

@@ -1,16 +1,16 @@
 #include "runtime/strings/number_printer.h"
 #include "runtime/strings/number_reader.h"
+#include "tests/table.h"
 
 #include <QStringList>
 #include <QVariant>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <utility>
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -19,12 +19,7 @@ constexpr qint64 smallest = std::numeric_limits<qint64>::min();
 
 TEST(NumberPrinter, printsEachForm)
 {
-    const struct
-    {
-        const char *name;
-        double number;
-        const char *printed;
-    } rows[] = {
+    const Table<double, const char *> rows = {
         {"negative whole", -24, "-24"},
         {"zero", 0, " 0"},
         {"minus zero", -0.0, " 0"},
@@ -43,8 +38,8 @@ TEST(NumberPrinter, printsEachForm)
         {"infinite", -infinity, "-9223372036854775808"},
         {"no number", std::nan(""), " 0.nan"},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(CopyDblToString(row.number).toStdString(), row.printed) << row.name;
+    for (const auto &[name, number, printed] : rows) {
+        EXPECT_EQ(CopyDblToString(number).toStdString(), printed) << name;
     }
 }
 
@@ -60,13 +55,7 @@ TEST(NumberPrinter, printsAsManyDigitsAsItIsSetTo)
 
 TEST(NumberReader, readsTheLeadingNumber)
 {
-    const struct
-    {
-        const char *name;
-        QString text;
-        double asDouble;
-        qint64 asInteger;
-    } rows[] = {
+    const Table<QString, double, qint64> rows = {
         {"none", {}, 0, 0},
         {"whole", u"24"_qs, 24, 24},
         {"negative", u"-23.5"_qs, -23.5, -23},
@@ -93,9 +82,9 @@ TEST(NumberReader, readsTheLeadingNumber)
         {"too small", u"1e-400"_qs, 0, 1},
         {"small by many zeros", QString(u"0." + QString(400, u'0') + u'1'), 0, 0},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(StringDoubleValue(row.text), row.asDouble) << row.name;
-        EXPECT_EQ(StringIntegerValue(row.text), row.asInteger) << row.name;
+    for (const auto &[name, text, asDouble, asInteger] : rows) {
+        EXPECT_EQ(StringDoubleValue(text), asDouble) << name;
+        EXPECT_EQ(StringIntegerValue(text), asInteger) << name;
     }
 }
 
@@ -111,4 +100,3 @@ TEST(NumberReader, takesTheValueOfNumbersAndTextsOnly)
 }
 
 } // namespace
-} // namespace tetrad

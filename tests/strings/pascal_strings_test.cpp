@@ -1,14 +1,14 @@
 #include "runtime/strings/mac_roman.h"
 #include "runtime/strings/pascal_strings.h"
 #include "runtime/strings/text_format.h"
-
-#include <gtest/gtest.h>
+#include "tests/table.h"
 
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 /// A pushed slot holding the characters.
@@ -82,14 +82,7 @@ TEST(PascalStrings, everyConsumerPopsOneSlot)
 TEST(PascalStrings, midClampsItsArguments)
 {
     const std::string longest(255, 'x');
-    const struct
-    {
-        const char *name;
-        std::string source;
-        int start;
-        int count;
-        std::string result;
-    } rows[] = {
+    const Table<std::string, int, int, std::string> rows = {
         {"inside", "HELLO", 2, 3, "ELL"},
         {"count beyond the end", "HELLO", 4, 10, "LO"},
         {"start beyond the end", "HELLO", 6, 1, ""},
@@ -100,10 +93,9 @@ TEST(PascalStrings, midClampsItsArguments)
         {"longest", longest, 1, 255, longest},
         {"arguments are cut to 16 bits", "HELLO", 65536 + 2, 65536 + 3, "ELL"},
     };
-    for (const auto &row : rows) {
-        const auto start = static_cast<qint16>(row.start);
-        const auto count = static_cast<qint16>(row.count);
-        EXPECT_EQ(charactersOf(PSmid(pushed(row.source), start, count)), row.result) << row.name;
+    for (const auto &[name, source, start, count, result] : rows) {
+        const unsigned char *part = PSmid(pushed(source), static_cast<qint16>(start), static_cast<qint16>(count));
+        EXPECT_EQ(charactersOf(part), result) << name;
     }
 }
 
@@ -134,12 +126,7 @@ TEST(PascalStrings, copyIsSafeOnOverlap)
 
 TEST(PascalStrings, convertFromTexts)
 {
-    const struct
-    {
-        const char *name;
-        QString text;
-        std::string bytes;
-    } rows[] = {
+    const Table<QString, std::string> rows = {
         {"none", {}, ""},
         {"ASCII", u"6/(1-3/4)"_qs, "6/(1-3/4)"},
         {"Mac Roman", u"Ä€\uF8FFˇ"_qs, "\x80\xDB\xF0\xFF"},
@@ -150,9 +137,9 @@ TEST(PascalStrings, convertFromTexts)
         {"and one outside the basic plane", u"hard 🟡"_qs, ""},
         {"zero", QString(u"a" + QString(1, QChar(0)) + u"b"), std::string("a\0b", 3)},
     };
-    for (const auto &row : rows) {
+    for (const auto &[name, text, bytes] : rows) {
         StringPascalString(u"what was there before"_qs);
-        EXPECT_EQ(charactersOf(StringPascalString(row.text)), row.bytes) << row.name;
+        EXPECT_EQ(charactersOf(StringPascalString(text)), bytes) << name;
     }
 }
 
@@ -178,4 +165,3 @@ TEST(MacRoman, everyByteReadsBackTheSame)
 }
 
 } // namespace
-} // namespace tetrad

@@ -1,36 +1,28 @@
 #include "runtime/strings/error_object.h"
 #include "runtime/strings/text_format.h"
+#include "tests/table.h"
 
 #include <QStringList>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-namespace tetrad {
+using namespace tetrad;
+
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-struct Row
+void expectAll(const Table<QString, const char *> &rows)
 {
-    const char *name;
-    QString printed;
-    const char *expected;
-};
-
-template <std::size_t size>
-void expectAll(const Row (&rows)[size])
-{
-    for (const Row &row : rows) {
-        EXPECT_EQ(row.printed.toStdString(), row.expected) << row.name;
+    for (const auto &[name, printed, expected] : rows) {
+        EXPECT_EQ(printed.toStdString(), expected) << name;
     }
 }
 
 TEST(TextFormat, printsIntegers)
 {
-    const Row rows[] = {
+    expectAll({
         {"sign", StringWithFormat(u"%d %i %+d % d"_qs, -5, 5, 5, 5), "-5 5 +5  5"},
         {"width", StringWithFormat(u"[%4d|%-4d|%04d|%+04d]"_qs, 7, 7, 7, 7), "[   7|7   |0007|+007]"},
         {"precision takes the zeros' place", StringWithFormat(u"[%06.3d|%.0d]"_qs, -7, 0), "[  -007|]"},
@@ -47,13 +39,12 @@ TEST(TextFormat, printsIntegers)
          "-2 2147483647 2147483647 0"},
         {"a text's value", StringWithFormat(u"%d"_qs, u"12 puzzles"_qs), "12"},
         {"truth", StringWithFormat(u"%d %@"_qs, true, false), "1 0"},
-    };
-    expectAll(rows);
+    });
 }
 
 TEST(TextFormat, printsDoubles)
 {
-    const Row rows[] = {
+    expectAll({
         {"three decimals", StringWithFormat(u"%.3f %.3lf"_qs, 23.9996, -0.5), "24.000 -0.500"},
         {"halves to even", StringWithFormat(u"%.0f %.0f %.0e"_qs, 0.5, 1.5, 2.5), "0 2 2e+00"},
         {"sign of zero", StringWithFormat(u"%.1f %+.1f"_qs, -0.0, 0.0), "-0.0 +0.0"},
@@ -64,14 +55,13 @@ TEST(TextFormat, printsDoubles)
          "100000 1e+06 0.0001 1.23e+03"},
         {"not finite", StringWithFormat(u"%f %05F %e"_qs, -infinity, infinity, std::nan("")), "-inf   INF nan"},
         {"an integer for a double", StringWithFormat(u"%.1f %.1f"_qs, 3, u"2.5 kg"_qs), "3.0 2.5"},
-    };
-    expectAll(rows);
+    });
 }
 
 TEST(TextFormat, printsTextsAndObjects)
 {
     const QVariant error = QVariant::fromValue(ErrorObject{u"Math"_qs, 3, u"No operand at 2"_qs});
-    const Row rows[] = {
+    expectAll({
         {"text", StringWithFormat(u"About %@!"_qs, u"Ärger"_qs), "About Ärger!"},
         {"no text", StringWithFormat(u"%@ %@ %s"_qs, QString(), QVariant(), static_cast<const char *>(nullptr)),
          "(null) (null) (null)"},
@@ -88,31 +78,28 @@ TEST(TextFormat, printsTextsAndObjects)
         {"address", StringWithFormat(u"%p %@"_qs, reinterpret_cast<void *>(0xbeef), reinterpret_cast<void *>(0xbeef)),
          "0xbeef 0xbeef"},
         {"count of characters is not written", StringWithFormat(u"a%nb%d"_qs, 1, 2), "ab2"},
-    };
-    expectAll(rows);
+    });
 }
 
 TEST(TextFormat, takesArgumentsByPlace)
 {
-    const Row rows[] = {
+    expectAll({
         {"order", StringWithFormat(u"%2$@ of %1$d"_qs, 3, u"b"_qs), "b of 3"},
         {"no such place", StringWithFormat(u"%9$d %9$@ %99999999999$d"_qs, 1), "0 (null) 0"},
         {"missing", StringWithFormat(u"%d %@ %f %s %p"_qs), "0 (null) 0.000000 (null) 0x0"},
-    };
-    expectAll(rows);
+    });
 }
 
 TEST(TextFormat, survivesMalformedFormats)
 {
-    const Row rows[] = {
+    expectAll({
         {"none", StringWithFormat({}, 1), ""},
         {"percent sign", StringWithFormat(u"100%% of %d"_qs, 1), "100% of 1"},
         {"percent last", StringWithFormat(u"100%"_qs, 1), "100%"},
         {"unknown letter", StringWithFormat(u"%y %d"_qs, 1), "%y 1"},
         {"ends in the middle", StringWithFormat(u"%-08.3l"_qs, 1), "%-08.3l"},
         {"point without digits", StringWithFormat(u"%.f %.@"_qs, 2.5, u"x"_qs), "2 "},
-    };
-    expectAll(rows);
+    });
 }
 
 TEST(TextFormat, limitsWidthAndPrecision)
@@ -124,4 +111,3 @@ TEST(TextFormat, limitsWidthAndPrecision)
 }
 
 } // namespace
-} // namespace tetrad

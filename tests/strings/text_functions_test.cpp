@@ -1,24 +1,16 @@
 #include "runtime/strings/text_functions.h"
+#include "tests/table.h"
 
 #include <QSet>
 #include <QVariant>
 
-#include <gtest/gtest.h>
+using namespace tetrad;
 
-namespace tetrad {
 namespace {
 
 TEST(InString, searchesByStartAndOptions)
 {
-    const struct
-    {
-        const char *name;
-        qint32 start;
-        QString haystack;
-        QString needle;
-        qint64 options;
-        qint64 location;
-    } rows[] = {
+    const Table<qint32, QString, QString, qint64, qint64> rows = {
         {"options not given", 0, u"ABC"_qs, u"C"_qs, notGiven, 2},
         {"start at the end", 3, u"ABC"_qs, u"C"_qs, notGiven, notFound},
         {"start beyond the end", 2147483647, u"ABC"_qs, u"C"_qs, searchLiteral, notFound},
@@ -35,8 +27,8 @@ TEST(InString, searchesByStartAndOptions)
         {"backwards, case-insensitive", 5, u"abcabc"_qs, u"B"_qs, searchBackwards + searchCaseInsensitive, 4},
         {"positions are UTF-16 units", 0, u"🟡B"_qs, u"B"_qs, notGiven, 2},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(InString(row.start, row.haystack, row.needle, row.options), row.location) << row.name;
+    for (const auto &[name, start, haystack, needle, options, location] : rows) {
+        EXPECT_EQ(InString(start, haystack, needle, options), location) << name;
     }
 }
 
@@ -85,14 +77,7 @@ TEST(TextFunctions, splitAtASeparator)
 
 TEST(TextFunctions, cutRangesToTheText)
 {
-    const struct
-    {
-        const char *name;
-        qint64 location;
-        qint64 length;
-        QString part;
-        QString replaced;
-    } rows[] = {
+    const Table<qint64, qint64, QString, QString> rows = {
         {"inside", 1, 3, u"ELL"_qs, u"H-O"_qs},
         {"everything", 0, 5, u"HELLO"_qs, u"-"_qs},
         {"nothing", 2, 0, u""_qs, u"HE-LLO"_qs},
@@ -101,10 +86,9 @@ TEST(TextFunctions, cutRangesToTheText)
         {"negative location", -2, 1, u"H"_qs, u"-ELLO"_qs},
         {"negative length", 1, -1, u""_qs, u"H-ELLO"_qs},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(StringSubstringWithRange(u"HELLO"_qs, row.location, row.length), row.part) << row.name;
-        EXPECT_EQ(StringByReplacingCharactersInRange(u"HELLO"_qs, row.location, row.length, u"-"_qs), row.replaced)
-            << row.name;
+    for (const auto &[name, location, length, part, replaced] : rows) {
+        EXPECT_EQ(StringSubstringWithRange(u"HELLO"_qs, location, length), part) << name;
+        EXPECT_EQ(StringByReplacingCharactersInRange(u"HELLO"_qs, location, length, u"-"_qs), replaced) << name;
     }
 }
 
@@ -130,4 +114,3 @@ TEST(TextFunctions, noneStaysNone)
 }
 
 } // namespace
-} // namespace tetrad
