@@ -84,14 +84,8 @@ TEST(BoundsError, IsNoneUpToTheBound)
 
 TEST(Stop, EndsTheProcess)
 {
-    const struct
-    {
-        const char *name;
-        qint32 fatal;
-        QString answer;
-        bool refuses;
-        bool aborts;
-    } rows[] = {
+    // Code and answer, whether the delegate refuses, and whether it is an abort.
+    const Table<qint32, QString, bool, bool> rows = {
         {"fatal, Quit", 1, u"Quit"_qs, false, false},
         {"fatal, Crash", 1, u"Crash"_qs, false, true},
         {"fatal by -1", -1, u"Crash"_qs, false, true},
@@ -100,18 +94,16 @@ TEST(Stop, EndsTheProcess)
         {"not fatal, Crash", 0, u"Crash"_qs, false, true},
         {"only the low byte counts", 0x100, u"Stop"_qs, false, false},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto stop = [&row] {
+    for (const auto &[name, fatal, answer, refuses, aborts] : rows) {
+        SCOPED_TRACE(name);
+        const auto stop = [code = fatal, title = answer, callback = refuses ? refuse : nullptr] {
             CocoaInit();
-            if (row.refuses) {
-                CUI_AppDelegateObj()->setDelegateCallback(refuse);
-            }
-            press(row.answer);
-            ZRFullStop(u"Message"_qs, u"Informative"_qs, row.fatal);
+            CUI_AppDelegateObj()->setDelegateCallback(callback);
+            press(title);
+            ZRFullStop(u"Message"_qs, u"Informative"_qs, code);
         };
-        const auto ended = [&row](int status) {
-            return row.aborts ? diedOfAbort(status) : testing::ExitedWithCode(0)(status);
+        const auto ended = [dies = aborts](int status) {
+            return dies ? diedOfAbort(status) : testing::ExitedWithCode(0)(status);
         };
         EXPECT_EXIT(stop(), ended, "");
     }

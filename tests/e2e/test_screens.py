@@ -5,9 +5,9 @@ import re
 import unittest
 
 from desktop import until
+from palettes import dark_environment
 from pixels import Picture
 from playing import PlayingTest, prompt_after
-from screenshots import dark_environment
 
 BLACK, WHITE, GREEN, RED = (0, 0, 0), (255, 255, 255), (0, 255, 0), (255, 0, 0)
 MESSAGE = (10, 200, 420, 15)  # where messages about an answer stand

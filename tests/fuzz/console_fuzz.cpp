@@ -61,126 +61,96 @@ QString text(Input &input)
     return input.byte() % 4 == 0 ? input.units(12) : input.textUntil('|').left(60);
 }
 
-void printOrPlace(Input &input, CUI_PrintToWindowView &view)
+using View = CUI_PrintToWindowView;
+using Operation = void (*)(Input &, View &);
+
+// The next byte chooses; an operation that stands twice is chosen twice as often.
+void choose(Input &input, View &view, const QList<Operation> &operations)
 {
-    switch (input.below(4)) {
-    case 0:
-        view.addString(text(input), point(input));
-        break;
-    case 1: {
-        const double column = length(input);
-        view.setColumnRow(column, length(input));
-        break;
-    }
-    default:
-        view.addString(text(input));
-    }
+    operations.at(input.below(static_cast<int>(operations.size())))(input, view);
 }
 
-void setTextStyle(Input &input, CUI_PrintToWindowView &view)
+void print(Input &in, View &view)
 {
-    switch (input.below(6)) {
-    case 0:
-        view.setFontSize(input.byte() < 250 ? input.byte() / 8.0 : input.number<double>());
-        break;
-    case 1:
-        view.setForegroundColor(color(input));
-        break;
-    case 2:
-        view.setBackgroundColor(color(input));
-        break;
-    case 3:
-        view.setAlignment(input.number<qint8>());
-        break;
-    case 4:
-        view.setTabInterval(length(input));
-        break;
-    default:
-        view.resetAttributes();
-    }
+    view.addString(text(in));
 }
 
-void setLineStyle(Input &input, CUI_PrintToWindowView &view)
+void printOrPlace(Input &input, View &view)
 {
-    switch (input.below(5)) {
-    case 0:
-        view.setCurrentLineWidth(input.byte() < 250 ? input.number<qint8>() / 4.0 : input.number<double>());
-        break;
-    case 1:
-        view.setCurrentLineCapStyle(input.byte());
-        break;
-    case 2: {
-        QList<double> pattern;
-        for (int i = input.below(5); i > 0; --i) {
-            pattern.append(input.byte() < 250 ? input.byte() / 8.0 : input.number<double>());
-        }
-        view.setCurrentLineDashPattern(pattern);
-        break;
-    }
-    case 3:
-        view.setCurrentLineDashPhase(length(input));
-        break;
-    default:
-        view.setCurrentStrokeColor(color(input));
-    }
+    choose(input, view,
+           {[](Input &in, View &v) { v.addString(text(in), point(in)); },
+            [](Input &in, View &v) {
+                const QPointF cell = point(in);
+                v.setColumnRow(cell.x(), cell.y());
+            },
+            print, print});
 }
 
-void draw(Input &input, CUI_PrintToWindowView &view)
+void setTextStyle(Input &input, View &view)
+{
+    choose(input, view,
+           {[](Input &in, View &v) { v.setFontSize(in.byte() < 250 ? in.byte() / 8.0 : in.number<double>()); },
+            [](Input &in, View &v) { v.setForegroundColor(color(in)); },
+            [](Input &in, View &v) { v.setBackgroundColor(color(in)); },
+            [](Input &in, View &v) { v.setAlignment(in.number<qint8>()); },
+            [](Input &in, View &v) { v.setTabInterval(length(in)); }, [](Input &, View &v) { v.resetAttributes(); }});
+}
+
+void setDashes(Input &in, View &view)
+{
+    QList<double> pattern;
+    for (int i = in.below(5); i > 0; --i) {
+        pattern.append(in.byte() < 250 ? in.byte() / 8.0 : in.number<double>());
+    }
+    view.setCurrentLineDashPattern(pattern);
+}
+
+void setLineStyle(Input &input, View &view)
+{
+    choose(input, view,
+           {[](Input &in, View &v) {
+                v.setCurrentLineWidth(in.byte() < 250 ? in.number<qint8>() / 4.0 : in.number<double>());
+            },
+            [](Input &in, View &v) { v.setCurrentLineCapStyle(in.byte()); }, setDashes,
+            [](Input &in, View &v) { v.setCurrentLineDashPhase(length(in)); },
+            [](Input &in, View &v) { v.setCurrentStrokeColor(color(in)); }});
+}
+
+void draw(Input &input, View &view)
 {
     const QRectF area = rect(input);
     const QColor stroke = color(input);
-    switch (input.below(3)) {
-    case 0:
-        view.addRect(area, stroke, color(input));
-        break;
-    case 1:
-        view.addOval(area, stroke, color(input));
-        break;
-    default: {
-        QList<QPointF> points;
-        for (int i = input.below(4); i > 0; --i) {
-            points.append(point(input));
-        }
-        view.addLines(points, input.below(2) == 0);
+    const int shape = input.below(3);
+    if (shape < 2) {
+        shape == 0 ? view.addRect(area, stroke, color(input)) : view.addOval(area, stroke, color(input));
+        return;
     }
+    QList<QPointF> points;
+    for (int i = input.below(4); i > 0; --i) {
+        points.append(point(input));
     }
+    view.addLines(points, input.below(2) == 0);
 }
 
-void operate(Input &input, CUI_PrintToWindowView &view)
+void clearOrSelect(Input &in, View &view)
 {
-    switch (input.below(8)) {
-    case 0:
-        setTextStyle(input, view);
-        break;
-    case 1:
-        setLineStyle(input, view);
-        break;
-    case 2:
-    case 3:
-        draw(input, view);
-        break;
-    case 4:
-        view.setFlipView(input.below(2) == 0);
-        break;
-    case 5:
-        if (input.below(4) == 0) {
-            view.clear();
-        } else {
-            view.select(input.number<qint16>(), input.number<qint16>());
-        }
-        break;
-    default:
-        printOrPlace(input, view);
-    }
+    in.below(4) == 0 ? view.clear() : view.select(in.number<qint16>(), in.number<qint16>());
 }
 
-void render(CUI_PrintToWindowView &view, QImage &image, const QRect &part)
+void operate(Input &input, View &view)
+{
+    choose(input, view,
+           {setTextStyle, setLineStyle, draw, draw, [](Input &in, View &v) { v.setFlipView(in.below(2) == 0); },
+            clearOrSelect, printOrPlace, printOrPlace});
+}
+
+void render(View &view, QImage &image, const QRect &part)
 {
     QPainter painter(&image);
     view.render(&painter, part.topLeft(), part, QWidget::RenderFlags());
 }
 
-void drawInStrips(CUI_PrintToWindowView &view, int height)
+void drawInStrips(View &view, int height)
 {
     view.resize(picture);
     QImage whole(picture, QImage::Format_ARGB32_Premultiplied);
@@ -193,7 +163,7 @@ void drawInStrips(CUI_PrintToWindowView &view, int height)
     require(whole == strips, "strips together are the whole picture", view.dump());
 }
 
-void archive(const CUI_PrintToWindowView &view)
+void archive(const View &view)
 {
     const QVariantList items = view.itemArray();
     require(items.size() == view.items().size(), "every item is archived", view.dump());
@@ -209,7 +179,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     ensureApplication();
     Input input(data, size);
-    CUI_PrintToWindowView view(QRectF(0, 0, picture.width(), 1));
+    View view(QRectF(0, 0, picture.width(), 1));
     for (int count = 0; count < 60 && !input.isEmpty(); ++count) {
         operate(input, view);
     }

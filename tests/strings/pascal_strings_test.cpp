@@ -69,16 +69,6 @@ TEST(StringStackDeathTest, tellsTheStopAndAbortsIfItReturns)
                                  "Medium or Maximum\\|-1");
 }
 
-TEST(PascalStrings, everyConsumerPopsOneSlot)
-{
-    PSmid(pushed("HELLO"), 1, 1);
-    PSlen(pushed("HELLO"));
-    PSasc(pushed("HELLO"));
-    StringWithPascalString(pushed("HELLO"));
-    StringPascalString(u"HELLO"_qs);
-    EXPECT_EQ(gZRStk, 0);
-}
-
 TEST(PascalStrings, midClampsItsArguments)
 {
     const std::string longest(255, 'x');
@@ -106,15 +96,6 @@ TEST(PascalStrings, shareOneResult)
     EXPECT_EQ(StringPascalString(u"second"_qs), first);
     EXPECT_EQ(charactersOf(first), "second");
     EXPECT_EQ(charactersOf(PSmid(gReturnedString, 2, 3)), "eco") << "a result is its own next source";
-}
-
-TEST(PascalStrings, lengthAndCodeAreUnsigned)
-{
-    EXPECT_EQ(PSlen(pushed(std::string(255, 'x'))), 255);
-    EXPECT_EQ(PSlen(pushed("")), 0);
-    EXPECT_EQ(PSasc(pushed("\xC8")), 200);
-    PascalString empty = {0, 'x'};
-    EXPECT_EQ(PSasc(PSstrcpy(STACK_PUSH(), empty)), 0);
 }
 
 TEST(PascalStrings, copyIsSafeOnOverlap)

@@ -20,15 +20,12 @@ void expectAll(const Table<QString, const char *> &rows)
     }
 }
 
-TEST(TextFormat, printsIntegers)
+// What C's printf prints as well is compared with it by the fuzz harness; here is what it would not take.
+TEST(TextFormat, printsNumbersGivenAsAnotherType)
 {
     expectAll({
-        {"sign", StringWithFormat(u"%d %i %+d % d"_qs, -5, 5, 5, 5), "-5 5 +5  5"},
-        {"width", StringWithFormat(u"[%4d|%-4d|%04d|%+04d]"_qs, 7, 7, 7, 7), "[   7|7   |0007|+007]"},
-        {"precision takes the zeros' place", StringWithFormat(u"[%06.3d|%.0d]"_qs, -7, 0), "[  -007|]"},
         {"width from arguments", StringWithFormat(u"[%*d|%*d]"_qs, 3, 7, -3, 7), "[  7|7  ]"},
-        {"bases", StringWithFormat(u"%u %o %x %X"_qs, 255U, 255, 255, 255), "255 377 ff FF"},
-        {"marked bases", StringWithFormat(u"%#o %#x %#X %#x"_qs, 8, 255, 255, 0), "010 0xff 0XFF 0"},
+        {"precision from an argument", StringWithFormat(u"%.*f %.*f"_qs, 1, 0.25, -1, 0.25), "0.2 0.250000"},
         {"extremes",
          StringWithFormat(u"%ld %lu"_qs, std::numeric_limits<qint64>::min(), std::numeric_limits<quint64>::max()),
          "-9223372036854775808 18446744073709551615"},
@@ -37,24 +34,10 @@ TEST(TextFormat, printsIntegers)
          "1099511627776 1 2 3 4 5"},
         {"doubles saturate", StringWithFormat(u"%d %d %d %u"_qs, -2.9, 1e20, infinity, -1.0),
          "-2 2147483647 2147483647 0"},
-        {"a text's value", StringWithFormat(u"%d"_qs, u"12 puzzles"_qs), "12"},
+        {"a text's value", StringWithFormat(u"%d %.1f"_qs, u"12 puzzles"_qs, u"2.5 kg"_qs), "12 2.5"},
+        {"an integer for a double", StringWithFormat(u"%.1f"_qs, 3), "3.0"},
         {"truth", StringWithFormat(u"%d %@"_qs, true, false), "1 0"},
-    });
-}
-
-TEST(TextFormat, printsDoubles)
-{
-    expectAll({
-        {"three decimals", StringWithFormat(u"%.3f %.3lf"_qs, 23.9996, -0.5), "24.000 -0.500"},
-        {"halves to even", StringWithFormat(u"%.0f %.0f %.0e"_qs, 0.5, 1.5, 2.5), "0 2 2e+00"},
-        {"sign of zero", StringWithFormat(u"%.1f %+.1f"_qs, -0.0, 0.0), "-0.0 +0.0"},
-        {"width", StringWithFormat(u"[%8.2f|%-8.2f|%08.2f]"_qs, -1.5, -1.5, -1.5), "[   -1.50|-1.50   |-0001.50]"},
-        {"precision from an argument", StringWithFormat(u"%.*f %.*f"_qs, 1, 0.25, -1, 0.25), "0.2 0.250000"},
-        {"exponents", StringWithFormat(u"%e %.2E %G"_qs, 12345.678, 12345.678, 1e-10), "1.234568e+04 1.23E+04 1E-10"},
-        {"general", StringWithFormat(u"%g %g %g %.3g"_qs, 100000.0, 1e6, 0.0001, 1234.5),
-         "100000 1e+06 0.0001 1.23e+03"},
         {"not finite", StringWithFormat(u"%f %05F %e"_qs, -infinity, infinity, std::nan("")), "-inf   INF nan"},
-        {"an integer for a double", StringWithFormat(u"%.1f %.1f"_qs, 3, u"2.5 kg"_qs), "3.0 2.5"},
     });
 }
 
