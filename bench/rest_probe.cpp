@@ -23,6 +23,9 @@ int main(int, char **argv)
     for (const auto &[thread, after] : program.activity()) {
         const auto earlier = before.find(thread);
         const Program::Activity start = earlier == before.end() ? Program::Activity() : earlier->second;
+        if (after.wakeUps < start.wakeUps) {
+            continue; // It ended between being listed and being asked.
+        }
         sum.cpuMilliseconds += after.cpuMilliseconds - start.cpuMilliseconds;
         sum.wakeUps += after.wakeUps - start.wakeUps;
     }

@@ -119,12 +119,12 @@ bool Screen::waitForChange(Clock::time_point until)
 std::optional<Clock::time_point> Screen::waitForPicture(Window window, Clock::time_point until,
                                                         const std::function<bool(const std::string &)> &condition)
 {
-    do {
+    while (waitForChange(until)) {
         const Clock::time_point seen = Clock::now();
         if (condition(pixels(window))) {
             return seen;
         }
-    } while (waitForChange(until));
+    }
     return std::nullopt;
 }
 
@@ -132,18 +132,20 @@ Clock::time_point Screen::waitUntilSettled(Window window, std::string picture, M
 {
     const auto pause = std::chrono::duration_cast<Clock::duration>(quiet);
     Clock::time_point last = Clock::now();
-    do {
+    while (Clock::now() - last < pause && waitForChange(last + pause)) {
         const Clock::time_point seen = Clock::now();
         if (std::string now = pixels(window); now != picture) {
             picture = std::move(now);
             last = seen;
         }
-    } while (Clock::now() - last < pause && waitForChange(last + pause));
+    }
     return last;
 }
 
 void Screen::press(const char *key)
 {
+    while (waitForChange(Clock::now())) {
+    }
     const KeyCode code = XKeysymToKeycode(m_display, XStringToKeysym(key));
     XTestFakeKeyEvent(m_display, code, True, CurrentTime);
     XTestFakeKeyEvent(m_display, code, False, CurrentTime);

@@ -35,7 +35,8 @@ public:
     /// Waits for a change of any pixel on the screen.
     bool waitForChange(Clock::time_point until);
 
-    /// When a picture of the window first satisfied the condition, looking at it after each change.
+    /// When the change came after which a picture of the window first satisfied the condition. Nothing is fetched
+    /// before a change, since the server would be busy with that instead of the program's requests.
     std::optional<Clock::time_point> waitForPicture(Window window, Clock::time_point until,
                                                     const std::function<bool(const std::string &)> &condition);
 
@@ -47,7 +48,8 @@ public:
         return waitUntilSettled(window, pixels(window), quiet);
     }
 
-    /// A press and release of the key that has this X name in the unshifted state, as "1", "Return".
+    /// Forgets the changes so far. A press and release of the key that has this X name in the unshifted state, as "1",
+    /// "Return".
     void press(const char *key);
 
 private:

@@ -373,7 +373,9 @@ void CUI_PrintToWindowView::paintEvent(QPaintEvent *event)
     const ItemPainter::Canvas canvas{painter, palette().color(QPalette::WindowText), !m_flipView, m_documentHeight};
     const QRectF part = mirrored(QRectF(event->rect()));
     for (const quint32 index : m_items.itemsIn(part.top(), part.bottom())) {
-        m_itemPainter.draw(canvas, m_items, index);
+        if (m_items.isBetween(index, part.left(), part.right())) {
+            m_itemPainter.draw(canvas, m_items, index);
+        }
     }
     m_reader.drawSelection(canvas, palette().color(QPalette::Highlight), palette().color(QPalette::HighlightedText),
                            part.top(), part.bottom());

@@ -22,6 +22,9 @@ void DisplayList::append(Entry entry, const QRectF &ink)
 {
     if (isDrawable(ink)) {
         m_bands.add(size(), ink.top(), ink.bottom());
+        // Whole pixels, which a float holds as they are.
+        entry.inkLeft = static_cast<float>(std::floor(ink.left()) - 1);
+        entry.inkRight = static_cast<float>(std::ceil(ink.right()) + 1);
     }
     m_entries.push_back(std::move(entry));
 }

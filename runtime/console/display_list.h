@@ -23,6 +23,9 @@ public:
         double width = 0;
         /// A text that was followed by the end of its line.
         bool endsLine = false;
+        /// What drawing it touches from left to right, set by append.
+        float inkLeft = 0;
+        float inkRight = 0;
     };
 
     quint32 size() const { return static_cast<quint32>(m_entries.size()); }
@@ -35,6 +38,12 @@ public:
 
     /// The items, in drawing order, that may touch the part of the document between two heights.
     std::vector<quint32> itemsIn(double top, double bottom) const;
+
+    /// Whether drawing the item may touch anything between two places from left to right.
+    bool isBetween(quint32 index, double left, double right) const
+    {
+        return m_entries[index].inkRight >= left && m_entries[index].inkLeft <= right;
+    }
 
     /// One dictionary per item, in drawing order.
     QVariantList itemArray() const;

@@ -3,6 +3,7 @@
 #include "runtime/app/modal.h"
 #include "runtime/app/window.h"
 #include "runtime/app/windows.h"
+#include "runtime/input/panel_backdrop.h"
 #include "runtime/input/panel_layout.h"
 #include "runtime/strings/not_given.h"
 
@@ -13,18 +14,15 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
+
+#include <algorithm>
 
 namespace tetrad {
 
 namespace {
 
-constexpr int shadowMargin = 14;
-constexpr int shadowOffset = 3;
 constexpr int textInset = 2; ///< of a label's text, as of a line edit's
-constexpr double cornerRadius = 10.0;
-constexpr double bodyOpacity = 0.93;
 
 QWidget *hostOfPanel()
 {
@@ -96,39 +94,6 @@ QString newConsoleText(const QWidget *content)
     return text;
 }
 
-/// Rings that add up to a shadow which fades outwards and stays outside the body.
-void paintShadow(QPainter *painter, const QRectF &body)
-{
-    QPainterPath outside;
-    outside.addRect(body.adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
-    outside.addRoundedRect(body, cornerRadius, cornerRadius);
-    painter->save();
-    painter->setClipPath(outside);
-    painter->setPen(Qt::NoPen);
-    for (int spread = shadowMargin - shadowOffset; spread > 0; --spread) {
-        painter->setBrush(QColor(0, 0, 0, 2 + (shadowMargin - spread) / 2));
-        painter->drawRoundedRect(body.adjusted(-spread, -spread, spread, spread).translated(0, shadowOffset),
-                                 cornerRadius + spread, cornerRadius + spread);
-    }
-    painter->restore();
-}
-
-QColor bodyColor(const QPalette &palette)
-{
-    QColor color = palette.color(QPalette::Window);
-    color.setAlphaF(bodyOpacity);
-    return color;
-}
-
-void paintBody(QPainter *painter, const QRectF &body, const QPalette &palette)
-{
-    QColor edge = palette.color(QPalette::WindowText);
-    edge.setAlphaF(0.25);
-    painter->setPen(QPen(edge, 1));
-    painter->setBrush(bodyColor(palette));
-    painter->drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
-}
-
 } // namespace
 
 FloatingPanel::FloatingPanel(const QString &prompt, qint64 xPos, qint64 yPos)
@@ -157,15 +122,19 @@ QRect FloatingPanel::bodyRect() const
 void FloatingPanel::resize()
 {
     PanelMetrics metrics;
-    metrics.promptWidth = m_prompt.isEmpty() ? 0 : m_label->fontMetrics().horizontalAdvance(inOneLine(m_prompt));
+    metrics.promptWidth = m_promptWidth;
     metrics.entryWidth = entryTextWidth();
     metrics.minimumWidth = minimumBodyWidth();
     metrics.usableEntryWidth = usableEntryWidth();
 
     const QRect host = hostRect();
     const PanelGeometry parts = layOutPanel(metrics, m_wanted, host.size());
+    // What stays when a key widens the panel is not painted again, only its end; where pixels are divided, all is.
+    setAttribute(Qt::WA_StaticContents, devicePixelRatioF() == devicePixelRatio());
+    const int narrower = std::min(width(), parts.body.width() + 2 * shadowMargin);
     setGeometry(
         parts.body.translated(host.topLeft()).adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
+    update(rect().adjusted(narrower - panelEndWidth, 0, 0, 0));
     m_label->setGeometry(parts.label.translated(shadowMargin, shadowMargin));
     m_entry->setGeometry(parts.entry.translated(shadowMargin, shadowMargin));
     // A label rounds the middle of its line down, a line edit up; both baselines must be one.
@@ -232,16 +201,11 @@ bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
 void FloatingPanel::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const QRectF body = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
-    // A key repaints the field alone, under which the body has one colour; shadow and edge are dear.
-    const QRectF plain = body.adjusted(cornerRadius, 1, -cornerRadius, -1);
-    if (plain.adjusted(1, 1, -1, -1).contains(event->rect())) {
-        painter.fillRect(plain, bodyColor(palette()));
-        return;
+    // One by one: a picture is copied into a rectangle at once, but into a region span by span.
+    for (const QRect &part : event->region()) {
+        painter.setClipRect(part);
+        paintPanelBackdrop(painter, rect(), palette());
     }
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintShadow(&painter, body);
-    paintBody(&painter, body, palette());
 }
 
 void FloatingPanel::mousePressEvent(QMouseEvent *event)
@@ -279,12 +243,14 @@ void FloatingPanel::adoptApplicationLook()
 {
     setPalette(panelPalette());
     setFont(panelFont());
+    m_promptWidth = m_prompt.isEmpty() ? 0 : m_label->fontMetrics().horizontalAdvance(inOneLine(m_prompt));
 }
 
 void FloatingPanel::showPrompt(int width)
 {
     const QString line = inOneLine(m_prompt);
-    const QString shown = m_label->fontMetrics().elidedText(line, Qt::ElideMiddle, width - 2 * textInset);
+    const int room = width - 2 * textInset;
+    const QString shown = m_promptWidth <= room ? line : m_label->fontMetrics().elidedText(line, Qt::ElideMiddle, room);
     if (shown != m_label->text()) {
         m_label->setText(shown);
         m_label->setToolTip(shown == line ? QString() : m_prompt);

@@ -74,6 +74,7 @@ private:
     void showPrompt(int width);
 
     QString m_prompt;
+    int m_promptWidth = 0;
     qint64 m_xPos = 0;
     qint64 m_yPos = 0;
     QLabel *m_label = nullptr;

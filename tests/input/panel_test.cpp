@@ -6,6 +6,7 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 
 using namespace tetrad;
 using namespace Qt::Literals::StringLiterals;
@@ -36,6 +37,25 @@ TEST_F(Panel, growsWithTheTextUntilTheEdgeWhereTheFieldScrolls)
     EXPECT_EQ(panel.bodyRect().right(), host->contentView()->rect().right());
     panel.field()->setText(QString());
     EXPECT_EQ(panel.bodyRect().width(), 110);
+}
+
+TEST_F(Panel, whatAKeyPaintsIsWhatPaintingEverythingWouldShow)
+{
+    ZRInputWindow panel(u"Prompt:"_s, 10, 190);
+    panel.show();
+    const auto shown = [this] {
+        QCoreApplication::processEvents();
+        return host->screen()->grabWindow(host->winId()).toImage();
+    };
+    QImage before = shown();
+    for (const QString &text : {u"1"_s, QString(30, u'2'), u"33333"_s, QString()}) {
+        panel.field()->setText(text);
+        const QImage after = shown();
+        EXPECT_NE(after, before) << text.toStdString();
+        host->contentView()->update();
+        EXPECT_EQ(after, shown()) << text.toStdString();
+        before = after;
+    }
 }
 
 TEST_F(Panel, aSmallerWindowPushesItInAndALargerOneRestoresIt)
