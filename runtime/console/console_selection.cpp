@@ -1,5 +1,6 @@
 #include "runtime/console/console_selection.h"
 
+#include "runtime/app/modal.h"
 #include "runtime/console/console_scroll_view.h"
 #include "runtime/console/console_view.h"
 
@@ -88,6 +89,8 @@ bool ConsoleSelection::pressKey(QKeyEvent *event)
     if (!target) {
         return false;
     }
+    // An alert over the console is a window of its own.
+    target->window()->activateWindow();
     target->setFocus(Qt::OtherFocusReason);
     if (!leaves) {
         QCoreApplication::sendEvent(target, event);
@@ -146,7 +149,8 @@ QWidget *ConsoleSelection::typingTarget() const
             return field;
         }
     }
-    return nullptr;
+    QWidget *modal = modalWindow();
+    return modal != nullptr ? modal->focusWidget() : nullptr;
 }
 
 qsizetype ConsoleSelection::caretAt(const QMouseEvent *event) const

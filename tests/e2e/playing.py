@@ -50,13 +50,12 @@ class Game:
 
     def wait_until_active(self):
         """For a program that accessibility cannot see: waits until its window gets the keys."""
+        self._wait(self.is_active, "an active window")
 
-        def active():
-            window = subprocess.run(["xdotool", "getactivewindow", "getwindowpid"], env=self.desktop.environment,
-                                    stdin=subprocess.DEVNULL, capture_output=True, text=True)
-            return window.stdout.strip() == str(self.process.pid)
-
-        self._wait(active, "an active window")
+    def is_active(self):
+        window = subprocess.run(["xdotool", "getactivewindow", "getwindowpid"], env=self.desktop.environment,
+                                stdin=subprocess.DEVNULL, capture_output=True, text=True)
+        return window.stdout.strip() == str(self.process.pid)
 
     # -- what is on the screen
 

@@ -2,6 +2,8 @@
 
 import os
 import re
+import signal
+
 from desktop import Gio
 from playing import PROGRAM, PlayingTest
 
@@ -14,11 +16,20 @@ PATH_OF_SOCKET = re.compile(r'sun_path=(@?"[^"]*")')
 
 
 class TestTrace(PlayingTest):
+    def start_traced(self, calls):
+        self.path = os.path.join(self.desktop.folder, "trace")
+        return self.start(command=["strace", "-D", "-f", "-qq", "-s", "200", "-e", f"trace={calls}",
+                                   "-e", "signal=none", "-o", self.path, str(PROGRAM)])
+
+    def trace(self):
+        """The system calls, those that failed left out."""
+        with open(self.path, encoding="utf-8", errors="replace") as trace:
+            calls = [line.split(maxsplit=1)[1].strip() for line in trace]
+        return [call for call in calls if not re.search(r"= -1 E", call)]
+
     def traced_session(self):
-        """Plays with everything the game has; returns its system calls, those that failed left out."""
-        path = os.path.join(self.desktop.folder, "trace")
-        game = self.start(command=["strace", "-D", "-f", "-qq", "-s", "200", "-e", f"trace={CALLS}",
-                                   "-e", "signal=none", "-o", path, str(PROGRAM)])
+        """Plays with everything the game has; returns its system calls."""
+        game = self.start_traced(CALLS)
         game.wait_for_prompt()
         self.desktop.set_clipboard("1+2")
         self.desktop.press("ctrl+v")
@@ -33,9 +44,7 @@ class TestTrace(PlayingTest):
         game.wait_for_other_puzzle(won)
         self.desktop.press("ctrl+q")
         self.assert_clean_end(game)
-        with open(path, encoding="utf-8", errors="replace") as trace:
-            calls = [line.split(maxsplit=1)[1].strip() for line in trace]
-        return [call for call in calls if not re.search(r"= -1 E", call)]
+        return self.trace()
 
     def is_allowed(self, call):
         if OPENING.match(call):
@@ -65,3 +74,13 @@ class TestTrace(PlayingTest):
         for call in ("openat(", "connect("):
             self.assertTrue(any(each.startswith(call) for each in calls), f"the trace has {call}")
         self.assertEqual([call for call in calls if not self.is_allowed(call)], [])
+
+    def test_a_signal_to_end_is_backed_by_an_alarm_until_it_is_noticed(self):
+        game = self.start_traced("alarm,rt_sigaction")
+        game.wait_for_prompt()
+        game.process.send_signal(signal.SIGTERM)
+        self.assert_clean_end(game)
+        calls = self.trace()
+        self.assertEqual([call.split(")")[0] for call in calls if call.startswith("alarm(")], ["alarm(10", "alarm(0"])
+        # The system's own way with it: the end of the process.
+        self.assertEqual([call for call in calls if call.startswith("rt_sigaction(SIGALRM, {")], [])
