@@ -44,15 +44,7 @@ TokenField::TokenField(QWidget *parent) : QLineEdit(parent)
     m_completer->setWidget(this);
     connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this, &TokenField::complete);
     connect(this, &QLineEdit::textEdited, this, [this] { CUI_Soon(this, [this] { textWasEdited(); }); });
-    connect(this, &QLineEdit::returnPressed, this, [this] {
-        CUI_Soon(this, [this] {
-            const QPointer<TokenField> guard(this);
-            finishTokens();
-            if (guard) {
-                CUI_ControlSendAction(this);
-            }
-        });
-    });
+    connect(this, &QLineEdit::returnPressed, this, [this] { CUI_Soon(this, [this] { finishEditing(); }); });
 }
 
 void TokenField::setTokens(const QStringList &tokens)
@@ -76,6 +68,15 @@ void TokenField::textWasEdited()
         finishTokens();
     } else {
         offerCompletions();
+    }
+}
+
+void TokenField::finishEditing()
+{
+    const QPointer<TokenField> guard(this);
+    finishTokens();
+    if (guard) {
+        CUI_ControlSendAction(this);
     }
 }
 

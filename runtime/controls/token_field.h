@@ -31,6 +31,7 @@ protected:
 
 private:
     void textWasEdited();
+    void finishEditing();
     void finishTokens();
     void offerCompletions();
     void complete(const QString &completion);
