@@ -383,7 +383,7 @@ TEST_F(WindowDelegate, ContentViewReportsWithItsFlagOnly)
     auto *const view = qobject_cast<ContentViewSC *>(m_window->contentView());
     view->repaint(1, 2, 30, 40);
     QTest::mousePress(view, Qt::LeftButton, {}, QPoint(20, 30));
-    EXPECT_EQ(takeCodes(), Codes());
+    EXPECT_TRUE(takeCodes().isEmpty());
     view->setSubclassFlag(true);
     CUI_OutputWindowSetTag(99);
     CUI_DialogEventObj()->boolVal = true;
