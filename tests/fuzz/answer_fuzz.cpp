@@ -83,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString puzzle = puzzleText(input.below(puzzleCount));
     PuzzleNumbers numbers(checkBounds);
     for (qint16 i = 1; i <= 4; ++i) {
-        numbers.at(i, 0) = static_cast<qint16>(puzzle.at(2 * (i - 1)).digitValue());
+        numbers.at(i, 0) = static_cast<qint16>(puzzle.at(2 * qsizetype(i - 1)).digitValue());
     }
     const QString answer = input.rest();
     judge(answer, numbers);

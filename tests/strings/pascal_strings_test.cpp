@@ -4,6 +4,7 @@
 #include "tests/table.h"
 
 #include <cstdlib>
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -15,7 +16,7 @@ namespace {
 unsigned char *pushed(const std::string &characters)
 {
     PascalString string = {static_cast<unsigned char>(characters.size())};
-    std::memcpy(string + 1, characters.data(), characters.size());
+    std::copy(characters.begin(), characters.end(), string + 1);
     return PSstrcpy(STACK_PUSH(), string);
 }
 
