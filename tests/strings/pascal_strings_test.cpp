@@ -3,8 +3,8 @@
 #include "runtime/strings/text_format.h"
 #include "tests/table.h"
 
-#include <cstdlib>
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 
