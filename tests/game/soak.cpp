@@ -90,7 +90,7 @@ struct Holdings
 qint64 heapInUse_bytes()
 {
     const struct mallinfo2 facts = mallinfo2();
-    return static_cast<qint64>(facts.uordblks + facts.hblkhd);
+    return static_cast<qint64>(facts.uordblks) + static_cast<qint64>(facts.hblkhd);
 }
 
 Holdings holdingsNow()
