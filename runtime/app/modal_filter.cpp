@@ -202,6 +202,9 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
     const QEvent::Type type = event->type();
     if (type == QEvent::Hide && !event->spontaneous()) {
         Q_EMIT hidden(widget);
+        if (widget->windowType() == Qt::Popup) {
+            QMetaObject::invokeMethod(this, &ModalFilter::followKeyboard, Qt::QueuedConnection);
+        }
         return false;
     }
     if (type == QEvent::WindowActivate) {
@@ -229,6 +232,18 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         return !scrolls(widget);
     }
     return isPointer(type) && !isScrollBar(widget);
+}
+
+// The application overlooks that a window gets the keyboard while a menu is open, and would go on showing the focus in
+// the one that had it before.
+void ModalFilter::followKeyboard()
+{
+    QWidget *window = widgetOfWindow(QGuiApplication::focusWindow());
+    const bool isOver = QApplication::activePopupWidget() == nullptr;
+    if (isOver && window != nullptr && window->isVisible() && window->windowType() != Qt::Popup &&
+        !window->isActiveWindow()) {
+        QApplication::setActiveWindow(window);
+    }
 }
 
 // A key that repeats because it is held down is not typed ahead, and a release counts only after

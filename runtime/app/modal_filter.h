@@ -44,6 +44,7 @@ Q_SIGNALS:
 private:
     bool isWithheldFromWindow(QWindow *window, QEvent *event);
     bool isWithheldFromWidget(QWidget *widget, QEvent *event);
+    void followKeyboard();
     bool keepKey(QEvent *event);
     bool redirectKey(QEvent *event);
     static bool endHere(QEvent *event);

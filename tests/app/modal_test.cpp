@@ -278,6 +278,24 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
     });
 }
 
+TEST_F(Modal, AWindowThatGetsTheKeyboardBehindAMenuHasItAfterwards)
+{
+    QMenu menu;
+    menu.addAction(u"Item"_qs);
+    QWidget window;
+    QPushButton inside(&window);
+    QTimer::singleShot(0, &menu, [&] {
+        menu.popup(QPoint(10, 10));
+        window.activateWindow();
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(window.isActiveWindow());
+        menu.close();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return inside.hasFocus(); }));
+        abortModal();
+    });
+    runModalForWindow(&window);
+}
+
 TEST_F(Modal, CloseRequests)
 {
     const auto request = [](QWidget &window) {

@@ -194,7 +194,13 @@ class Desktop:
         Atspi.init()
 
     def _start_window_manager(self):
-        self.start("openbox", "--sm-disable", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        # No icon in the title bars: a click on it would open the manager's own menu, which takes the keyboard away.
+        with open("/etc/xdg/openbox/rc.xml", encoding="utf-8") as default:
+            settings = default.read().replace("<titleLayout>NLIMC", "<titleLayout>LIMC")
+        own = os.path.join(self.folder, "rc.xml")
+        with open(own, "w", encoding="utf-8") as file:
+            file.write(settings)
+        self.start("openbox", "--sm-disable", "--config-file", own, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.wait_for_window_manager()
 
     def wait_for_window_manager(self):
