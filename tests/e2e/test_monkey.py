@@ -167,7 +167,8 @@ class TestMonkey(PlayingTest):
 
     def is_in_front(self, game):
         # As the game sees it and as the display does: the game learns of a change a moment later, and never that it lost
-        # the keyboard while one of its menus was open. A window that was told to minimise a moment ago may still be active; it is asked again.
+        # the keyboard while one of its menus was open. A window that was told to minimise may still be active; it is asked
+        # again.
         seen = game.application.find_all("frame", "window", "alert", "dialog")
         if any("active" in window.states for window in seen) and self.has_keyboard(game):
             return True
