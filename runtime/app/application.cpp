@@ -29,7 +29,9 @@ QIcon installedIcon(const QString &name)
                                << programFolder + u"/../share/icons"_qs << programFolder + u"/share/icons"_qs);
     for (const QString &folder : QIcon::themeSearchPaths()) {
         QIcon icon;
-        for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        // Each window hands all of them to the window system when it is made; a larger one would cost a tenth of the
+        // time to the first prompt, and no title bar or task switcher shows it.
+        for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
             const QString file = folder + QString::asprintf("/hicolor/%dx%d/apps/", size, size) + name + u".png"_qs;
             if (QFile::exists(file)) {
                 icon.addFile(file, QSize(size, size));
