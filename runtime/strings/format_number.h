@@ -21,7 +21,7 @@ struct NumberStyle
 
 // As printf prints them in the C locale. printf itself is no choice: its decimal point follows the
 // locale, which the application object sets from the environment, and QString::asprintf loses the
-// sign of -0.0 and rounds halves differently.
+// sign of -0.0 and, as QString::number does, rounds halves up where printf rounds them to even.
 
 /// The number's magnitude and sign apart, so that every 64-bit integer fits, signed or not.
 QString printInteger(const NumberStyle &style, quint64 magnitude, bool negative);

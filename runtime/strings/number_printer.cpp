@@ -1,5 +1,6 @@
 #include "runtime/strings/number_printer.h"
 
+#include "runtime/strings/format_number.h"
 #include "runtime/strings/saturate.h"
 
 #include <cmath>
@@ -36,7 +37,7 @@ QString CopyDblToString(double number)
     QString printed = QString::number(saturatedTo<qint64>(integerPart));
     // Written so that a number that is none gets through to the fraction and prints as "nan".
     if (!(std::abs(fraction) < double(smallestFraction))) {
-        const QString fractionText = QString::number(fraction, 'f', gZRFloatMaxDigits);
+        const QString fractionText = printDouble({.precision = gZRFloatMaxDigits, .conversion = 'f'}, fraction);
         printed += u'.' + fractionDigits(fractionText);
     }
     return printed.startsWith(u'-') ? printed : u' ' + printed;

@@ -26,11 +26,6 @@ bool isFloating(const QVariant &value)
     return value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float;
 }
 
-double doubleOf(const QVariant &value)
-{
-    return ZRDblVal(value);
-}
-
 /// The argument as the 64 bits printf would take it for.
 quint64 bitsOf(const QVariant &value, const FormatDirective &directive)
 {
@@ -91,7 +86,7 @@ private:
         case DirectiveNumber::Source::Written:
             return number.value;
         case DirectiveNumber::Source::Argument: {
-            const double value = doubleOf(argumentAt(number.value));
+            const double value = ZRDblVal(argumentAt(number.value));
             return static_cast<int>(
                 std::clamp<double>(std::isnan(value) ? 0 : value, -largestDirectiveNumber, largestDirectiveNumber));
         }
@@ -147,7 +142,7 @@ private:
         case 'n': // Takes its argument and writes nothing, neither here nor there.
             break;
         default:
-            m_out += printDouble(style, doubleOf(value));
+            m_out += printDouble(style, ZRDblVal(value));
         }
     }
 

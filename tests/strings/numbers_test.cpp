@@ -30,6 +30,7 @@ TEST(NumberPrinter, printsEachForm)
         {"between -1 and 0 the sign is lost", -0.5, " 0.5"},
         {"fraction that rounds up to 1", 2.99999999999, " 2.1."},
         {"ten digits", 1.0 / 3, " 0.3333333333"},
+        {"the eleventh digit a five and no more: to even", 0.00048828125, " 0.4882812"},
         {"below the smallest fraction", 5.0000001, " 5"},
         {"the smallest fraction is 1e-6 in single precision, a little below 1e-6", 9.99999999e-7, " 0.1"},
         {"below that", 9.9999997e-7, " 0"},
