@@ -13,9 +13,9 @@ QVariantMap archivedItem(const CUI_PrintToWindowItem &item)
         {QStringLiteral("pt1"), item.linePt1()},
         {QStringLiteral("pt2"), item.linePt2()},
         {QStringLiteral("rect"), item.rect()},
-        {QStringLiteral("lineWidth"), style.width},
-        {QStringLiteral("lineCapStyle"), style.capStyle},
-        {QStringLiteral("lineDashPhase"), style.dashPhase},
+        {QStringLiteral("lineWidth"), style.lineWidth},
+        {QStringLiteral("lineCapStyle"), style.lineCapStyle},
+        {QStringLiteral("lineDashPhase"), style.lineDashPhase},
         {QStringLiteral("strokeFlag"), item.strokeFlag()},
         {QStringLiteral("fillFlag"), item.fillFlag()},
     };
@@ -24,10 +24,11 @@ QVariantMap archivedItem(const CUI_PrintToWindowItem &item)
         // Deliberately the string and not the attributes: readers of archives have always found it there.
         map.insert(QStringLiteral("attributes"), item.string());
     }
-    if (!style.dashPattern.isEmpty()) {
-        map.insert(QStringLiteral("lineDashPattern"), QVariantList(style.dashPattern.begin(), style.dashPattern.end()));
+    if (!style.lineDashPattern.isEmpty()) {
+        map.insert(QStringLiteral("lineDashPattern"),
+                   QVariantList(style.lineDashPattern.begin(), style.lineDashPattern.end()));
     }
-    if (item.type() != CUI_PrintToWindowItem::text && style.strokeColor.isValid()) {
+    if (style.strokeColor.isValid()) {
         map.insert(QStringLiteral("strokeColor"), style.strokeColor);
     }
     if (item.fillColor().isValid()) {

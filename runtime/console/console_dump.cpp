@@ -28,15 +28,15 @@ QString colorName(const QColor &color, const QString &invalid)
 
 QString strokeDump(const LineStyle &style)
 {
-    QString dump = QStringLiteral(" width ") + number(style.width);
-    if (style.capStyle != 0) {
-        dump += QStringLiteral(" cap ") + QString::number(style.capStyle);
+    QString dump = QStringLiteral(" width ") + number(style.lineWidth);
+    if (style.lineCapStyle != 0) {
+        dump += QStringLiteral(" cap ") + QString::number(style.lineCapStyle);
     }
-    for (qsizetype i = 0; i < style.dashPattern.size(); ++i) {
-        dump += (i == 0 ? QStringLiteral(" dash ") : QStringLiteral(",")) + number(style.dashPattern.at(i));
+    for (qsizetype i = 0; i < style.lineDashPattern.size(); ++i) {
+        dump += (i == 0 ? QStringLiteral(" dash ") : QStringLiteral(",")) + number(style.lineDashPattern.at(i));
     }
-    if (style.dashPhase != 0) {
-        dump += QStringLiteral(" phase ") + number(style.dashPhase);
+    if (style.lineDashPhase != 0) {
+        dump += QStringLiteral(" phase ") + number(style.lineDashPhase);
     }
     return dump + QStringLiteral(" stroke ") + colorName(style.strokeColor, QStringLiteral("black"));
 }
@@ -83,8 +83,7 @@ QString shapeDump(const Item &item)
 
 QString dumpedItem(const CUI_PrintToWindowItem &item)
 {
-    const bool isShape = item.type() >= Item::line && item.type() <= Item::oval;
-    return isShape ? shapeDump(item) : textDump(item);
+    return item.isShape() ? shapeDump(item) : textDump(item);
 }
 
 } // namespace tetrad

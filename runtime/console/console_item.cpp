@@ -9,7 +9,7 @@ struct CUI_PrintToWindowItem::Shape : QSharedData
     QPointF linePt1;
     QPointF linePt2;
     QRectF rect;
-    LineStyle lineStyle;
+    LineStyle lineStyle{.lineWidth = 0, .strokeColor = {}};
     QColor fillColor;
     bool strokeFlag = false;
     bool fillFlag = false;

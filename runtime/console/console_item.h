@@ -15,12 +15,12 @@ namespace tetrad {
 struct LineStyle
 {
     /// 0 is the thinnest line there is; negative: not stroked.
-    double width = 1.0;
+    double lineWidth = 1.0;
     /// 1 round, 2 square; 0 leaves the default, which ends flush with the line's end.
-    quint32 capStyle = 0;
+    quint32 lineCapStyle = 0;
     /// Lengths drawn and left out in turn; empty: solid.
-    QList<double> dashPattern = {};
-    double dashPhase = 0;
+    QList<double> lineDashPattern = {};
+    double lineDashPhase = 0;
     /// Invalid: black.
     QColor strokeColor = Qt::black;
 
@@ -48,6 +48,8 @@ public:
                                               const QColor &fillColor);
 
     quint32 type() const { return m_type; }
+    /// Whether it is a line, a rectangle or an oval; anything else is drawn as a text.
+    bool isShape() const { return m_type >= line && m_type <= oval; }
     /// A text's top left.
     QPointF pt() const { return m_pt; }
     const QString &string() const { return m_string; }
@@ -57,7 +59,7 @@ public:
     QPointF linePt2() const;
     QRectF rect() const;
 
-    /// A text's is the default style.
+    /// Width 0 and no colour until it is set, as every text's stays.
     const LineStyle &lineStyle() const;
     void setLineStyle(const LineStyle &style);
 

@@ -1,7 +1,6 @@
 #include "runtime/console/console_reader.h"
 
 #include "runtime/console/display_list.h"
-#include "runtime/console/shape_painter.h"
 
 #include <QPainter>
 #include <QTextBoundaryFinder>

@@ -1,7 +1,6 @@
 #include "runtime/console/console_text.h"
 
 #include "runtime/console/display_list.h"
-#include "runtime/console/shape_painter.h"
 #include "runtime/console/text_layout.h"
 
 #include <algorithm>
@@ -14,7 +13,7 @@ void ConsoleText::sync(const DisplayList &list)
 {
     for (; m_taken < list.size(); ++m_taken) {
         const DisplayList::Entry &entry = list.at(m_taken);
-        if (isShape(entry.item)) {
+        if (entry.item.isShape()) {
             continue;
         }
         QString drawn = drawnText(entry.item.string(), entry.item.attributes());

@@ -218,7 +218,7 @@ void CUI_PrintToWindowView::addLines(const QList<QPointF> &points, bool fromCurr
         setLineStyleForItem(item);
         addShape(item);
         if (lowest < point.y()) {
-            lowest = point.y() + item.lineStyle().width / 2;
+            lowest = point.y() + item.lineStyle().lineWidth / 2;
         }
         m_linePoint = point;
     }
@@ -242,7 +242,7 @@ void CUI_PrintToWindowView::addFilled(quint32 type, const QRectF &rect, const QC
     setLineStyleForItem(item);
     item.setColors(strokeColor, fillColor);
     addShape(item);
-    fixFrameHeight(rect.y() + rect.height() + item.lineStyle().width / 2);
+    fixFrameHeight(rect.y() + rect.height() + item.lineStyle().lineWidth / 2);
 }
 
 void CUI_PrintToWindowView::setLineStyleForItem(CUI_PrintToWindowItem &item) const

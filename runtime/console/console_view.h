@@ -106,14 +106,14 @@ public:
 
     QPointF currentLinePoint() const { return m_linePoint; }
     void setCurrentLinePoint(QPointF point) { m_linePoint = point; }
-    double currentLineWidth() const { return m_lineStyle.width; }
-    void setCurrentLineWidth(double width) { m_lineStyle.width = width; }
-    quint32 currentLineCapStyle() const { return m_lineStyle.capStyle; }
-    void setCurrentLineCapStyle(quint32 style) { m_lineStyle.capStyle = style; }
-    QList<double> currentLineDashPattern() const { return m_lineStyle.dashPattern; }
-    void setCurrentLineDashPattern(const QList<double> &pattern) { m_lineStyle.dashPattern = pattern; }
-    double currentLineDashPhase() const { return m_lineStyle.dashPhase; }
-    void setCurrentLineDashPhase(double phase) { m_lineStyle.dashPhase = phase; }
+    double currentLineWidth() const { return m_lineStyle.lineWidth; }
+    void setCurrentLineWidth(double width) { m_lineStyle.lineWidth = width; }
+    quint32 currentLineCapStyle() const { return m_lineStyle.lineCapStyle; }
+    void setCurrentLineCapStyle(quint32 style) { m_lineStyle.lineCapStyle = style; }
+    QList<double> currentLineDashPattern() const { return m_lineStyle.lineDashPattern; }
+    void setCurrentLineDashPattern(const QList<double> &pattern) { m_lineStyle.lineDashPattern = pattern; }
+    double currentLineDashPhase() const { return m_lineStyle.lineDashPhase; }
+    void setCurrentLineDashPhase(double phase) { m_lineStyle.lineDashPhase = phase; }
     QColor currentStrokeColor() const { return m_lineStyle.strokeColor; }
     void setCurrentStrokeColor(const QColor &color) { m_lineStyle.strokeColor = color; }
     /// Invalid: none.

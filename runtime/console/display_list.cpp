@@ -66,7 +66,7 @@ QRectF shapeInk(const CUI_PrintToWindowItem &item)
                               ? QRectF(item.linePt1(), item.linePt2()).normalized()
                               : item.rect().normalized();
     // Half a width to each side, half as much again where a square cap or a corner points outwards.
-    const double room = std::max(item.lineStyle().width, 1.0) + 2;
+    const double room = std::max(item.lineStyle().lineWidth, 1.0) + 2;
     return bounds.adjusted(-room, -room, room, room);
 }
 

@@ -17,7 +17,7 @@ void ItemPainter::draw(const Canvas &canvas, const DisplayList &list, quint32 in
     const DisplayList::Entry &entry = list.at(index);
     const CUI_PrintToWindowItem &item = entry.item;
     QPainter &painter = canvas.painter;
-    if (isShape(item)) {
+    if (item.isShape()) {
         painter.save();
         if (canvas.upwards) {
             painter.translate(0, canvas.documentHeight);

@@ -44,21 +44,21 @@ void setDashes(QPen &pen, const LineStyle &style)
 {
     // The pen counts dashes in widths and wants pairs; a pattern of odd length is gone through twice per round.
     QList<qreal> dashes;
-    const qsizetype count = style.dashPattern.size() * (style.dashPattern.size() % 2 == 0 ? 1 : 2);
+    const qsizetype count = style.lineDashPattern.size() * (style.lineDashPattern.size() % 2 == 0 ? 1 : 2);
     for (qsizetype i = 0; i < count; ++i) {
-        dashes.append(style.dashPattern.at(i % style.dashPattern.size()) / pen.widthF());
+        dashes.append(style.lineDashPattern.at(i % style.lineDashPattern.size()) / pen.widthF());
     }
     pen.setDashPattern(dashes);
-    pen.setDashOffset(style.dashPhase / pen.widthF());
+    pen.setDashOffset(style.lineDashPhase / pen.widthF());
 }
 
 QPen penFor(const LineStyle &style, double thinnest)
 {
     QPen pen(style.strokeColor.isValid() ? style.strokeColor : QColor(Qt::black));
-    pen.setWidthF(style.width > 0 ? style.width : thinnest);
-    pen.setCapStyle(capStyle(style.capStyle));
+    pen.setWidthF(style.lineWidth > 0 ? style.lineWidth : thinnest);
+    pen.setCapStyle(capStyle(style.lineCapStyle));
     pen.setJoinStyle(Qt::MiterJoin);
-    if (isUsable(style.dashPattern)) {
+    if (isUsable(style.lineDashPattern)) {
         setDashes(pen, style);
     }
     return pen;
@@ -82,7 +82,7 @@ void fill(QPainter &painter, const Item &item)
 
 void stroke(QPainter &painter, const Item &item)
 {
-    if (!(item.lineStyle().width >= 0)) {
+    if (!(item.lineStyle().lineWidth >= 0)) {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
@@ -99,11 +99,6 @@ void stroke(QPainter &painter, const Item &item)
 }
 
 } // namespace
-
-bool isShape(const CUI_PrintToWindowItem &item)
-{
-    return item.type() >= Item::line && item.type() <= Item::oval;
-}
 
 void drawShape(QPainter &painter, const CUI_PrintToWindowItem &item)
 {

@@ -6,9 +6,6 @@ namespace tetrad {
 
 class CUI_PrintToWindowItem;
 
-/// Whether the item is a line, a rectangle or an oval; anything else is drawn as a text.
-bool isShape(const CUI_PrintToWindowItem &item);
-
 /// Fills and strokes a shape in the painter's coordinates. A rectangle's fill covers whole device pixels, so that it
 /// hides completely what it is drawn over; everything else is smoothed.
 void drawShape(QPainter &painter, const CUI_PrintToWindowItem &item);

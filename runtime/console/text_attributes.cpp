@@ -10,7 +10,7 @@ struct TextAttributes::Data : QSharedData
     FontChoice font;
     std::shared_ptr<const FontFacts> facts = fontFacts(font);
     QColor foreground;
-    QColor background;
+    QColor background = Qt::transparent;
     ParagraphStyle paragraph;
     QVariantMap others;
 

@@ -120,7 +120,7 @@ TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
     EXPECT_EQ(now.value(u"font"_qs).value<QFont>().family(), u"Menlo"_qs);
     EXPECT_EQ(now.value(u"font"_qs).value<QFont>().pixelSize(), 12);
     EXPECT_EQ(now.value(u"paragraphStyle"_qs).value<ParagraphStyle>(), ParagraphStyle());
-    EXPECT_FALSE(view.items().item(0).attributes().backgroundColor().isValid());
+    EXPECT_EQ(view.items().item(0).attributes().backgroundColor(), QColor(Qt::transparent));
 }
 
 TEST(Measuring, agreesWithLayingOut)

@@ -58,6 +58,7 @@ TEST_F(Console, theArchiveHasTenKeysAndThosePresent)
     EXPECT_EQ(keysBeside(text), u"attributes text"_qs);
     EXPECT_EQ(text.value(u"attributes"_qs), u"abc"_qs);
     EXPECT_EQ(text.value(u"pt"_qs), QPointF(3, 0));
+    EXPECT_EQ(text.value(u"lineWidth"_qs), 0.0) << "nothing gave the text a line style";
     EXPECT_EQ(keysBeside(array.at(1).toMap()), u"attributes text"_qs) << "the empty piece";
     EXPECT_EQ(keysBeside(array.at(2).toMap()), u"strokeColor"_qs);
     const QVariantMap line = array.at(4).toMap();
@@ -73,24 +74,24 @@ TEST_F(Console, strokesAreSeenInTheMiddleOfALine)
 {
     // The pixels from x 4 to 35, '#' dark, along a line from x 10 to 30.
     const Table<LineStyle, std::string> rows = {
-        {"flat by default", {.width = 8}, "......####################......"},
-        {"butt", {.width = 8, .capStyle = 0}, "......####################......"},
-        {"square", {.width = 8, .capStyle = 2}, "..############################.."},
-        {"round", {.width = 8, .capStyle = 1}, "..############################.."},
-        {"negative width", {.width = -1}, "................................"},
-        {"thinnest", {.width = 0}, "......####################......"},
-        {"dashes in pixels", {.width = 3, .dashPattern = {5, 3}}, "......#####...#####...####......"},
-        {"dashes of the thinnest", {.width = 0, .dashPattern = {5, 3}}, "......#####...#####...####......"},
-        {"phase", {.width = 3, .dashPattern = {5, 3}, .dashPhase = 2}, "......###...#####...#####......."},
-        {"odd pattern", {.width = 2, .dashPattern = {4}}, "......####....####....####......"},
-        {"useless pattern", {.width = 3, .dashPattern = {0, 0}}, "......####################......"},
+        {"flat by default", {.lineWidth = 8}, "......####################......"},
+        {"butt", {.lineWidth = 8, .lineCapStyle = 0}, "......####################......"},
+        {"square", {.lineWidth = 8, .lineCapStyle = 2}, "..############################.."},
+        {"round", {.lineWidth = 8, .lineCapStyle = 1}, "..############################.."},
+        {"negative width", {.lineWidth = -1}, "................................"},
+        {"thinnest", {.lineWidth = 0}, "......####################......"},
+        {"dashes in pixels", {.lineWidth = 3, .lineDashPattern = {5, 3}}, "......#####...#####...####......"},
+        {"dashes of the thinnest", {.lineWidth = 0, .lineDashPattern = {5, 3}}, "......#####...#####...####......"},
+        {"phase", {.lineWidth = 3, .lineDashPattern = {5, 3}, .lineDashPhase = 2}, "......###...#####...#####......."},
+        {"odd pattern", {.lineWidth = 2, .lineDashPattern = {4}}, "......####....####....####......"},
+        {"useless pattern", {.lineWidth = 3, .lineDashPattern = {0, 0}}, "......####################......"},
     };
     for (const auto &[name, style, expected] : rows) {
         view.clear();
-        view.setCurrentLineWidth(style.width);
-        view.setCurrentLineCapStyle(style.capStyle);
-        view.setCurrentLineDashPattern(style.dashPattern);
-        view.setCurrentLineDashPhase(style.dashPhase);
+        view.setCurrentLineWidth(style.lineWidth);
+        view.setCurrentLineCapStyle(style.lineCapStyle);
+        view.setCurrentLineDashPattern(style.lineDashPattern);
+        view.setCurrentLineDashPhase(style.lineDashPhase);
         view.setCurrentLinePoint({10, 20.5});
         view.addLines({{30, 20.5}}, true);
         const QImage image = picture(1);
