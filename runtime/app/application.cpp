@@ -55,19 +55,29 @@ void giveIcon()
     }
 }
 
+// Whoever's delegate is installed, and once for each application object.
+void serveApplication()
+{
+    static QPointer<QCoreApplication> served;
+    if (served == qApp) {
+        return;
+    }
+    served = qApp;
+    giveIcon();
+    setStringStackStop(&ZRFullStop);
+    translatePlatformEvents();
+    terminateOnSignals();
+}
+
 } // namespace
 
 void CocoaInit()
 {
     ensurePlatformApplication();
-    if (installedDelegate != nullptr) {
-        return;
+    if (installedDelegate == nullptr) {
+        setAppDelegate(new CUI_AppDelegate(qApp));
     }
-    giveIcon();
-    setAppDelegate(new CUI_AppDelegate(qApp));
-    setStringStackStop(&ZRFullStop);
-    translatePlatformEvents();
-    terminateOnSignals();
+    serveApplication();
 }
 
 CUI_AppDelegate *CUI_AppDelegateObj()

@@ -9,14 +9,14 @@ class CUI_AppDelegate;
 /// Makes the process a window system application driven from the program's own straight-line main:
 /// creates the application object, gives it the icon that is named like its id unless it has one (in the theme
 /// "hicolor" where the desktop keeps its themes, or in share/icons beside the program or the program's folder), and
-/// installs the runtime's delegate. A second call, or one made when a delegate is already installed, changes nothing.
+/// installs the runtime's delegate unless one is installed. A second call changes nothing.
 /// Without a display the process ends here with one sentence on standard error and status 1.
 void CocoaInit();
 
 /// The application's current delegate; if none is installed, one that is remembered but not installed.
 CUI_AppDelegate *CUI_AppDelegateObj();
 
-/// Installs a delegate in place of the current one; the caller keeps ownership.
+/// Installs a delegate in place of the current one, also before CocoaInit; null takes it out. Not owned.
 void setAppDelegate(CUI_AppDelegate *delegate);
 
 /// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: asks

@@ -65,6 +65,15 @@ TEST(Application, DelegateThatIsInstalledStays)
     setAppDelegate(&own);
     CocoaInit();
     EXPECT_EQ(CUI_AppDelegateObj(), &own);
+    // It is served like the runtime's own.
+    static int asked = 0;
+    own.setDelegateCallback([](qint64 event, qintptr) {
+        asked += event == appEventShouldTerminate;
+        CUI_AppDelegateObj()->setLongVal(0);
+    });
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    EXPECT_EQ(asked, 1);
 }
 
 TEST(Application, NameOfTheProgramsOwnStays)
