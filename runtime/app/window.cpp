@@ -215,8 +215,12 @@ bool Window::event(QEvent *event)
     const bool closes = event->type() == QEvent::Close && event->isAccepted();
     m_closed = closes && isReleasedWhenClosed();
     m_translator->translate(event);
-    if (guard && m_closed) {
-        WindowOrder::instance().remove(this);
+    if (guard && closes) {
+        // The report may have kept it.
+        m_closed = isReleasedWhenClosed();
+        if (m_closed) {
+            WindowOrder::instance().remove(this);
+        }
     }
     return handled;
 }

@@ -223,10 +223,22 @@ TEST_F(Windows, BackgroundColoursTheContentOnly)
 
 TEST_F(Windows, ClosingReleasesUnlessToldOtherwise)
 {
-    for (const bool released : {true, false}) {
-        SCOPED_TRACE(released ? "released" : "kept");
+    const Table<bool, bool> rows = {
+        {"released", true, true},
+        {"kept", false, false},
+        {"kept by whom the closing is reported to", true, false},
+    };
+    static bool keeps = false;
+    for (const auto &[name, releasedBefore, released] : rows) {
+        SCOPED_TRACE(name);
         QPointer<Window> window = open(1);
-        window->setProperty("releasedWhenClosed", released);
+        window->setProperty("releasedWhenClosed", releasedBefore);
+        keeps = releasedBefore && !released;
+        window->setCuiWindowCallback([](Tag wndTag, qint64 event, void *) {
+            if (keeps && event == windowEventWillClose) {
+                CUI_WindowWithTag(wndTag)->setReleasedWhenClosed(false);
+            }
+        });
         EXPECT_TRUE(window->close());
         EXPECT_EQ(CUI_AppDelegateObj()->windows().contains(window), !released);
         EXPECT_EQ(CUI_WindowWithTag(1), released ? nullptr : window.data());
