@@ -3,13 +3,20 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QDialogButtonBox>
+#include <QIcon>
 #include <QLabel>
+#include <QPointer>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tetrad {
 
 namespace {
+
+constexpr int iconSize = 64;
+
+// Leaves room for the title beside the buttons of a title bar.
+constexpr int leastTextWidth = 220;
 
 QLabel *centredLabel(const QString &text)
 {
@@ -29,35 +36,47 @@ QLabel *nameLabel()
     return label;
 }
 
-void fill(QDialog &panel)
+void addIcon(QVBoxLayout *layout)
 {
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &panel, &QDialog::accept);
-    auto *layout = new QVBoxLayout(&panel);
+    if (const QIcon icon = QApplication::windowIcon(); !icon.isNull()) {
+        QLabel *label = centredLabel(QString());
+        label->setPixmap(icon.pixmap(QSize(iconSize, iconSize), label->devicePixelRatio()));
+        layout->addWidget(label);
+    }
+}
+
+void fill(QDialog *panel)
+{
+    auto *ok = new QPushButton(QStringLiteral("OK"));
+    ok->setDefault(true);
+    QObject::connect(ok, &QPushButton::clicked, panel, &QDialog::accept);
+    auto *layout = new QVBoxLayout(panel);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->setContentsMargins(32, 24, 32, 16);
+    layout->addStrut(leastTextWidth);
+    addIcon(layout);
     layout->addWidget(nameLabel());
     layout->addWidget(centredLabel(QStringLiteral("Version %1").arg(applicationVersion())));
     layout->addWidget(centredLabel(QStringLiteral("License: MIT")));
     layout->addSpacing(12);
-    layout->addWidget(buttons);
+    layout->addWidget(ok, 0, Qt::AlignHCenter);
 }
 
 } // namespace
 
 void orderFrontStandardAboutPanel()
 {
-    static bool open = false;
-    if (open) {
+    static QPointer<QDialog> panel;
+    if (panel != nullptr) {
         return;
     }
-    open = true;
-    QDialog panel(QApplication::activeWindow());
-    panel.setWindowTitle(QStringLiteral("About %1").arg(applicationName()));
+    // It goes with the window that it stands over, if that goes first.
+    panel = new QDialog(QApplication::activeWindow());
+    panel->setWindowTitle(QStringLiteral("About %1").arg(applicationName()));
     fill(panel);
-    QObject::connect(&panel, &QDialog::finished, &panel, [] { stopModalWithCode(modalStopped); });
-    runModalForWindow(&panel);
-    open = false;
+    QObject::connect(panel, &QDialog::finished, panel, [] { stopModalWithCode(modalStopped); });
+    runModalForWindow(panel);
+    delete panel.data();
 }
 
 } // namespace tetrad
