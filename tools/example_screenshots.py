@@ -33,15 +33,15 @@ def main(folder):
         sketch.wait_for_key_prompt("Any key ends the program:")
         take(camera, sketch)
     with running(desktop, "keys") as keys:
-        keys.wait_for_screen("column 10, row 4\n")
+        keys.wait_for_key_prompt("W A S D move the dot, Escape ends:")
         desktop.press("d", "d", "d", "w")
-        keys.wait_for_screen("column 13, row 3\n")
+        keys.wait_for_line("column 13, row 3")
         take(camera, keys)
     with running(desktop, "controls") as controls:
         controls.wait_for("table cell", "cell 1, 1")
         for role, name in [("push button", "Press me"), ("check box", "Check me"), ("table cell", "cell 1, 0")]:
             desktop.click(*controls.wait_for(role, name).centre)
-        controls.wait_for_line_like(r"event 1707, tag 21, window 1: .*")
+        controls.wait_for_line(r"event 1707, tag 21, window 1: .*")
         take(camera, controls)
 
 

@@ -7,7 +7,7 @@ import sys
 from pathlib import Path
 
 from desktop import Desktop, until
-from palettes import dark_environment
+from palettes import DARK, environment_with
 from playing import Game, prompt_after
 from solver import solve
 
@@ -57,7 +57,7 @@ def skip_to(game, wanted):
     puzzle = game.wait_for_puzzle()
     while not wanted(puzzle):
         game.answer("s")
-        puzzle = game.wait_for_other_puzzle(puzzle)
+        puzzle = game.wait_for_puzzle(other_than=puzzle)
     return puzzle
 
 
@@ -107,7 +107,7 @@ def main(folder):
     camera = Camera(desktop, folder)
     take_a_game(camera, desktop)
     take_a_variant(camera, desktop, "scale-2", QT_SCALE_FACTOR="2")
-    take_a_variant(camera, desktop, "dark", **dark_environment(desktop))
+    take_a_variant(camera, desktop, "dark", **environment_with(DARK, desktop))
 
 
 if __name__ == "__main__":

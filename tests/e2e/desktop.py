@@ -26,16 +26,16 @@ PR_SET_PDEATHSIG = 1
 _libc = ctypes.CDLL(None)
 
 
-def until(condition, what, timeout_s=TIMEOUT_S):
+def until(condition, what):
     """Waits until condition() is true and returns its value; fails naming what was awaited."""
     context = GLib.MainContext.default()
-    deadline = time.monotonic() + timeout_s
+    deadline = time.monotonic() + TIMEOUT_S
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > deadline:
-            raise AssertionError(f"gave up after {timeout_s} s waiting for {what}")
+            raise AssertionError(f"gave up after {TIMEOUT_S} s waiting for {what}")
         # The accessibility client's own events arrive while this loop turns.
         GLib.timeout_add(POLL_MS, lambda: GLib.SOURCE_REMOVE)
         context.iteration(True)
@@ -48,8 +48,7 @@ class Desktop:
 
     @classmethod
     def shared(cls):
-        if cls._shared is None:
-            cls._shared = cls()
+        cls._shared = cls._shared or cls()
         return cls._shared
 
     def __init__(self):
@@ -68,10 +67,11 @@ class Desktop:
             # A developer's own desktop theme must not reorder buttons.
             "QT_QPA_PLATFORMTHEME": "",
         }
-        self._start_display()
+        self.start_display(os.environ.get("TETRAD_E2E_SCREEN", "1280x800x24"))
         self._start_session_bus()
+        os.environ.update({name: self.environment[name] for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS")})
         self._start_accessibility()
-        self._start_window_manager()
+        self.start_window_manager()
 
     def stop(self):
         for child in reversed(self._children):
@@ -86,10 +86,9 @@ class Desktop:
     def start(self, *command, environment=None, **options):
         """A child process in this desktop's environment, changed by `environment` (None removes a variable)."""
         child_environment = {**self.environment, **(environment or {})}
-        child_environment = {name: value for name, value in child_environment.items() if value is not None}
         child = subprocess.Popen(
             command,
-            env=child_environment,
+            env={name: value for name, value in child_environment.items() if value is not None},
             stdin=subprocess.DEVNULL,
             preexec_fn=lambda: _libc.prctl(PR_SET_PDEATHSIG, signal.SIGTERM),
             **options,
@@ -97,10 +96,13 @@ class Desktop:
         self._children.append(child)
         return child
 
-    def run(self, *command, binary=False):
+    def start_quietly(self, *command, **options):
+        return self.start(*command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+
+    def run(self, *command, binary=False, check=True, **options):
         """Runs a command to its end and returns what it printed."""
-        return subprocess.run(command, env=self.environment, check=True, stdin=subprocess.DEVNULL,
-                              capture_output=True, text=not binary).stdout
+        return subprocess.run(command, env=self.environment, check=check, stdin=subprocess.DEVNULL,
+                              capture_output=True, text=not binary, **options).stdout
 
     # -- keys, mouse, clipboard, screen
 
@@ -111,8 +113,8 @@ class Desktop:
     def type(self, text):
         self.run("xdotool", "type", "--delay", "2", "--", text)
 
-    def click(self, x, y, button=1):
-        self.run("xdotool", "mousemove", str(x), str(y), "click", str(button))
+    def click(self, x, y):
+        self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 
     def set_clipboard(self, text):
         """Replaces the clipboard; xclip stays in the background to serve it until the display ends."""
@@ -121,10 +123,7 @@ class Desktop:
 
     def clipboard(self):
         """The text in the clipboard; empty when nobody owns it, for which xclip fails."""
-        try:
-            return self.run("xclip", "-selection", "clipboard", "-out")
-        except subprocess.CalledProcessError:
-            return ""
+        return self.run("xclip", "-selection", "clipboard", "-out", check=False)
 
     def screenshot(self, path):
         self.run("import", "-window", "root", path)
@@ -136,35 +135,53 @@ class Desktop:
         search = ("xdotool", "search", "--all", "--onlyvisible", "--pid", str(process_id), "--name", f"^{name}$")
         return self.run(*search).split()[0]
 
-    def framed_rectangle(self, window):
-        """x, y, width, height of a window together with the window manager's frame around it."""
+    def content_rectangle(self, window):
+        """x, y, width, height of a window without its frame, which xdotool would count twice."""
         facts = self.run("xwininfo", "-id", window)
-        x, y, width, height = (int(re.search(rf"{fact}:\s+(-?\d+)", facts)[1])
-                               for fact in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        return [int(re.search(rf"{fact}:\s+(-?\d+)", facts)[1])
+                for fact in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
+
+    def frame_extents(self, window):
+        """The width of the window manager's frame at the left, right, top and bottom."""
         extents = self.run("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS")
-        left, right, top, bottom = (int(number) for number in extents.split("=")[1].split(","))
+        return [int(number) for number in extents.split("=")[1].split(",")]
+
+    def framed_rectangle(self, window):
+        x, y, width, height = self.content_rectangle(window)
+        left, right, top, bottom = self.frame_extents(window)
         return x - left, y - top, width + left + right, height + top + bottom
 
     def click_close_box(self, window):
         """Clicks the rightmost button of the title bar, which the window manager draws as high as wide."""
         x, y, width, _ = self.framed_rectangle(window)
-        title = re.search(r"= \d+, \d+, (\d+)", self.run("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS"))
-        half = int(title[1]) // 2
+        half = self.frame_extents(window)[2] // 2
         self.click(x + width - half, y + half)
 
     # -- starting
 
-    def _start_display(self):
+    def start_display(self, size):
+        """Makes a new display the one that whatever is started next is shown on; returns its server."""
         read_end, write_end = os.pipe()
-        size = os.environ.get("TETRAD_E2E_SCREEN", "1280x800x24")
-        self.start("Xvfb", "-displayfd", str(write_end), "-screen", "0", size, "-nolisten", "tcp", "-noreset",
-                   pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        server = self.start("Xvfb", "-displayfd", str(write_end), "-screen", "0", size, "-nolisten", "tcp", "-noreset",
+                            pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as answer:
             number = answer.readline().strip()
         if not number:
             raise RuntimeError("Xvfb did not start")
-        self.environment["DISPLAY"] = os.environ["DISPLAY"] = f":{number}"
+        self.environment["DISPLAY"] = f":{number}"
+        return server
+
+    def start_window_manager(self):
+        # No icon in the title bars: a click on it would open the manager's own menu, which takes the keyboard away.
+        with open("/etc/xdg/openbox/rc.xml", encoding="utf-8") as default:
+            settings = default.read().replace("<titleLayout>NLIMC", "<titleLayout>LIMC")
+        own = os.path.join(self.folder, "rc.xml")
+        with open(own, "w", encoding="utf-8") as file:
+            file.write(settings)
+        manager = self.start_quietly("openbox", "--sm-disable", "--config-file", own)
+        until(lambda: "=" in self.run("xprop", "-root", "_NET_SUPPORTED"), "the window manager")
+        return manager
 
     def _start_session_bus(self):
         daemon = self.start("dbus-daemon", "--session", "--nofork", "--print-address", stdout=subprocess.PIPE,
@@ -173,39 +190,15 @@ class Desktop:
             address = answer.readline().strip()
         if not address:
             raise RuntimeError("dbus-daemon did not start")
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = os.environ["DBUS_SESSION_BUS_ADDRESS"] = address
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         os.environ.pop("AT_SPI_BUS_ADDRESS", None)
 
     def _start_accessibility(self):
-        self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", stdout=subprocess.DEVNULL,
-                   stderr=subprocess.DEVNULL)
         bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         # The end of the bus at exit is no reason to end this process with a signal.
         bus.set_exit_on_close(False)
-
-        def owned():
-            call = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner")
-            return bus.call_sync(*call, GLib.Variant("(s)", ("org.a11y.Bus",)), None, Gio.DBusCallFlags.NONE, -1)[0]
-
-        until(owned, "the accessibility bus")
+        # The session bus starts the accessibility bus when it is first spoken to.
         enabled = GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True)))
         bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set", enabled, None,
                       Gio.DBusCallFlags.NONE, -1)
         Atspi.init()
-
-    def _start_window_manager(self):
-        # No icon in the title bars: a click on it would open the manager's own menu, which takes the keyboard away.
-        with open("/etc/xdg/openbox/rc.xml", encoding="utf-8") as default:
-            settings = default.read().replace("<titleLayout>NLIMC", "<titleLayout>LIMC")
-        own = os.path.join(self.folder, "rc.xml")
-        with open(own, "w", encoding="utf-8") as file:
-            file.write(settings)
-        self.start("openbox", "--sm-disable", "--config-file", own, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self.wait_for_window_manager()
-
-    def wait_for_window_manager(self):
-        def managed():
-            return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, stdin=subprocess.DEVNULL,
-                                  capture_output=True).returncode == 0
-
-        until(managed, "the window manager")

@@ -1,7 +1,6 @@
 """The game as a player meets it: started as a program, read through accessibility, played by keys."""
 
 import contextlib
-import functools
 import os
 import re
 import subprocess
@@ -20,8 +19,6 @@ PROGRAM = Path(os.environ.get("TETRAD_GAME", REPOSITORY / "build" / "tetrad-game
 ARTIFACTS = Path(os.environ.get("TETRAD_E2E_ARTIFACTS", REPOSITORY / "build" / "e2e-artifacts"))
 
 PROMPT = "Enter math expression:"
-FIELD_ROLES = ("text", "entry")
-ALERT_ROLES = ("alert", "dialog")
 PUZZLE = re.compile(r"difficulty level (?P<level>[^\n]*?)\n\s*(?P<numbers>[1-9](?:\s+[1-9]){3})(?![1-9])")
 
 Puzzle = namedtuple("Puzzle", "level numbers")
@@ -32,7 +29,7 @@ def prompt_after(answer):
 
 
 class Game:
-    """One run of the program. Everything that reads the screen waits until there is something to read."""
+    """One run of the program. What waits returns what it waited for."""
 
     def __init__(self, desktop, command=None, environment=None):
         self.desktop = desktop
@@ -41,26 +38,28 @@ class Game:
         self.application = None
 
     def wait_for_start(self):
-        self.application = self._wait(lambda: application_of(self.process.pid), "the program on the accessibility bus")
+        self.wait(self.is_accessible, "the program on the accessibility bus")
 
-    def is_asking(self):
-        """Whether it has joined the accessibility bus and waits for an answer, without waiting for that."""
+    def is_accessible(self):
         self.application = self.application or application_of(self.process.pid)
-        return self.application is not None and self.field() is not None
+        return self.application is not None
 
-    def wait_until_active(self):
-        """For a program that accessibility cannot see: waits until its window gets the keys."""
-        self._wait(self.is_active, "an active window")
+    def has_keyboard(self):
+        """Whether the display sends keys to its window, whatever the window manager calls active."""
+        owner = self.desktop.run("xdotool", "getwindowfocus", "getwindowpid", check=False)
+        return owner.strip() == str(self.process.pid)
 
-    def is_active(self):
-        window = subprocess.run(["xdotool", "getactivewindow", "getwindowpid"], env=self.desktop.environment,
-                                stdin=subprocess.DEVNULL, capture_output=True, text=True)
-        return window.stdout.strip() == str(self.process.pid)
+    def has_ended(self):
+        return self.process.poll() is not None
 
     # -- what is on the screen
 
     def window(self):
         return self.application.find("frame", "window")
+
+    def identifier(self, name="Tetrad Game"):
+        """Of its window with this name, as the display has it."""
+        return self.desktop.window_of(self.process.pid, name)
 
     def console(self):
         return self.application.find("terminal")
@@ -72,17 +71,15 @@ class Game:
 
     def field(self):
         """The field of the input panel, once it can be typed into."""
-        for field in self.application.find_all(*FIELD_ROLES):
-            if "editable" in field.states and "focused" in field.states:
-                return field
-        return None
+        fields = self.application.find_all("text", "entry")
+        return next((field for field in fields if {"editable", "focused"} <= field.states), None)
 
     def alert(self):
-        return self.application.find(*ALERT_ROLES)
+        return self.application.find("alert", "dialog")
 
     def button(self, name):
         alert = self.alert()
-        return alert.find("push button", "button", name=name) if alert else None
+        return alert and alert.find("push button", "button", name=name)
 
     def puzzle(self):
         """The puzzle on the screen, or None."""
@@ -91,89 +88,67 @@ class Game:
 
     # -- waiting
 
+    def wait(self, condition, what):
+        """Waits until condition() is true and returns its value; fails at once when the program ends."""
+
+        def alive():
+            value = condition()
+            if not value and self.has_ended():
+                raise AssertionError(f"the program ended with status {self.process.returncode} while waiting for"
+                                     f" {what}; standard error: {self._stderr()!r}")
+            return value
+
+        return until(alive, what)
+
     def wait_for_prompt(self, prompt=PROMPT):
-        """Waits for an empty field with this prompt and returns it."""
-
-        def asked():
-            field = self.field()
-            return field if field and field.name == prompt and field.text == "" else None
-
-        return self._wait(asked, f"an empty field named {prompt!r}")
-
-    def wait_until_asked_anew(self, old_field):
-        """Waits until the old field has given way to another one."""
-
-        def anew():
-            field = self.field()
-            return field if field and not field.is_the_same_as(old_field) else None
-
-        return self._wait(anew, "another field")
-
-    def wait_for_loss_of_focus(self):
-        self._wait(lambda: not self.field(), "the focus to be elsewhere")
+        """Waits for an empty field with this prompt."""
+        return self.wait(lambda: (field := self.field()) and field.name == prompt and field.text == "" and field,
+                         f"an empty field named {prompt!r}")
 
     def wait_for_field_text(self, text):
         shown = text if len(text) < 60 else f"{text[:60]}…"
-        self._wait(lambda: (field := self.field()) and field.text == text, f"{shown!r} in the field")
+        self.wait(lambda: (field := self.field()) and field.text == text, f"{shown!r} in the field")
 
-    def wait_for_puzzle(self):
-        """Waits until a puzzle is shown and asked for; returns it."""
+    def wait_for_puzzle(self, other_than=None):
+        """Waits until a puzzle is asked for; the puzzles of a cycle all differ, so one before it tells when it is new."""
+        old = other_than and other_than.numbers
+        self.wait(lambda: (puzzle := self.puzzle()) and puzzle.numbers != old, "a puzzle")
         self.wait_for_prompt()
-        return self._wait(self.puzzle, "a puzzle")
-
-    def wait_for_other_puzzle(self, old):
-        """As every puzzle of a cycle is different, a change of the numbers tells that the screen is new."""
-        self._wait(lambda: (puzzle := self.puzzle()) and puzzle.numbers != old.numbers, "another puzzle")
-        return self.wait_for_puzzle()
+        return self.puzzle()
 
     def wait_for_alert(self):
-        return self._wait(self.alert, "the alert")
-
-    def wait_for_end_of_alert(self):
-        self._wait(lambda: not self.alert(), "the end of the alert")
+        return self.wait(self.alert, "the alert")
 
     def wait_for_focus_on(self, button):
-        """Waits until the alert's button with this name has the focus; returns it."""
-
-        def focused():
-            node = self.button(button)
-            return node if node and "focused" in node.states else None
-
-        return self._wait(focused, f"the focus on {button!r}")
+        return self.wait(lambda: (node := self.button(button)) and "focused" in node.states and node,
+                         f"the focus on {button!r}")
 
     # -- playing
 
-    def type(self, text):
-        """Types into the field and waits until it shows exactly that."""
-        self.type_more(text, text)
-
-    def type_more(self, text, result):
-        """Types and waits until the field shows the result."""
+    def type(self, text, result=None):
+        """Types and waits until the field shows exactly that, or the result."""
         self.desktop.type(text)
-        self.wait_for_field_text(result)
+        self.wait_for_field_text(result or text)
 
     def open_menu(self, menu):
         """Opens a menu of the window by mouse and waits for its items."""
-        title = self._wait(lambda: self.window().find("menu item", "menu", name=menu), f"the menu {menu!r}")
+        title = self.wait(lambda: self.window().find("menu item", "menu", name=menu), f"the menu {menu!r}")
         self.desktop.click(*title.centre)
-        self._wait(lambda: self._open_item(), f"the items of {menu!r}")
+        self.wait(self._open_item, f"the items of {menu!r}")
 
     def choose(self, menu, item):
         """Opens a menu of the window by mouse and clicks an item."""
         self.open_menu(menu)
-        self.desktop.click(*self._wait(lambda: self._open_item(item), f"the item {item!r}").centre)
+        self.desktop.click(*self.wait(lambda: self._open_item(item), f"the item {item!r}").centre)
 
     def _open_item(self, name=None):
         """An item of the open menu; the titles in the menu bar are items of the window."""
-        for popup in self.application.find_all("popup menu", "menu"):
-            item = popup.find("menu item", name=name)
-            if item and item.rectangle[2] > 0:
-                return item
-        return None
+        items = (popup.find("menu item", name=name) for popup in self.application.find_all("popup menu", "menu"))
+        return next((item for item in items if item and item.rectangle[2] > 0), None)
 
     def activate(self):
         """Brings the window to the front as a click on its title bar does."""
-        self.desktop.run("xdotool", "windowactivate", "--sync", self.desktop.window_of(self.process.pid))
+        self.desktop.run("xdotool", "windowactivate", "--sync", self.identifier())
 
     def answer(self, text, prompt=PROMPT):
         """Waits to be asked with this prompt, types the answer and presses Return."""
@@ -185,74 +160,43 @@ class Game:
         """Solves the puzzle that is asked for; leaves the alert open. Returns the puzzle."""
         puzzle = self.wait_for_puzzle()
         self.answer(solve(puzzle.numbers))
-        self.wait_for_alert()
+        self.wait_for_focus_on("Quit")
         return puzzle
 
     def play_again(self):
-        self.wait_for_focus_on("Quit")
         self.desktop.press("Tab")
         self.wait_for_focus_on("Play Again")
         self.desktop.press("space")
+        self.wait(lambda: not self.alert(), "the end of the alert")
 
     # -- ending
 
     def wait_for_end(self):
-        """Waits for the end of the program; returns its status and what it wrote on standard error."""
-        until(lambda: self.process.poll() is not None, "the end of the program")
+        """Returns its status and what it wrote on standard error."""
+        until(self.has_ended, "the end of the program")
         return self.process.returncode, self._stderr()
 
     def end(self):
-        if self.process.poll() is None:
-            self.process.kill()
-            self.process.wait()
+        self.process.kill()
+        self.process.wait()
         self._errors.close()
 
     def _stderr(self):
         self._errors.seek(0)
         return self._errors.read().decode(errors="replace")
 
-    def _wait(self, condition, what):
-        def alive():
-            value = condition()
-            if not value and self.process.poll() is not None:
-                raise AssertionError(f"the program ended with status {self.process.returncode} while waiting for"
-                                     f" {what}; standard error: {self._stderr()!r}")
-            return value
-
-        return until(alive, what)
-
-
-def _keeping_evidence(test):
-    @functools.wraps(test)
-    def wrapped(self):
-        try:
-            test(self)
-        except unittest.SkipTest:
-            raise
-        except Exception:
-            self.keep_evidence()
-            raise
-
-    return wrapped
-
 
 class PlayingTest(unittest.TestCase):
     """A test that plays. When it fails, the screen and the accessible tree are kept for the reader."""
 
-    def __init_subclass__(cls, **options):
-        super().__init_subclass__(**options)
-        for name, value in list(vars(cls).items()):
-            if name.startswith("test") and callable(value):
-                setattr(cls, name, _keeping_evidence(value))
+    def __init__(self, name):
+        super().__init__(name)
+        setattr(self, name, self._keeping_evidence()(getattr(self, name)))
 
     @contextlib.contextmanager
     def subTest(self, *message, **parameters):
-        with super().subTest(*message, **parameters):
-            try:
-                yield
-            except AssertionError:
-                self.keep_evidence()
-                raise
+        with super().subTest(*message, **parameters), self._keeping_evidence():
+            yield
 
     def setUp(self):
         self.desktop = Desktop.shared()
@@ -269,15 +213,25 @@ class PlayingTest(unittest.TestCase):
 
     def start_blind(self, **options):
         """Starts it without waiting until it can be seen."""
-        game = Game(self.desktop, **options)
+        return self.keep(Game(self.desktop, **options))
+
+    def keep(self, game):
+        """Takes care that it ends with the test."""
         self.games.append(game)
         return game
 
     def assert_clean_end(self, game):
-        status, errors = game.wait_for_end()
-        self.assertEqual((status, errors), (0, ""))
+        self.assertEqual(game.wait_for_end(), (0, ""))
 
-    def keep_evidence(self):
+    @contextlib.contextmanager
+    def _keeping_evidence(self):
+        try:
+            yield
+        except Exception:
+            self._keep_evidence()
+            raise
+
+    def _keep_evidence(self):
         ARTIFACTS.mkdir(parents=True, exist_ok=True)
         stem = ARTIFACTS / self.id().split(".", 1)[-1]
         try:

@@ -1,29 +1,27 @@
 """The game in the languages of the world: played the same everywhere, menus in the desktop's direction."""
 
-import os
 from playing import PlayingTest
 from solver import solve
-
-LOCALES = [("C", None), ("de_DE", "left"), ("tr_TR", "left"), ("ar_EG", "right")]
 
 
 class TestLanguages(PlayingTest):
     def test_places_answers_and_messages_are_the_same_everywhere(self):
-        folder = os.path.join(self.desktop.folder, "languages")
-        os.makedirs(folder, exist_ok=True)
         expected = None
-        for language, menus_begin in LOCALES:
+        for language, menus_begin in [("C", "left"), ("de_DE", "left"), ("tr_TR", "left"), ("ar_EG", "right")]:
             with self.subTest(language):
-                environment = {"LC_ALL": "C"}
-                if language != "C":
-                    self.desktop.run("localedef", "-i", language, "-f", "UTF-8", f"{folder}/{language}.UTF-8")
-                    environment = {"LOCPATH": folder, "LC_ALL": f"{language}.UTF-8", "LANG": f"{language}.UTF-8"}
-                game = self.start(environment=environment)
+                game = self.start(environment=self.environment_of(language))
                 seen = self.places(game)
                 expected = expected or seen
                 self.assertEqual(seen, expected)
-                self.assertEqual(self.where_menus_begin(game), menus_begin or "left")
+                self.assertEqual(self.where_menus_begin(game), menus_begin)
                 self.play(game)
+
+    def environment_of(self, language):
+        if language == "C":
+            return {"LC_ALL": "C"}
+        name = f"{language}.UTF-8"
+        self.desktop.run("localedef", "-i", language, "-f", "UTF-8", f"{self.desktop.folder}/{name}")
+        return {"LOCPATH": self.desktop.folder, "LC_ALL": name, "LANG": name}
 
     def places(self, game):
         """Console, first letter and field, from the console's corner."""
@@ -43,10 +41,9 @@ class TestLanguages(PlayingTest):
         puzzle = game.wait_for_puzzle()
         while not (solution := solve(puzzle.numbers, "49/2")):
             game.answer("S")
-            puzzle = game.wait_for_other_puzzle(puzzle)
+            puzzle = game.wait_for_puzzle(other_than=puzzle)
         game.answer(solution)
-        game.wait_for_alert()
+        game.wait_for_focus_on("Quit")
         game.play_again()
-        game.wait_for_other_puzzle(puzzle)
         game.answer("Q")
         self.assert_clean_end(game)
