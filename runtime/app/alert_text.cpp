@@ -26,6 +26,12 @@ QSize wrappedSize(const QLabel *label, int width, int flags)
     return label->fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), flags, label->text()).size();
 }
 
+int marginsOf(const QLabel *label)
+{
+    const QMargins margins = label->contentsMargins();
+    return margins.left() + margins.right() + 2 * label->margin() + std::max(label->indent(), 0);
+}
+
 QPlainTextEdit *newView(const QLabel *label, const QSize &largest)
 {
     auto *const view = new QPlainTextEdit(label->text());
@@ -65,6 +71,9 @@ void fitTextsToScreen(QMessageBox *box)
         if (size.width() > largest.width() || size.height() > largest.height()) {
             delete box->layout()->replaceWidget(label, newView(label, largest));
             label->hide();
+        } else {
+            // The box would give the informative text no more than the width of the message and the buttons.
+            label->setMinimumWidth(size.width() + marginsOf(label));
         }
     }
 }

@@ -206,6 +206,20 @@ TEST_F(Alerts, LongTextsStayOnTheScreenInFull)
     }
 }
 
+TEST_F(Alerts, LinesThatHaveRoomAreNotBroken)
+{
+    const QString text = u"At line 128 of Game.zr\nIndex 98 is outside the range 0 to 97"_qs;
+    whenAlertRuns([&text](Alert *alert) {
+        for (const QLabel *label : alert->findChildren<QLabel *>()) {
+            if (label->text() == text) {
+                EXPECT_LE(label->heightForWidth(label->width()), label->heightForWidth(1000));
+            }
+        }
+        clicks(0)(alert);
+    });
+    EXPECT_EQ(CUI_Alert(2, notGiven, u"!"_qs, text, u"A"_qs, notGiven), 1000);
+}
+
 TEST_F(Alerts, AreFoundByTheTagAsGivenAndByAddress)
 {
     define(2);
