@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/app/menus.h"
 #include "runtime/app/modal.h"
 #include "runtime/app/output_window.h"
 #include "runtime/app/window.h"
@@ -9,12 +10,14 @@
 #include "tests/table.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
 
 #include <functional>
+#include <utility>
 
 namespace tetrad {
 
@@ -26,16 +29,61 @@ inline Window *open(Tag tag, const QRectF &rect = QRectF(40, 60, 300, 200))
     return CUI_WindowWithTag(tag);
 }
 
+/// The main menu as a program starts with it, whatever cases before this one made of it.
+inline void resetMainMenu()
+{
+    if (MainMenu *const menu = mainMenu()) {
+        qDeleteAll(std::exchange(menu->menus, {}));
+    }
+    CUI_BuildMinimalMenu();
+}
+
+/// What the dialog function was called with since this was emptied, as "code tag wndTag", with what `valuesOf`
+/// made of the record behind it.
+inline QStringList dialogCalls;
+/// Reads the record's values that belong to an event.
+inline std::function<QString(qint64 event)> valuesOf;
+/// Called at every event, to answer it or to do harm.
+inline std::function<void(qint64 event)> atEvent;
+/// The object or number that the last event came with.
+inline qint64 lastObject = 0;
+
+/// A dialog function that keeps its calls and returns their number.
+inline qint64 recordCall(qint64 event, Tag tag, Tag wndTag, qint64 obj)
+{
+    const QString values = valuesOf ? valuesOf(event) : QString();
+    dialogCalls << QString::asprintf("%lld %lld %lld", event, tag, wndTag) +
+                       (values.isEmpty() ? u""_qs : u' ' + values);
+    lastObject = obj;
+    if (const auto callback = atEvent) {
+        callback(event);
+    }
+    return dialogCalls.size();
+}
+
+/// The codes of such calls, with a blank between them.
+inline QString codesOf(const QStringList &calls)
+{
+    QStringList codes;
+    for (const QString &call : calls) {
+        codes << call.section(u' ', 0, 0);
+    }
+    return codes.join(u' ');
+}
+
 /// Leaves no window, no output window and no dialog function behind.
 class WindowTest : public testing::Test
 {
 protected:
     void TearDown() override
     {
+        atEvent = nullptr;
+        valuesOf = nullptr;
         CUI_SetOnDialogFunction(nullptr);
         const QList<Window *> left = orderedWindows();
         qDeleteAll(left);
         CUI_OutputWindowSetTag(0);
+        dialogCalls.clear();
     }
 };
 

@@ -44,11 +44,12 @@ TEST(ApplicationIcon, IsTheThemesNamedLikeTheIdUnlessTheProgramHasItsOwn)
     installTheme(folder.path(), u"org.example.Sketch"_qs, filled(Qt::red));
     QCoreApplication::setApplicationName(u"Sketch"_qs);
     QGuiApplication::setDesktopFileName(u"org.example.Sketch"_qs);
-    CocoaInit();
-    EXPECT_EQ(colorOf(QApplication::windowIcon().pixmap(48)), QColor(Qt::red));
-    QApplication::setWindowIcon(filled(Qt::blue));
-    CocoaInit();
-    EXPECT_EQ(colorOf(QApplication::windowIcon().pixmap(48)), QColor(Qt::blue));
+    for (const auto &[own, shown] : {std::pair(QIcon(), Qt::red), std::pair(QIcon(filled(Qt::blue)), Qt::blue)}) {
+        QApplication::setWindowIcon(own);
+        setAppDelegate(nullptr); // the mark of a program that has begun already
+        CocoaInit();
+        EXPECT_EQ(colorOf(QApplication::windowIcon().pixmap(48)), QColor(shown));
+    }
 }
 
 TEST(AlertIcon, IsTheApplicationsUnlessCritical)

@@ -222,19 +222,6 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
     EXPECT_EQ(field->text(), u"4");
 }
 
-TEST_F(Modal, ShortcutsOfAWindowWithoutTheFocusWork)
-{
-    QMenuBar bar(&carrier);
-    QMenu *menu = bar.addMenu(u"Menu"_qs);
-    QAction *item = menu->addAction(u"Item"_qs);
-    item->setShortcut(Qt::CTRL | Qt::Key_K);
-    item->setShortcutContext(Qt::ApplicationShortcut);
-    bar.show();
-    QSignalSpy triggered(item, &QAction::triggered);
-    runWhile([this] { QTest::keyClick(carrier.windowHandle(), Qt::Key_K, Qt::ControlModifier); });
-    EXPECT_EQ(triggered.count(), 1);
-}
-
 TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
 {
     // Ways in and out by keys; no way out is a click beside panel and bar.
@@ -247,6 +234,7 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
         {"an item", {Qt::Key_Alt, Qt::Key_Right, Qt::Key_Up}, {Qt::Key_Return}},
         {"a click", {Qt::Key_Alt}, {}},
     };
+    resetMainMenu();
     CUI_EditMenu(1);
     QMenuBar bar(&carrier);
     showMainMenuIn(&bar);
@@ -294,29 +282,6 @@ TEST_F(Modal, AWindowThatGetsTheKeyboardBehindAMenuHasItAfterwards)
         abortModal();
     });
     runModalForWindow(&window);
-}
-
-TEST_F(Modal, CloseRequests)
-{
-    const auto request = [](QWidget &window) {
-        QCloseEvent close;
-        return QTest::qWaitForWindowExposed(&window) &&
-               (QSpontaneKeyEvent::setSpontaneous(&close), qApp->notify(&window, &close)) && close.isAccepted();
-    };
-    Window first(QRectF(0, 0, 100, 100));
-    Window second(QRectF(0, 0, 100, 100));
-    panel->setParent(first.contentView());
-    EXPECT_FALSE(closeMeansQuit(&first)) << "no run";
-    first.show();
-    second.show();
-    runWhile([&] {
-        request(other);
-        EXPECT_TRUE(other.isVisible()) << "not a window of the runtime";
-        EXPECT_TRUE(closeMeansQuit(&first)) << "carries the panel";
-        EXPECT_FALSE(closeMeansQuit(&second));
-        first.hide();
-        EXPECT_TRUE(closeMeansQuit(&second)) << "the last one in sight";
-    });
 }
 
 } // namespace

@@ -13,19 +13,19 @@ void noteCallback(const char *who, const QList<qint64> &numbers)
     for (const qint64 number : numbers) {
         call += u' ' + QString::number(number);
     }
-    siteCalls << call;
+    dialogCalls << call;
 }
 
 qint64 ownCallback(Tag tag, Tag wndTag, void *userData)
 {
     noteCallback("own", {tag, wndTag, userData ? *static_cast<int *>(userData) : 0});
-    return siteCalls.size();
+    return dialogCalls.size();
 }
 
 qint64 allCallback(Tag tag, Tag wndTag, Tag obj)
 {
     noteCallback("all", {tag, wndTag, obj});
-    return siteCalls.size();
+    return dialogCalls.size();
 }
 
 class Dispatch : public SiteTest
@@ -46,7 +46,7 @@ protected:
     }
     static bool waitForCalls(qsizetype count)
     {
-        return QTest::qWaitFor([count] { return siteCalls.size() >= count; });
+        return QTest::qWaitFor([count] { return dialogCalls.size() >= count; });
     }
 };
 
@@ -76,7 +76,7 @@ TEST_F(Dispatch, PrefersTheControlsOwnCallback)
         EXPECT_EQ(CUI_OutputWindowTag(), wndTag < 1 ? 7 : wndTag);
         EXPECT_EQ(takeSiteCalls(), action);
         const qint64 result = CUI_ControlCallUserDefinedOnDialogOrCallback(1503, button, 77);
-        EXPECT_EQ(result, siteCalls.size()) << "the callee's result, 0 without one";
+        EXPECT_EQ(result, dialogCalls.size()) << "the callee's result, 0 without one";
         EXPECT_EQ(CUI_OutputWindowTag(), qAbs(wndTag)) << "the control's own number";
         EXPECT_EQ(takeSiteCalls(), delegateEvent);
     }

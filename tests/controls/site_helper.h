@@ -8,8 +8,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include <utility>
-
 namespace tetrad {
 
 /// Answers every alert with its first button, as long as it lives, and keeps the texts as "title|text".
@@ -47,28 +45,11 @@ QString alertsOf(Statement statement)
     return answerer.shown.join(u", "_qs);
 }
 
-/// What the dialog function was called with, as "code tag wndTag", with what `valuesOf` made of the record
-/// behind it. Windows' own events are left out.
-inline QStringList siteCalls;
-/// Called at every event of a site, to answer it or to do harm.
-inline std::function<void(qint64 event)> atEvent;
-/// Reads the record's values that belong to an event.
-inline std::function<QString(qint64 event)> valuesOf;
-/// The object or number that the last event came with.
-inline qint64 lastObject = 0;
-
+/// A dialog function that keeps all calls but those of windows and alerts themselves.
 inline qint64 recordSite(qint64 event, Tag tag, Tag wndTag, qint64 obj)
 {
-    if (event >= windowEventWillPositionSheet || event == alertEndedEvent) {
-        return 0;
-    }
-    const QString values = valuesOf ? valuesOf(event) : QString();
-    siteCalls << QString::asprintf("%lld %lld %lld", event, tag, wndTag) + (values.isEmpty() ? u""_qs : u' ' + values);
-    lastObject = obj;
-    if (const auto callback = atEvent) {
-        callback(event);
-    }
-    return siteCalls.size();
+    const bool isSite = event < windowEventWillPositionSheet && event != alertEndedEvent;
+    return isSite ? recordCall(event, tag, wndTag, obj) : 0;
 }
 
 /// The calls since the last time, without those of views that draw.
@@ -78,7 +59,7 @@ inline QString takeSiteCalls()
     for (int pass = 0; pass < 4; ++pass) {
         QApplication::processEvents();
     }
-    QStringList calls = std::exchange(siteCalls, {});
+    QStringList calls = std::exchange(dialogCalls, {});
     calls.removeIf([](const QString &call) {
         static const QList<qint64> drawing = {viewEventDraw, viewEventWantsUpdateLayer, viewEventUpdateLayer,
                                               splitViewEventDrawDivider, tableViewEventDrawRow};
@@ -90,11 +71,7 @@ inline QString takeSiteCalls()
 /// The same by their codes only.
 inline QString takeSiteCodes()
 {
-    QStringList codes;
-    for (const QString &call : takeSiteCalls().split(u", "_qs, Qt::SkipEmptyParts)) {
-        codes << call.section(u' ', 0, 0);
-    }
-    return codes.join(u' ');
+    return codesOf(takeSiteCalls().split(u", "_qs, Qt::SkipEmptyParts));
 }
 
 inline void answer(bool yes)
@@ -111,14 +88,6 @@ protected:
         m_content = open(7)->contentView();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_content->window()));
         CUI_SetOnDialogFunction(recordSite);
-    }
-
-    void TearDown() override
-    {
-        atEvent = nullptr;
-        valuesOf = nullptr;
-        WindowTest::TearDown();
-        siteCalls.clear();
     }
 
     /// The view with this tag, shown, and with nothing recorded yet.

@@ -81,7 +81,7 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
             TextView *const text = makeText(from, to);
             atEvent = [refuses](qint64 event) { answer(refuses && event == textViewEventRefuseChange); };
             act(text);
-            EXPECT_EQ(siteCalls.value(0), u"2100 6 7 "_qs + question);
+            EXPECT_EQ(dialogCalls.value(0), u"2100 6 7 "_qs + question);
             EXPECT_EQ(TextViewString(6), refuses ? u"one two"_qs : result);
             EXPECT_EQ(takeSiteCodes().contains(u"2101"_qs), !refuses);
         }

@@ -130,7 +130,7 @@ TEST_F(ViewSite, TellsThatTheMouseCameAndWentWhenItMayBeDeleted)
     };
     QApplication::sendEvent(m_view, &enter);
     QApplication::sendEvent(m_view, &leave);
-    EXPECT_TRUE(siteCalls.isEmpty());
+    EXPECT_TRUE(dialogCalls.isEmpty());
     atEvent = [this](qint64 event) {
         if (event == viewEventMouseExited) {
             delete m_view;
@@ -154,14 +154,14 @@ TEST_F(ViewSite, DrawsTheDirtyPartOrUpdatesItsLayer)
         answer(event == viewEventWantsUpdateLayer && wantsLayer);
     };
     m_view->repaint(5, 6, 20, 10);
-    EXPECT_EQ(std::exchange(siteCalls, {}).constLast(), u"2000 5 7 5,6,20,10"_qs);
+    EXPECT_EQ(std::exchange(dialogCalls, {}).constLast(), u"2000 5 7 5,6,20,10"_qs);
     EXPECT_EQ(lastObject, 0);
     EXPECT_EQ(m_view->grab().toImage().pixelColor(50, 40), QColor(Qt::red));
     takeSiteCalls();
     wantsLayer = true;
     m_view->repaint();
-    EXPECT_EQ(siteCalls.size(), 2);
-    EXPECT_TRUE(siteCalls.constFirst().startsWith(u"2027"_qs) && siteCalls.constLast().startsWith(u"2028"_qs));
+    EXPECT_EQ(dialogCalls.size(), 2);
+    EXPECT_TRUE(dialogCalls.constFirst().startsWith(u"2027"_qs) && dialogCalls.constLast().startsWith(u"2028"_qs));
 }
 
 TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
@@ -175,7 +175,7 @@ TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
     m_view->clearFocus();
     ViewSC *const second = makeView(6);
     Tag accepts = 6;
-    atEvent = [&](qint64) { answer(siteCalls.constLast() == u"2001 %1 7"_qs.arg(accepts)); };
+    atEvent = [&](qint64) { answer(dialogCalls.constLast() == u"2001 %1 7"_qs.arg(accepts)); };
     m_view->setFocus(Qt::TabFocusReason);
     takeSiteCalls();
     EXPECT_TRUE(second->hasFocus()) << "Tab passes by views that refuse";
