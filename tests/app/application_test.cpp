@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QFileOpenEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -41,11 +42,6 @@ QVariant onAppEvent(qint64 event, const QVariant &object)
     return u"answered"_qs;
 }
 
-QVariant application()
-{
-    return QVariant::fromValue<QObject *>(qApp);
-}
-
 QList<qint64> codes()
 {
     QList<qint64> list;
@@ -56,6 +52,20 @@ QList<qint64> codes()
     }
     return list;
 }
+
+class AppDelegate : public testing::Test
+{
+protected:
+    void SetUp() override { CUI_SetOnAppEventFunction(onAppEvent); }
+    void TearDown() override
+    {
+        CUI_SetOnAppEventFunction(nullptr);
+        seen.clear();
+        answer = nullptr;
+    }
+};
+
+using Terminate = AppDelegate;
 
 TEST(Application, DelegateThatIsInstalledStays)
 {
@@ -83,90 +93,46 @@ TEST(Application, NameOfTheProgramsOwnStays)
     EXPECT_EQ(applicationName(), u"Sketch");
 }
 
-TEST(AppDelegate, NotificationsAreForwarded)
-{
-    using D = CUI_AppDelegate;
-    const std::pair<qint64, void (D::*)(const QVariant &)> rows[] = {
-        {1, &D::applicationWillFinishLaunching},
-        {2, &D::applicationDidFinishLaunching},
-        {5, &D::applicationWillTerminate},
-        {6, &D::applicationWillBecomeActive},
-        {7, &D::applicationDidBecomeActive},
-        {8, &D::applicationWillResignActive},
-        {9, &D::applicationDidResignActive},
-        {10, &D::applicationWillHide},
-        {11, &D::applicationDidHide},
-        {12, &D::applicationWillUnhide},
-        {13, &D::applicationDidUnhide},
-        {14, &D::applicationWillUpdate},
-        {15, &D::applicationDidUpdate},
-        {19, &D::applicationDidChangeScreenParameters},
-        {29, &D::didDecodeRestorableState},
-        {30, &D::willEncodeRestorableState},
-        {34, &D::didUpdateUserActivity},
-        {35, &D::applicationDidChangeOcclusionState},
-    };
-    CUI_SetOnAppEventFunction(onAppEvent);
-    CUI_AppDelegate delegate;
-    for (const auto &[code, notification] : rows) {
-        (delegate.*notification)(u"note"_qs);
-        EXPECT_EQ(seen.takeLast(), (Seen{code, u"note"_qs})) << code;
-        EXPECT_TRUE(seen.isEmpty());
-    }
-}
-
-TEST(AppDelegate, QuestionsAreAnsweredAsPresetUnlessTheFunctionAnswers)
+TEST_F(AppDelegate, QuestionsAreAnsweredAsPresetUnlessTheFunctionAnswers)
 {
     CUI_AppDelegate d;
-    const QString file = u"/a/b.txt"_qs;
-    const struct
-    {
-        qint64 code;
-        std::function<qint64()> ask;
-        QVariant object;
-        qint64 preset;
-    } rows[] = {
-        {3, [&] { return d.applicationShouldTerminate(); }, application(), 1},
-        {4, [&] { return d.applicationShouldTerminateAfterLastWindowClosed(); }, application(), false},
-        {16, [&] { return d.applicationShouldHandleReopen(false); }, application(), true},
-        {17, [&] { return d.applicationDockMenu() != nullptr; }, application(), false},
-        {20, [&] { return d.openFileWithoutUI(file); }, file, false},
-        {21, [&] { return d.openTempFile(file); }, file, false},
-        {22, [&] { return d.applicationOpenUntitledFile(); }, application(), false},
-        {23, [&] { return d.applicationShouldOpenUntitledFile(); }, application(), false},
-        {24, [&] { return d.printFile(file); }, file, true},
-        {25,
-         [&] {
-             return d.printFiles({file}, {{u"copies"_qs, 2}}, true);
-         },
-         QStringList{file}, 1},
-        {31, [&] { return d.willContinueUserActivityWithType(u"type"_qs); }, u"type"_qs, false},
-    };
-    CUI_SetOnAppEventFunction(onAppEvent);
     QMenu dock;
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.code);
-        EXPECT_EQ(row.ask(), row.preset);
-        EXPECT_EQ(seen.takeLast(), (Seen{row.code, row.object}));
-        answer = [&](qint64) {
-            d.setBoolVal(row.preset == 0);
-            d.setLongVal(row.preset == 0);
-            d.setMenuObj(&dock);
+    const QString file = u"/a/b.txt"_qs;
+    const QList<qint64> preset = {1, 0, 1, 0, 0, 0, 0, 0, 1, 1, 0};
+    const auto ask = [&](bool isAnswered) {
+        answer = [&, isAnswered, asked = 0](qint64) mutable {
+            const bool opposite = preset[asked++] == 0;
+            if (isAnswered) {
+                d.setBoolVal(opposite);
+                d.setLongVal(opposite);
+                d.setMenuObj(&dock);
+            }
         };
-        EXPECT_EQ(row.ask(), row.preset == 0);
-        seen.clear();
-        answer = nullptr;
-    }
+        return QList<qint64>{d.applicationShouldTerminate(),
+                             d.applicationShouldTerminateAfterLastWindowClosed(),
+                             d.applicationShouldHandleReopen(false),
+                             d.applicationDockMenu() != nullptr,
+                             d.openFileWithoutUI(file),
+                             d.openTempFile(file),
+                             d.applicationOpenUntitledFile(),
+                             d.applicationShouldOpenUntitledFile(),
+                             d.printFile(file),
+                             d.printFiles({file}, {{u"copies"_qs, 2}}, true),
+                             d.willContinueUserActivityWithType(u"type"_qs)};
+    };
+    EXPECT_EQ(ask(false), preset);
+    EXPECT_EQ(codes(), (QList<qint64>{3, 4, 16, 17, 20, 21, 22, 23, 24, 25, 31}));
+    EXPECT_EQ(seen.at(4).object, file);
+    EXPECT_EQ(ask(true), (QList<qint64>{0, 1, 0, 1, 1, 1, 1, 1, 0, 0, 1}));
     EXPECT_EQ(d.dictVal(), (QVariantMap{{u"copies"_qs, 2}}));
 }
 
-TEST(AppDelegate, NewsCarryTheirObject)
+TEST_F(AppDelegate, NewsCarryTheirObject)
 {
     CUI_AppDelegate d;
     const ErrorObject error = {u"domain"_qs, 3, u"bad"_qs};
     const QVariantMap payload = {{u"key"_qs, 1}};
     const QVariantList urls = {QUrl::fromLocalFile(u"/a/b.txt"_qs), QUrl::fromLocalFile(u"/c"_qs)};
-    CUI_SetOnAppEventFunction(onAppEvent);
     d.didRegisterForRemoteNotificationsWithDeviceToken("token");
     d.didFailToRegisterForRemoteNotificationsWithError(error);
     d.didReceiveRemoteNotification(payload);
@@ -182,10 +148,9 @@ TEST(AppDelegate, NewsCarryTheirObject)
     EXPECT_TRUE(d.urlVal().isEmpty() && d.arrayVal().isEmpty());
 }
 
-TEST(AppDelegate, OwnCallbackGoesBeforeTheRegisteredFunction)
+TEST_F(AppDelegate, OwnCallbackGoesBeforeTheRegisteredFunction)
 {
     static qint64 got = 0;
-    CUI_SetOnAppEventFunction(onAppEvent);
     EXPECT_EQ(CallUserDefinedOnAppEventFunction(7, {}), u"answered"_qs);
     seen.clear();
     CUI_AppDelegate delegate;
@@ -196,7 +161,7 @@ TEST(AppDelegate, OwnCallbackGoesBeforeTheRegisteredFunction)
     EXPECT_TRUE(seen.isEmpty());
 }
 
-TEST(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
+TEST_F(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
 {
     CUI_AppDelegate delegate;
     const auto fire = [&delegate](CUI_AppDelegate::TimerFunction function) {
@@ -204,18 +169,16 @@ TEST(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
         CUI_AppDelegate::setTimerFunction(timer, function);
         timer->start(1000000);
         delegate.timerFired(timer);
-        return timer;
+        return timer && timer->isActive();
     };
-    EXPECT_TRUE(fire([](QTimer *) { return false; })->isActive());
-    EXPECT_FALSE(fire([](QTimer *) { return true; })->isActive());
-    EXPECT_TRUE(fire(nullptr)->isActive());
-    EXPECT_EQ(fire([](QTimer *timer) { return delete timer, true; }), nullptr);
+    EXPECT_TRUE(fire([](QTimer *) { return false; }));
+    EXPECT_FALSE(fire([](QTimer *) { return true; }));
+    EXPECT_FALSE(fire([](QTimer *timer) { return delete timer, true; }));
 }
 
-TEST(AppDelegate, RealEventsArrive)
+TEST_F(AppDelegate, RealEventsArrive)
 {
     CocoaInit();
-    CUI_SetOnAppEventFunction(onAppEvent);
     QWidget window;
     QTimer::singleShot(0, &window, [&window] {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -224,16 +187,18 @@ TEST(AppDelegate, RealEventsArrive)
         stopModalWithCode(1);
     });
     runModalForWindow(&window);
-    EXPECT_EQ(codes(), (QList<qint64>{1, 2, 6, 7, 36}));
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationHidden);
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+    Q_EMIT QGuiApplication::primaryScreen()->geometryChanged(QRect());
+    EXPECT_EQ(codes(), (QList<qint64>{1, 2, 6, 7, 36, 8, 9, 10, 11, 12, 13, 6, 7, 19}));
     EXPECT_NE(mainMenu(), nullptr) << "built at launch when the program built none";
     const auto updated = [](const Seen &each) { return each.event == appEventDidUpdate; };
     EXPECT_TRUE(std::any_of(seen.begin(), seen.end(), updated));
 }
 
-TEST(Terminate, AsksTellsAndRefuses)
+TEST_F(Terminate, AsksTellsAndRefuses)
 {
     CocoaInit();
-    CUI_SetOnAppEventFunction(onAppEvent);
     for (const qint64 refusal : {0, 2, -1}) {
         seen.clear();
         answer = [refusal](qint64) {
@@ -278,7 +243,7 @@ void signalThoughTheDelegateWouldRefuse()
 constexpr char nothingOfOurs[] = "^((This plugin does not support|QStandardPaths)[^\n]*\n)*$";
 
 // From wherever it is called: status 0, and nothing on standard error.
-TEST(Terminate, EndsFromAnyDepth)
+TEST_F(Terminate, EndsFromAnyDepth)
 {
     const std::pair<const char *, void (*)()> rows[] = {
         {"nested runs", terminateFromNestedRun},

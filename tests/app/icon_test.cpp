@@ -1,5 +1,4 @@
 #include "runtime/app/alerts.h"
-#include "runtime/app/app_delegate.h"
 #include "runtime/app/application.h"
 #include "tests/app/alert_helper.h"
 
@@ -38,18 +37,26 @@ void installTheme(const QString &folder, const QString &iconName, const QPixmap 
     QIcon::setThemeName(u"hicolor"_qs);
 }
 
-TEST(ApplicationIcon, IsTheThemesNamedLikeTheIdUnlessTheProgramHasItsOwn)
+// The colour of the icon that a program starts with which has one of its own, or none.
+QColor iconAtStart(const QIcon &own)
 {
     const QTemporaryDir folder;
     installTheme(folder.path(), u"org.example.Sketch"_qs, filled(Qt::red));
     QCoreApplication::setApplicationName(u"Sketch"_qs);
     QGuiApplication::setDesktopFileName(u"org.example.Sketch"_qs);
-    for (const auto &[own, shown] : {std::pair(QIcon(), Qt::red), std::pair(QIcon(filled(Qt::blue)), Qt::blue)}) {
-        QApplication::setWindowIcon(own);
-        setAppDelegate(nullptr); // the mark of a program that has begun already
-        CocoaInit();
-        EXPECT_EQ(colorOf(QApplication::windowIcon().pixmap(48)), QColor(shown));
-    }
+    QApplication::setWindowIcon(own);
+    CocoaInit();
+    return colorOf(QApplication::windowIcon().pixmap(48));
+}
+
+TEST(ApplicationIcon, IsTheThemesNamedLikeTheId)
+{
+    EXPECT_EQ(iconAtStart({}), QColor(Qt::red));
+}
+
+TEST(ApplicationIcon, OfTheProgramsOwnStays)
+{
+    EXPECT_EQ(iconAtStart(filled(Qt::blue)), QColor(Qt::blue));
 }
 
 TEST(AlertIcon, IsTheApplicationsUnlessCritical)

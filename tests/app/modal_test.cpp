@@ -142,16 +142,16 @@ TEST_F(Modal, CarrierScrolls)
     area.setWidget(content);
     area.show();
     const QScrollBar *const bar = area.verticalScrollBar();
-    runWhile([this, content, bar] {
+    runWhile([&] {
         const QPointF at = content->mapTo(&carrier, QPoint(5, 5));
         QWheelEvent wheel(at, carrier.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&wheel);
         qApp->notify(carrier.windowHandle(), &wheel);
-        EXPECT_GT(bar->value(), 0);
-        const int before = bar->value();
+        const int scrolledByWheel = bar->value();
+        EXPECT_GT(scrolledByWheel, 0);
         const QPoint underTheHandle = bar->mapTo(&carrier, QPoint(3, bar->height() - 25));
         QTest::mouseClick(carrier.windowHandle(), Qt::LeftButton, {}, underTheHandle);
-        EXPECT_GT(bar->value(), before);
+        EXPECT_GT(bar->value(), scrolledByWheel);
     });
 }
 
@@ -181,14 +181,11 @@ TEST_F(Modal, NestedRunsEndInTurn)
 TEST_F(Modal, OuterWidgetGoneWhileInnerRuns)
 {
     QWidget inner;
-    EXPECT_EQ(runWhile([&] {
-                  QTimer::singleShot(0, &inner, [&] {
-                      delete panel;
-                      stopModalWithCode(3);
-                  });
-                  EXPECT_EQ(runModalForWindow(&inner), 3);
-              }),
-              modalAborted);
+    const auto runInner = [&] {
+        QTimer::singleShot(0, &inner, [this] { delete panel, stopModalWithCode(3); });
+        EXPECT_EQ(runModalForWindow(&inner), 3);
+    };
+    EXPECT_EQ(runWhile(runInner), modalAborted);
 }
 
 TEST_F(Modal, StopsFromInsideAnOpenMenu)
@@ -206,13 +203,12 @@ TEST_F(Modal, StopsFromInsideAnOpenMenu)
 TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
 {
     QObject::connect(field, &QLineEdit::returnPressed, panel, [] { stopModalWithCode(modalStopped); });
-    const auto type = [this](Qt::Key key) { QTest::keyClick(carrier.windowHandle(), key); };
-    EXPECT_EQ(runWhile([&] {
-                  for (const auto key : {Qt::Key_1, Qt::Key_Return, Qt::Key_2, Qt::Key_3, Qt::Key_Return, Qt::Key_4}) {
-                      type(key);
-                  }
-              }),
-              modalStopped);
+    const auto typeAhead = [&] {
+        for (const auto key : {Qt::Key_1, Qt::Key_Return, Qt::Key_2, Qt::Key_3, Qt::Key_Return, Qt::Key_4}) {
+            QTest::keyClick(carrier.windowHandle(), key);
+        }
+    };
+    EXPECT_EQ(runWhile(typeAhead), modalStopped);
     EXPECT_EQ(field->text(), u"1");
     field->clear();
     EXPECT_EQ(runModalForWindow(panel), modalStopped);
