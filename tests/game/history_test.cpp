@@ -3,11 +3,10 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <map>
-#include <numeric>
 #include <random>
 #include <set>
+#include <vector>
 
 using namespace tetrad;
 
@@ -26,13 +25,9 @@ quint32 recordAccess(quint32 index, quint32 bound, quint32 line, const QString &
 }
 
 // Draws the given positions one after the other.
-RandomSource replay(std::deque<quint32> positions)
+RandomSource replay(std::vector<quint32> positions)
 {
-    return [positions = std::move(positions)]() mutable {
-        const quint32 next = positions.front();
-        positions.pop_front();
-        return next;
-    };
+    return [positions = std::move(positions), next = std::size_t(0)]() mutable { return positions.at(next++); };
 }
 
 QString textOf(PuzzleNumbers &numbers)
@@ -63,17 +58,9 @@ TEST_F(History, RepeatIsDrawnAgainAndTheAcceptedDrawIsGraded)
     EXPECT_EQ(choosePuzzle(history, numbers, source), Level::medium);
     EXPECT_EQ(gPosition, 40);
     EXPECT_EQ(history.count(), 3);
-}
-
-TEST_F(History, StoresKeysWithATrailingBlankAndARepeatBecomesTheNewestKey)
-{
-    choosePuzzle(history, numbers, replay({10}));
-    choosePuzzle(history, numbers, replay({0}));
     QString key = QStringLiteral("2 2 3 9 ");
     EXPECT_TRUE(history.holds(key));
-    EXPECT_EQ(key, QStringLiteral("1 2 3 4 "));
-    key = QStringLiteral("2 2 3 9");
-    EXPECT_FALSE(history.holds(key));
+    EXPECT_EQ(key, QStringLiteral("2 5 5 8 ")) << "a repeat becomes the newest key";
 }
 
 TEST_F(History, CycleShows96DifferentPuzzlesThenStartsAgain)
@@ -91,19 +78,6 @@ TEST_F(History, CycleShows96DifferentPuzzlesThenStartsAgain)
         EXPECT_EQ(shown.size(), 96U);
         EXPECT_EQ(perLevel, (std::map<Level, int>{{Level::easy, 33}, {Level::medium, 32}, {Level::hard, 31}}));
     }
-}
-
-TEST_F(History, NewCycleMayBeginWithTheLastPuzzleOfTheOldOne)
-{
-    std::deque<quint32> positions(97);
-    std::iota(positions.begin(), positions.end(), 0);
-    positions.back() = 95;
-    const RandomSource source = replay(positions);
-    for (int i = 0; i < 97; ++i) {
-        choosePuzzle(history, numbers, source);
-    }
-    EXPECT_EQ(gPosition, 95);
-    EXPECT_EQ(history.count(), 1);
 }
 
 TEST_F(History, EveryArrayAccessIsCheckedUnderItsLine)

@@ -24,6 +24,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <malloc.h>
@@ -39,8 +40,6 @@ using namespace tetrad;
 namespace {
 
 constexpr int puzzlesBefore = 100;
-// Two bytes for each of 10,000 puzzles; what the game has shown of a cycle takes some kilobytes.
-constexpr qint64 memoryMayGrow_bytes = 20'000;
 
 QSet<QObject *> &liveObjects()
 {
@@ -54,38 +53,32 @@ bool inGameThread()
     return QThread::currentThread() == qApp->thread();
 }
 
-void objectMade(QObject *object)
-{
-    if (inGameThread()) {
-        liveObjects().insert(object);
-    }
-}
-
-void objectDeleted(QObject *object)
-{
-    if (inGameThread()) {
-        liveObjects().remove(object);
-    }
-}
-
 void followObjects()
 {
     constexpr int addObject = 3;
     constexpr int removeObject = 4;
-    qtHookData[addObject] = reinterpret_cast<quintptr>(&objectMade);
-    qtHookData[removeObject] = reinterpret_cast<quintptr>(&objectDeleted);
+    void (*const made)(QObject *) = [](QObject *object) {
+        if (inGameThread()) {
+            liveObjects().insert(object);
+        }
+    };
+    void (*const deleted)(QObject *) = [](QObject *object) {
+        if (inGameThread()) {
+            liveObjects().remove(object);
+        }
+    };
+    qtHookData[addObject] = reinterpret_cast<quintptr>(made);
+    qtHookData[removeObject] = reinterpret_cast<quintptr>(deleted);
 }
 
-// What the process holds while the game asks.
-struct Holdings
+qint64 timersRunning()
 {
-    qint64 objects = 0;
-    qint64 timers = 0;
-    qint64 windows = 0;
-    qint64 openFiles = 0;
-    qint64 stackSlots = 0;
-    qint64 heap_bytes = 0;
-};
+    qsizetype timers = 0;
+    for (QObject *object : std::as_const(liveObjects())) {
+        timers += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    }
+    return timers;
+}
 
 qint64 heapInUse_bytes()
 {
@@ -93,49 +86,84 @@ qint64 heapInUse_bytes()
     return static_cast<qint64>(facts.uordblks) + static_cast<qint64>(facts.hblkhd);
 }
 
-Holdings holdingsNow()
+// What the process holds while the game asks, and by how much it may have grown in the end.
+struct Holding
 {
-    Holdings holdings;
-    holdings.objects = liveObjects().size();
-    for (QObject *object : std::as_const(liveObjects())) {
-        holdings.timers += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    const char *name = nullptr;
+    qint64 (*now)() = nullptr;
+    qint64 mayGrow = 0;
+    qint64 before = 0;
+};
+
+std::array holdings = {
+    Holding{"objects", [] { return qint64(liveObjects().size()); }},
+    Holding{"timers", timersRunning},
+    Holding{"windows", [] { return qint64(QApplication::topLevelWidgets().size()); }},
+    Holding{"open files", [] { return qint64(QDir(QStringLiteral("/proc/self/fd")).entryList().size()); }},
+    Holding{"stack slots", [] { return qint64(gZRStk); }},
+    // Two bytes for each of 10,000 puzzles; what the game has shown of a cycle takes some kilobytes.
+    Holding{"heap bytes", heapInUse_bytes, 20'000},
+};
+
+void require(bool holds, const char *what)
+{
+    if (!holds) {
+        std::printf("FAILED: %s\n", what);
+        std::fflush(stdout);
+        std::_Exit(1);
     }
-    holdings.windows = QApplication::topLevelWidgets().size();
-    holdings.openFiles = QDir(QStringLiteral("/proc/self/fd")).entryList().size();
-    holdings.stackSlots = gZRStk;
-    holdings.heap_bytes = heapInUse_bytes();
-    return holdings;
 }
 
-void print(const char *when, const Holdings &holdings)
+[[noreturn]] void finish(int puzzles)
 {
-    std::printf("%-20s %8lld %8lld %8lld %8lld %8lld %12lld\n", when, holdings.objects, holdings.timers,
-                holdings.windows, holdings.openFiles, holdings.stackSlots, holdings.heap_bytes);
-}
-
-bool isFlat(const Holdings &before, const Holdings &after)
-{
-    return before.objects == after.objects && before.timers >= after.timers && before.windows == after.windows &&
-           before.openFiles >= after.openFiles && before.stackSlots == 0 && after.stackSlots == 0 &&
-           after.heap_bytes - before.heap_bytes < memoryMayGrow_bytes;
-}
-
-void fail(const char *what)
-{
-    std::printf("FAILED: %s\n", what);
+    bool isFlat = true;
+    std::printf("%-12s %12d %12d\n", "at puzzle", puzzlesBefore, puzzles);
+    for (const Holding &holding : holdings) {
+        const qint64 now = holding.now();
+        std::printf("%-12s %12lld %12lld\n", holding.name, holding.before, now);
+        isFlat = isFlat && now <= holding.before + holding.mayGrow;
+    }
+    require(isFlat, "nothing is left over");
     std::fflush(stdout);
-    std::_Exit(1);
+    std::_Exit(0);
+}
+
+// Every puzzle takes one of four ways: solved at once, solved after wrong answers, skipped, or left unanswered for a
+// while. The solution is none here, and Escape is the answer that cancels.
+const QString cancelled = QStringLiteral("\x1b");
+const QList<QStringList> ways = {
+    {QString()},
+    {QStringLiteral("1+2+3+4+5"), QStringLiteral("9"), QStringLiteral("(((1"), QString()},
+    {QStringLiteral("s")},
+    {QStringLiteral(""), cancelled, QString()},
+};
+
+QString solutionOf(const QString &puzzle)
+{
+    static QHash<QString, QString> known;
+    QString &solution = known[puzzle];
+    if (solution.isNull()) {
+        solution = solutionsOf(puzzle).first();
+    }
+    return solution;
+}
+
+QString puzzleOnScreen()
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\n[\\s\\x08]*(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]*\\n"));
+    const auto match = pattern.match(CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->textString());
+    require(match.hasMatch(), "a puzzle is on the screen");
+    return match.capturedTexts().mid(1).join(u' ');
 }
 
 /// Answers what is asked, one modal run after the other.
-class Player : public QObject
+class Player
 {
-    Q_OBJECT
-
 public:
     explicit Player(int puzzles) : m_puzzles(puzzles)
     {
-        connect(&m_timer, &QTimer::timeout, this, &Player::look);
+        m_timer.callOnTimeout([this] { look(); });
         m_timer.start(0);
     }
 
@@ -150,107 +178,46 @@ private:
         if (auto *alert = qobject_cast<Alert *>(widget)) {
             alert->alertButtons().at(1)->click();
         } else if (auto *panel = qobject_cast<ZRInputWindow *>(widget)) {
-            answer(panel);
+            require(gZRStk == 0, "the string stack is back at its start");
+            answer(panel->field());
         }
     }
 
-    void answer(ZRInputWindow *panel)
+    void answer(QLineEdit *field)
     {
-        if (gZRStk != 0) {
-            fail("the string stack is back at its start");
-        }
-        const QString puzzle = puzzleOnScreen();
-        if (puzzle != m_puzzle) {
-            m_puzzle = puzzle;
+        if (m_turn == way().size()) {
             m_turn = 0;
             startPuzzle();
         }
-        type(panel, nextAnswer());
+        const QString answer = way().at(m_turn++);
+        if (answer == cancelled) {
+            QTest::keyClick(field, Qt::Key_Escape);
+        } else {
+            QTest::keyClicks(field, answer.isNull() ? solutionOf(puzzleOnScreen()) : answer);
+            QTest::keyClick(field, Qt::Key_Return);
+        }
     }
 
-    static QString puzzleOnScreen()
-    {
-        static const QRegularExpression pattern(
-            QStringLiteral("\\n[\\s\\x08]*(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]*\\n"));
-        const auto match = pattern.match(CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->textString());
-        if (!match.hasMatch()) {
-            fail("a puzzle is on the screen");
-        }
-        return match.capturedTexts().mid(1).join(u' ');
-    }
+    const QStringList &way() const { return ways.at(m_played % ways.size()); }
 
     // Compares when the same is on the screen as it was then: a fresh puzzle's first question.
     void startPuzzle()
     {
         ++m_played;
         if (m_played == puzzlesBefore) {
-            m_before = holdingsNow();
+            for (Holding &holding : holdings) {
+                holding.before = holding.now();
+            }
         } else if (m_played == m_puzzles) {
-            finish();
+            finish(m_puzzles);
         }
-    }
-
-    void finish()
-    {
-        const Holdings after = holdingsNow();
-        std::printf("%-20s %8s %8s %8s %8s %8s %12s\n", "at puzzle", "objects", "timers", "windows", "files", "stack",
-                    "heap bytes");
-        print("100", m_before);
-        print(qPrintable(QString::number(m_puzzles)), after);
-        std::fflush(stdout);
-        if (!isFlat(m_before, after)) {
-            fail("nothing is left over");
-        }
-        std::_Exit(0);
-    }
-
-    // Every puzzle takes one of four ways: solved at once, solved after wrong answers, skipped, or left unanswered
-    // for a while.
-    QString nextAnswer()
-    {
-        static const QList<QStringList> ways = {
-            {QString()},
-            {QStringLiteral("1+2+3+4+5"), QStringLiteral("9"), QStringLiteral("(((1"), QString()},
-            {QStringLiteral("s")},
-            {QStringLiteral(""), QStringLiteral("\x1b"), QString()},
-        };
-        const QStringList &way = ways.at(m_played % ways.size());
-        const QString planned = way.at(m_turn++);
-        const QString answer = planned.isNull() ? solution() : planned;
-        if (m_turn == way.size()) {
-            // What comes next is another puzzle, even if a new cycle begins with the same numbers.
-            m_puzzle.clear();
-        }
-        return answer;
-    }
-
-    QString solution()
-    {
-        QString &known = m_solutions[m_puzzle];
-        if (known.isNull()) {
-            known = solutionsOf(m_puzzle).first();
-        }
-        return known;
-    }
-
-    static void type(ZRInputWindow *panel, const QString &answer)
-    {
-        if (answer == u"\x1b") {
-            QTest::keyClick(panel->field(), Qt::Key_Escape);
-            return;
-        }
-        QTest::keyClicks(panel->field(), answer);
-        QTest::keyClick(panel->field(), Qt::Key_Return);
     }
 
     int m_puzzles = 0;
     int m_played = 0;
-    qsizetype m_turn = 0;
+    qsizetype m_turn = 1; // the way before the first is done
     QTimer m_timer;
     QPointer<QWidget> m_answered;
-    QString m_puzzle;
-    QHash<QString, QString> m_solutions;
-    Holdings m_before;
 };
 
 // The C library keeps freed memory in a cache for each thread and counts it as in use; it fills up over thousands of
@@ -274,5 +241,3 @@ int main(int argc, char **argv)
     Player player(argc > 1 ? std::atoi(argv[1]) : 10'000);
     return gameMain(argc, argv);
 }
-
-#include "soak.moc"
