@@ -21,10 +21,8 @@ TEST(NumberPrinter, printsEachForm)
 {
     const Table<double, const char *> rows = {
         {"negative whole", -24, "-24"},
-        {"zero", 0, " 0"},
         {"minus zero", -0.0, " 0"},
         {"fraction", 1.5, " 1.5"},
-        {"negative fraction", -1.25, "-1.25"},
         {"zeros after the point are dropped", 2.05, " 2.5"},
         {"however many", 2.000001, " 2.1"},
         {"between -1 and 0 the sign is lost", -0.5, " 0.5"},
@@ -58,7 +56,6 @@ TEST(NumberReader, readsTheLeadingNumber)
 {
     const Table<QString, double, qint64> rows = {
         {"none", {}, 0, 0},
-        {"whole", u"24"_qs, 24, 24},
         {"negative", u"-23.5"_qs, -23.5, -23},
         {"plus sign", u"+7"_qs, 7, 7},
         {"two signs", u"+-7"_qs, 0, 0},
@@ -77,7 +74,6 @@ TEST(NumberReader, readsTheLeadingNumber)
         {"above it", u"9223372036854775808"_qs, 9223372036854775808.0, largest},
         {"below the smallest", u"-9223372036854775809"_qs, -9223372036854775809.0, smallest},
         {"too large for a double", u"1e400"_qs, infinity, 1},
-        {"negative", u"-1e400"_qs, -infinity, -1},
         {"exponent beyond 64 bits", u"1e99999999999999999999"_qs, infinity, 1},
         {"large by exponent only", u"0.0001e+400"_qs, infinity, 0},
         {"too small", u"1e-400"_qs, 0, 1},
