@@ -3,6 +3,7 @@
 #include "runtime/console/console_accessible.h"
 #include "runtime/console/console_scroll_view.h"
 #include "runtime/console/console_selection.h"
+#include "runtime/console/shape_painter.h"
 #include "runtime/console/text_layout.h"
 
 #include <QClipboard>
@@ -258,8 +259,7 @@ void CUI_PrintToWindowView::addShape(CUI_PrintToWindowItem item)
 
 void CUI_PrintToWindowView::append(DisplayList::Entry entry, const QRectF &ink)
 {
-    m_items.append(std::move(entry), ink);
-    if (!ink.isEmpty()) {
+    if (m_items.append(std::move(entry), ink)) {
         m_dirty |= ink;
         scheduleRefresh();
     }

@@ -18,15 +18,17 @@ bool isDrawable(const QRectF &ink)
 
 } // namespace
 
-void DisplayList::append(Entry entry, const QRectF &ink)
+bool DisplayList::append(Entry entry, const QRectF &ink)
 {
-    if (isDrawable(ink)) {
+    const bool drawable = isDrawable(ink);
+    if (drawable) {
         m_bands.add(size(), ink.top(), ink.bottom());
         // Whole pixels, which a float holds as they are.
         entry.inkLeft = static_cast<float>(std::floor(ink.left()) - 1);
         entry.inkRight = static_cast<float>(std::ceil(ink.right()) + 1);
     }
     m_entries.push_back(std::move(entry));
+    return drawable;
 }
 
 void DisplayList::clear()
@@ -58,16 +60,6 @@ QString DisplayList::dump() const
         dump += dumpedItem(entry.item) + u'\n';
     }
     return dump;
-}
-
-QRectF shapeInk(const CUI_PrintToWindowItem &item)
-{
-    const QRectF bounds = item.type() == CUI_PrintToWindowItem::line
-                              ? QRectF(item.linePt1(), item.linePt2()).normalized()
-                              : item.rect().normalized();
-    // Half a width to each side, half as much again where a square cap or a corner points outwards.
-    const double room = std::max(item.lineStyle().lineWidth, 1.0) + 2;
-    return bounds.adjusted(-room, -room, room, room);
 }
 
 } // namespace tetrad

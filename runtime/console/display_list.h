@@ -32,8 +32,9 @@ public:
     const Entry &at(quint32 index) const { return m_entries[index]; }
     const CUI_PrintToWindowItem &item(quint32 index) const { return m_entries[index].item; }
 
-    /// ink covers every pixel that drawing the item may touch; what it does not meet need not be redrawn.
-    void append(Entry entry, const QRectF &ink);
+    /// ink covers every pixel that drawing the item may touch; what it does not meet need not be redrawn. Returns
+    /// whether there is such a pixel at all: not with an ink that is empty or not finite.
+    bool append(Entry entry, const QRectF &ink);
     void clear();
 
     /// The items, in drawing order, that may touch the part of the document between two heights.
@@ -55,8 +56,5 @@ private:
     std::deque<Entry> m_entries;
     BandIndex m_bands;
 };
-
-/// What drawing a line, rectangle or oval may touch.
-QRectF shapeInk(const CUI_PrintToWindowItem &item);
 
 } // namespace tetrad

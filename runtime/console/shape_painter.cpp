@@ -5,8 +5,10 @@
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPainterPathStroker>
 #include <QPen>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tetrad {
@@ -14,6 +16,35 @@ namespace tetrad {
 namespace {
 
 using Item = CUI_PrintToWindowItem;
+
+constexpr double farthest = 1e8;
+
+// Dashes of what is larger than any screen are followed by the painter, at the cost of those it shows.
+constexpr double largestOutlined = 5000;
+
+QPointF limited(QPointF point)
+{
+    return {std::clamp(point.x(), -farthest, farthest), std::clamp(point.y(), -farthest, farthest)};
+}
+
+/// From the first corner or end to the other, neither of them too far away.
+QRectF placeOf(const Item &item)
+{
+    const QRectF place = item.type() == Item::line ? QRectF(item.linePt1(), item.linePt2()) : item.rect();
+    const QPointF first = limited(place.topLeft());
+    const QPointF second = limited(place.bottomRight());
+    return first == place.topLeft() && second == place.bottomRight() ? place : QRectF(first, second);
+}
+
+bool isSomewhere(const QRectF &place)
+{
+    return !std::isnan(place.x() + place.y() + place.width() + place.height());
+}
+
+bool isStroked(const Item &item)
+{
+    return item.lineStyle().lineWidth >= 0;
+}
 
 Qt::PenCapStyle capStyle(quint32 code)
 {
@@ -55,7 +86,7 @@ void setDashes(QPen &pen, const LineStyle &style)
 QPen penFor(const LineStyle &style, double thinnest)
 {
     QPen pen(style.strokeColor.isValid() ? style.strokeColor : QColor(Qt::black));
-    pen.setWidthF(style.lineWidth > 0 ? style.lineWidth : thinnest);
+    pen.setWidthF(style.lineWidth > 0 ? std::min(style.lineWidth, farthest) : thinnest);
     pen.setCapStyle(capStyle(style.lineCapStyle));
     pen.setJoinStyle(Qt::MiterJoin);
     if (isUsable(style.lineDashPattern)) {
@@ -64,48 +95,77 @@ QPen penFor(const LineStyle &style, double thinnest)
     return pen;
 }
 
-void fill(QPainter &painter, const Item &item)
+void fill(QPainter &painter, const Item &item, const QRectF &place)
 {
     if (!item.fillColor().isValid()) {
         return;
     }
     if (item.type() == Item::rectangle) {
         painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.fillRect(item.rect().normalized(), item.fillColor());
+        painter.fillRect(place.normalized(), item.fillColor());
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(Qt::NoPen);
     painter.setBrush(item.fillColor());
-    painter.drawEllipse(item.rect().normalized());
+    painter.drawEllipse(place.normalized());
 }
 
-void stroke(QPainter &painter, const Item &item)
+/// The painter loses its place in a dash pattern at what need not be repainted, so that dashes would be broken after a
+/// part was drawn anew. It does not where it follows a line of one device pixel.
+bool losesItsPlace(const QPainter &painter, const QPen &pen, const QRectF &place)
 {
-    if (!(item.lineStyle().lineWidth >= 0)) {
+    const QRectF bounds = place.normalized();
+    return pen.style() == Qt::CustomDashLine && bounds.width() < largestOutlined && bounds.height() < largestOutlined &&
+           (pen.widthF() > 1 || painter.deviceTransform().type() > QTransform::TxTranslate);
+}
+
+void stroke(QPainter &painter, const Item &item, const QRectF &place)
+{
+    if (!isStroked(item)) {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
     QPainterPath path;
     if (item.type() == Item::line) {
-        path.moveTo(item.linePt1());
-        path.lineTo(item.linePt2());
+        path.moveTo(place.topLeft());
+        path.lineTo(place.bottomRight());
     } else if (item.type() == Item::rectangle) {
-        path.addRect(item.rect());
+        path.addRect(place);
     } else {
-        path.addEllipse(item.rect());
+        path.addEllipse(place);
     }
-    painter.strokePath(path, penFor(item.lineStyle(), 1.0 / painter.device()->devicePixelRatioF()));
+    const QPen pen = penFor(item.lineStyle(), 1.0 / painter.device()->devicePixelRatioF());
+    if (losesItsPlace(painter, pen, place)) {
+        painter.fillPath(QPainterPathStroker(pen).createStroke(path), pen.color());
+    } else {
+        painter.strokePath(path, pen);
+    }
 }
 
 } // namespace
 
+QRectF shapeInk(const CUI_PrintToWindowItem &item)
+{
+    const QRectF place = placeOf(item);
+    if (!isSomewhere(place)) {
+        return {};
+    }
+    // Half a width to each side, half as much again where a square cap or a corner points outwards.
+    const double room = (isStroked(item) ? std::clamp(item.lineStyle().lineWidth, 1.0, farthest) : 0) + 2;
+    return place.normalized().adjusted(-room, -room, room, room);
+}
+
 void drawShape(QPainter &painter, const CUI_PrintToWindowItem &item)
 {
-    if (item.type() != Item::line) {
-        fill(painter, item);
+    const QRectF place = placeOf(item);
+    if (!isSomewhere(place)) {
+        return;
     }
-    stroke(painter, item);
+    if (item.type() != Item::line) {
+        fill(painter, item, place);
+    }
+    stroke(painter, item, place);
 }
 
 } // namespace tetrad

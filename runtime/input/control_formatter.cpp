@@ -109,10 +109,23 @@ QString CUI_ControlFormatter::withoutRefused(const QString &proposal) const
         const TextCharacter character = characterAt(proposal, i);
         if (!m_refused.contains(character.value)) {
             accepted += QStringView(proposal).mid(i, character.units);
+            takeBackRefusedPair(accepted);
         }
         i += character.units;
     }
     return accepted;
+}
+
+// Two halves, between which something was taken out, have become a character that nobody has looked at.
+void CUI_ControlFormatter::takeBackRefusedPair(QString &accepted) const
+{
+    if (accepted.size() < 2) {
+        return;
+    }
+    const TextCharacter joined = characterAt(accepted, accepted.size() - 2);
+    if (joined.units == 2 && m_refused.contains(joined.value)) {
+        accepted.chop(joined.units);
+    }
 }
 
 void ControlSetFormat(Tag control, const QString &characters, bool pass, quint64 length, qint64 caseOption)

@@ -30,6 +30,7 @@ public:
 
 private:
     QString withoutRefused(const QString &proposal) const;
+    void takeBackRefusedPair(QString &accepted) const;
 
     CharacterSet m_refused;
     quint64 m_length = 0;

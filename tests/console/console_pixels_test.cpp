@@ -1,5 +1,6 @@
 #include "runtime/console/emoji_runs.h"
 #include "tests/console/printing.h"
+#include "tests/console/whole_list.h"
 
 #include <QCoreApplication>
 #include <QFontDatabase>
@@ -136,38 +137,6 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
     }
 }
 
-/// Draws every item of a view's list, wherever it is.
-class WholeList : public QWidget
-{
-public:
-    explicit WholeList(const CUI_PrintToWindowView &view) : m_view(view) { resize(view.size()); }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        const ItemPainter::Canvas canvas{painter, m_view.palette().color(QPalette::WindowText), !m_view.flipView(),
-                                         m_view.documentSize().height()};
-        ItemPainter itemPainter;
-        for (quint32 i = 0; i < m_view.items().size(); ++i) {
-            itemPainter.draw(canvas, m_view.items(), i);
-        }
-    }
-
-private:
-    const CUI_PrintToWindowView &m_view;
-};
-
-QImage partOf(QWidget &widget, const QRect &seen, double scale)
-{
-    QImage image(seen.size() * scale, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    widget.render(&painter, QPoint(), seen, QWidget::RenderFlags());
-    return image;
-}
-
 TEST(Culling, changesNoPixel)
 {
     constexpr int height = 3000;
@@ -183,6 +152,22 @@ TEST(Culling, changesNoPixel)
             const QRect seen(random.bounded(100), random.bounded(height), 200 + random.bounded(200),
                              1 + random.bounded(250));
             EXPECT_EQ(partOf(view, seen, scale), partOf(whole, seen, scale)) << "round " << round << " part " << part;
+        }
+    }
+}
+
+TEST_F(Console, dashesAreTheSameInPartsAsInTheWhole)
+{
+    view.setCurrentLineWidth(3);
+    view.setCurrentLineDashPattern({6, 3, 1});
+    view.addRect({-30, -20, 300.5, 120.25}, Qt::black, QColor());
+    view.addOval({100.5, 30, 320, 250}, Qt::red, QColor());
+    for (const bool flip : {true, false}) {
+        view.setFlipView(flip);
+        const QImage whole = picture(1);
+        for (int top = 0; top < whole.height(); top += 15) {
+            const QRect part(40, top, 250, 15);
+            EXPECT_EQ(partOf(view, part, 1), whole.copy(part)) << "flip " << flip << " at " << top;
         }
     }
 }

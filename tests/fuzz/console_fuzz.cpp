@@ -1,13 +1,10 @@
 // The display list: random operations, then drawing, then the archive. Input: operations, each a byte with
-// its operands. Drawing a strip at a time must give, pixel for pixel, what drawing everything gives.
+// its operands. Every part must show, pixel for pixel, what drawing the whole list shows there.
 
+#include "tests/console/whole_list.h"
 #include "tests/fuzz/fuzz_input.h"
 
-#include "runtime/console/console_view.h"
-
 #include <QApplication>
-#include <QImage>
-#include <QPainter>
 
 #include <array>
 
@@ -144,23 +141,20 @@ void operate(Input &input, View &view)
             clearOrSelect, printOrPlace, printOrPlace});
 }
 
-void render(View &view, QImage &image, const QRect &part)
-{
-    QPainter painter(&image);
-    view.render(&painter, part.topLeft(), part, QWidget::RenderFlags());
-}
-
-void drawInStrips(View &view, int height)
+// Rows and columns, each drawn alone, as a partial repaint does.
+void drawInParts(View &view, int extent)
 {
     view.resize(picture);
-    QImage whole(picture, QImage::Format_ARGB32_Premultiplied);
-    whole.fill(Qt::white);
-    QImage strips = whole;
-    render(view, whole, QRect(QPoint(), picture));
-    for (int top = 0; top < picture.height(); top += height) {
-        render(view, strips, QRect(0, top, picture.width(), qMin(height, picture.height() - top)));
+    WholeList whole(view);
+    const auto compare = [&](const QRect &part) {
+        require(partOf(view, part, 1) == partOf(whole, part, 1), "a part shows what the whole list does", view.dump());
+    };
+    for (int top = 0; top < picture.height(); top += extent) {
+        compare({0, top, picture.width(), extent});
     }
-    require(whole == strips, "strips together are the whole picture", view.dump());
+    for (int left = 0; left < picture.width(); left += extent) {
+        compare({left, 0, extent, picture.height()});
+    }
 }
 
 void archive(const View &view)
@@ -185,7 +179,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     QCoreApplication::sendPostedEvents(&view);
     view.takeNewText();
-    drawInStrips(view, 1 + static_cast<int>(size % 50));
+    drawInParts(view, 1 + static_cast<int>(size % 50));
     archive(view);
     return 0;
 }
