@@ -34,14 +34,16 @@ TEST_F(Console, placesOnePieceAfterTheOther)
     }
 }
 
-TEST_F(Console, aTabGoesToTheNextMultipleOfItsInterval)
+TEST_F(Console, tabsAndCellsHaveTheirColumns)
 {
     view.setTabInterval(50);
     EXPECT_DOUBLE_EQ(view.addString(u"abc\t"_qs).x(), 3 + 50);
     EXPECT_DOUBLE_EQ(view.addString(u"12345678\t"_qs).x(), 3 + 50 + 100);
-    EXPECT_EQ(view.currentPoint().y(), 0);
     view.setTabInterval(0);
     EXPECT_DOUBLE_EQ(view.addString(u"\t"_qs).x(), 3 + 50 + 100);
+    view.setColumnRow(4, 30);
+    EXPECT_EQ(view.currentPoint(), QPointF(4 * advance, 30 * lineHeight)) << "without the inset";
+    EXPECT_DOUBLE_EQ(view.viewH(), 30 * lineHeight + 20);
 }
 
 TEST_F(Console, alignmentUsesTheWidthOfTheViewButTheCurrentPointMovesOn)
@@ -59,23 +61,13 @@ TEST_F(Console, alignmentUsesTheWidthOfTheViewButTheCurrentPointMovesOn)
     EXPECT_DOUBLE_EQ(placed(3), 7);
 }
 
-TEST_F(Console, aCellHasNoInset)
-{
-    view.setColumnRow(4, 30);
-    EXPECT_EQ(view.currentPoint(), QPointF(4 * advance, 30 * lineHeight));
-    EXPECT_DOUBLE_EQ(view.viewH(), 30 * lineHeight + 20);
-}
-
 TEST_F(Console, theDocumentOnlyGrows)
 {
-    view.fixFrameHeight(100);
-    EXPECT_EQ(view.viewH(), 120);
-    view.fixFrameHeight(119.5);
-    EXPECT_EQ(view.viewH(), 120);
-    view.fixFrameHeight(120);
-    EXPECT_EQ(view.viewH(), 140);
-    view.fixFrameHeight(qQNaN());
-    EXPECT_EQ(view.viewH(), 140);
+    for (const auto &[bottom, height] :
+         QList<std::pair<double, double>>{{100, 120}, {119.5, 120}, {120, 140}, {10, 140}, {qQNaN(), 140}}) {
+        view.fixFrameHeight(bottom);
+        EXPECT_EQ(view.viewH(), height) << bottom;
+    }
     QCoreApplication::sendPostedEvents(&view);
     EXPECT_EQ(view.height(), 140);
     view.setViewH(0);
@@ -89,24 +81,21 @@ TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
     view.setForegroundColor(Qt::green);
     view.setFontSize(18);
     view.setAlignment(2);
-    view.setCurrentLineWidth(4);
     view.setTextInset(5);
     view.addString(u"abc"_qs, {50, 500});
-    EXPECT_EQ(view.textString(), u"abc\n"_qs);
     view.clear();
-    EXPECT_EQ(view.items().size(), 0U);
     EXPECT_TRUE(view.textString().isNull());
     EXPECT_EQ(view.viewH(), 0);
-    EXPECT_EQ(view.documentSize().height(), 1.0);
     EXPECT_EQ(view.height(), 1);
     EXPECT_EQ(view.currentPoint(), QPointF(5, 0));
     view.addString(u"x\b"_qs);
-    EXPECT_TRUE(view.dump().endsWith(u"\"x\\x08\" size 18 color #00ff00\n"_qs)) << view.dump().toStdString();
-    EXPECT_TRUE(view.currentAlignment() == 2 && view.currentLineWidth() == 4);
+    EXPECT_EQ(view.currentAlignment(), 2);
     view.resetAttributes();
     EXPECT_EQ(view.currentAlignment(), 0);
     view.addString(u"y\b"_qs, {1, 2});
-    EXPECT_TRUE(view.dump().endsWith(u"text (1,2) \"y\\x08\" size 12 color standard\n"_qs));
+    const QString dump = view.dump();
+    EXPECT_TRUE(dump.contains(u"\"x\\x08\" size 18 color #00ff00\n"_qs)) << dump.toStdString();
+    EXPECT_TRUE(dump.endsWith(u"text (1,2) \"y\\x08\" size 12 color standard\n"_qs)) << dump.toStdString();
 }
 
 TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
@@ -116,10 +105,9 @@ TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
     view.setFontName(u"No Such Family"_qs);
     view.setFontSize(-1);
     const QVariantMap now = view.currentAttributes();
-    EXPECT_EQ(now.value(u"mood"_qs), 7);
-    EXPECT_EQ(now.value(u"font"_qs).value<QFont>().family(), u"Menlo"_qs);
-    EXPECT_EQ(now.value(u"font"_qs).value<QFont>().pixelSize(), 12);
-    EXPECT_EQ(now.value(u"paragraphStyle"_qs).value<ParagraphStyle>(), ParagraphStyle());
+    const auto font = now.value(u"font"_qs).value<QFont>();
+    EXPECT_TRUE(now.value(u"mood"_qs) == 7 && font.family() == u"Menlo" && font.pixelSize() == 12)
+        << view.dump().toStdString();
     EXPECT_EQ(view.items().item(0).attributes().backgroundColor(), QColor(Qt::transparent));
 }
 

@@ -29,7 +29,7 @@ TEST(Emoji, areFoundInTheText)
     }
 }
 
-TEST(Fonts, emojiAreSetInTheColourFontAndNothingElse)
+TEST_F(Console, emojiAreDrawnInTheColourFontAndNothingElseIs)
 {
     if (!QFontDatabase::hasFamily(u"Noto Color Emoji"_qs)) {
         GTEST_SKIP() << "install fonts-noto-color-emoji";
@@ -41,49 +41,26 @@ TEST(Fonts, emojiAreSetInTheColourFontAndNothingElse)
     }
     const QString textFamily = QRawFont::fromFont(TextAttributes().facts().font).familyName();
     EXPECT_EQ(glyphs, (QMap<QString, qsizetype>{{u"Noto Color Emoji"_qs, 1}, {textFamily, 11}}));
-}
-
-TEST_F(Console, anEmojiIsDrawnInColour)
-{
-    view.setForegroundColor(Qt::black);
     view.addString(u"🔴"_qs, {10, 10});
-    const QImage image = picture(1);
-    int red = 0;
-    for (int x = 0; x < 40; ++x) {
-        for (int y = 0; y < 40; ++y) {
-            red += image.pixelColor(x, y).hsvSaturation() > 100;
-        }
-    }
-    EXPECT_GT(red, 20);
+    EXPECT_GT(picture(1).pixelColor(18, 17).hsvSaturation(), 100);
 }
 
-TEST_F(Console, aFilledRectangleHidesWhatIsUnderItAndRowsTouchAtEveryScale)
+TEST_F(Console, rowsTouchAtEveryScale)
 {
+    view.setBackgroundColor(QColor(0, 0, 255, 128));
+    view.setForegroundColor(Qt::transparent);
+    view.setCurrentLineWidth(-1);
+    for (int row = 0; row < 12; ++row) {
+        view.addString(u"xxxxxxxxxxxx"_qs);
+        view.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
+    }
     for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
-        SCOPED_TRACE(scale);
-        view.clear();
-        view.resetAttributes();
-        view.setForegroundColor(Qt::red);
-        view.addRect({0, 0, 400, 300}, Qt::black, Qt::black);
-        const QImage before = picture(scale);
-        view.addString(u"Number of digits was not 4: |gjpqy_[]{}"_qs, {10, 200});
-        EXPECT_NE(picture(scale), before);
-        view.addRect({10, 200, 400, 15}, Qt::black, Qt::black);
-        EXPECT_EQ(picture(scale), before);
-
-        view.clear();
-        view.setBackgroundColor(QColor(0, 0, 255, 128));
-        view.setForegroundColor(Qt::transparent);
-        view.setCurrentLineWidth(-1);
-        for (int row = 0; row < 12; ++row) {
-            view.addString(u"xxxxxxxxxxxx"_qs);
-            view.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
-        }
         const QImage rows = picture(scale);
         for (const int x : {qRound(20 * scale), qRound(220 * scale)}) {
-            EXPECT_NE(rows.pixelColor(x, 0), QColor(Qt::white));
+            EXPECT_NE(rows.pixelColor(x, 0), QColor(Qt::white)) << scale;
             for (int y = 0; y < qFloor(12 * lineHeight * scale); ++y) {
-                EXPECT_EQ(rows.pixelColor(x, y), rows.pixelColor(x, 0)) << "neither seam nor overlap at " << y;
+                EXPECT_EQ(rows.pixelColor(x, y), rows.pixelColor(x, 0))
+                    << "seam or overlap at " << y << " of " << scale;
             }
         }
     }

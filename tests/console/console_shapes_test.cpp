@@ -38,36 +38,33 @@ TEST_F(Console, aShapesOwnColoursWinOverThePens)
 
 TEST_F(Console, theArchiveHasTenKeysAndThosePresent)
 {
+    view.addString(u"abc\b"_qs);
+    view.addOval({1, 2, 3, 4}, Qt::black, QColor());
+    view.setCurrentLineDashPattern({1, 2});
+    view.addLines({{5, 6}, {7, 8}}, true);
+    view.addRect({1, 2, 3, 4}, Qt::black, Qt::green);
     const QStringList always{u"fillFlag"_qs, u"lineCapStyle"_qs, u"lineDashPhase"_qs, u"lineWidth"_qs,  u"pt"_qs,
                              u"pt1"_qs,      u"pt2"_qs,          u"rect"_qs,          u"strokeFlag"_qs, u"type"_qs};
-    const auto keysBeside = [&](const QVariantMap &map) {
-        QStringList keys = map.keys();
+    QStringList beside;
+    const QVariantList array = view.itemArray();
+    for (const QVariant &item : array) {
+        QStringList keys = item.toMap().keys();
         for (const QString &key : always) {
             EXPECT_EQ(keys.removeAll(key), 1) << key.toStdString();
         }
-        return keys.join(u' ');
-    };
-    view.addString(u"abc"_qs);
-    view.addOval({1, 2, 3, 4}, Qt::black, QColor());
-    view.setCurrentLineDashPattern({1, 2});
-    view.addLines({{5, 6}, {7, 8}}, false);
-    view.addRect({1, 2, 3, 4}, Qt::black, Qt::green);
-    const QVariantList array = view.itemArray();
-    ASSERT_EQ(array.size(), 6);
-    const QVariantMap text = array.at(0).toMap();
-    EXPECT_EQ(keysBeside(text), u"attributes text"_qs);
-    EXPECT_EQ(text.value(u"attributes"_qs), u"abc"_qs);
-    EXPECT_EQ(text.value(u"pt"_qs), QPointF(3, 0));
-    EXPECT_EQ(text.value(u"lineWidth"_qs), 0.0) << "nothing gave the text a line style";
-    EXPECT_EQ(keysBeside(array.at(1).toMap()), u"attributes text"_qs) << "the empty piece";
-    EXPECT_EQ(keysBeside(array.at(2).toMap()), u"strokeColor"_qs);
-    const QVariantMap line = array.at(4).toMap();
-    EXPECT_EQ(keysBeside(line), u"lineDashPattern strokeColor"_qs);
-    EXPECT_EQ(line.value(u"type"_qs), 1U);
-    EXPECT_EQ(line.value(u"pt2"_qs), QPointF(7, 8));
-    EXPECT_EQ(line.value(u"lineDashPattern"_qs), QVariantList({1.0, 2.0}));
-    EXPECT_EQ(keysBeside(array.at(5).toMap()), u"fillColor lineDashPattern strokeColor"_qs);
-    EXPECT_EQ(array.at(5).toMap().value(u"rect"_qs), QRectF(1, 2, 3, 4));
+        beside.append(keys.join(u' '));
+    }
+    const QString line = u"lineDashPattern strokeColor"_qs;
+    EXPECT_EQ(beside,
+              (QStringList{u"attributes text"_qs, u"strokeColor"_qs, line, line, QString(u"fillColor " + line)}));
+    const auto value = [&array](qsizetype item, const QString &key) { return array.at(item).toMap().value(key); };
+    EXPECT_EQ(value(0, u"attributes"_qs), u"abc\b"_qs);
+    EXPECT_EQ(value(0, u"pt"_qs), QPointF(3, 0));
+    EXPECT_EQ(value(0, u"lineWidth"_qs), 0.0) << "nothing gave the text a line style";
+    EXPECT_EQ(value(3, u"type"_qs), 1U);
+    EXPECT_EQ(value(3, u"pt2"_qs), QPointF(7, 8));
+    EXPECT_EQ(value(3, u"lineDashPattern"_qs), QVariantList({1.0, 2.0}));
+    EXPECT_EQ(value(4, u"rect"_qs), QRectF(1, 2, 3, 4));
 }
 
 TEST_F(Console, strokesAreSeenInTheMiddleOfALine)
@@ -111,7 +108,6 @@ TEST_F(Console, aNegativeWidthFillsWithoutStroking)
     const QImage image = picture(1);
     EXPECT_EQ(image.pixelColor(20, 20), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(50, 10), QColor(Qt::red));
-    EXPECT_EQ(image.pixelColor(69, 29), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(49, 10), QColor(Qt::white));
     EXPECT_EQ(image.pixelColor(70, 29), QColor(Qt::white));
     EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::white)) << "an oval has no corner";

@@ -19,16 +19,6 @@ CUI_PrintToWindowView *outputView()
     return CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow());
 }
 
-TEST(Statements, printingWithoutAWindowMakesTheDefaultOne)
-{
-    CUI_PrintToWindowPrintStatement({u"hello"_qs});
-    const Window *window = CUI_WindowWithTag(999999);
-    ASSERT_NE(window, nullptr);
-    EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_qs);
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(outputView()->textString(), u"hello\n"_qs);
-}
-
 TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
 {
     CUI_Window(1, u"Game"_qs, notGiven, QRectF(0, 0, 300, 200));
@@ -39,7 +29,6 @@ TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
     EXPECT_EQ(window->contentView()->children().first(), view->scrollView());
     EXPECT_EQ(window->contentView()->children().last(), other);
     EXPECT_EQ(view->scrollView()->geometry(), window->contentView()->rect());
-    EXPECT_EQ(view->scrollView()->documentView(), view);
     EXPECT_EQ(CUI_PrintToWindowViewObj(nullptr), nullptr);
     Popover popover(5, QSize(100, 80));
     EXPECT_EQ(CUI_PrintToWindowPrint(&popover, u"x\b"_qs).y(), 0);
@@ -49,7 +38,6 @@ TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
 TEST(Statements, printJoinsUpToTheFirstNullText)
 {
     CUI_PrintToWindowPrintStatement({u"a"_qs, u""_qs, u"b"_qs, u"\b"_qs, QString(), u"c"_qs});
-    EXPECT_EQ(outputView()->textString(), u"ab\b"_qs);
     CUI_PrintToWindowPrintStatement({QString()});
     CUI_PrintToWindowPrintStatement({});
     EXPECT_EQ(outputView()->textString(), u"ab\b\n\n"_qs);
@@ -57,6 +45,9 @@ TEST(Statements, printJoinsUpToTheFirstNullText)
     CUI_PrintToWindowSetXYStatement(15, 110);
     CUI_PrintToWindowPrintFStatement(u"%d of %@"_qs, 3, u"4"_qs);
     EXPECT_TRUE(outputView()->dump().startsWith(u"text (15,110) \"3 of 4\""_qs));
+    const Window *window = CUI_WindowWithTag(999999);
+    ASSERT_TRUE(window != nullptr && window->isVisible()) << "the default window, made by printing";
+    EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_qs);
 }
 
 TEST(Statements, textAppliesOnlyWhatIsGiven)
@@ -65,21 +56,18 @@ TEST(Statements, textAppliesOnlyWhatIsGiven)
         CUI_PrintToWindowClearStatement();
         CUI_PrintToWindowPrintStatement({u"x\b"_qs});
         const QString dump = outputView()->dump();
+        const auto font = outputView()->currentAttributes().value(u"font"_qs).value<QFont>();
         return QString(dump.mid(dump.indexOf(u"size")).trimmed() + u" align " +
-                       QString::number(outputView()->currentAlignment()));
+                       QString::number(outputView()->currentAlignment()) + u' ' + font.family());
     };
-    const QString initial = u"size 12 color standard align 0"_qs;
-    for (const double size : {0.0, -18.0}) {
-        CUI_PrintToWindowTextStatement(QString(), QColor(), QColor(), notGiven, notGiven, size);
-        EXPECT_EQ(look(), initial);
-    }
+    CUI_PrintToWindowTextStatement(QString(), QColor(), QColor(), notGiven, notGiven, -18);
+    EXPECT_EQ(look(), u"size 12 color standard align 0 Menlo"_qs);
     CUI_PrintToWindowTextStatement(u"No Such Family"_qs, ColorGreen(), ColorBlack(), 2, 50, 18);
-    EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2"_qs);
+    EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2 Menlo"_qs);
+    CUI_PrintToWindowTextStatement(QString(), ColorWhite(), QColor(), notGiven, notGiven, 0);
+    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2 Menlo"_qs);
     const QVariantMap now = outputView()->currentAttributes();
     EXPECT_EQ(now.value(u"paragraphStyle"_qs).value<ParagraphStyle>().defaultTabInterval, 50);
-    EXPECT_EQ(now.value(u"font"_qs).value<QFont>().family(), u"Menlo"_qs);
-    CUI_PrintToWindowTextStatement(QString(), ColorWhite(), QColor(), notGiven, notGiven, 0);
-    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2"_qs);
 }
 
 TEST(Statements, aRectangleChasesTheFillColour)
