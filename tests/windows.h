@@ -87,6 +87,21 @@ protected:
     }
 };
 
+/// Calls `action` with the widget of this kind that is run modally next, once it is on the screen and active; start it
+/// before the call that blocks.
+template <typename Widget>
+void whenRuns(std::function<void(Widget *)> action)
+{
+    QTimer::singleShot(0, qApp, [action = std::move(action)] {
+        auto *const widget = qobject_cast<Widget *>(modalWindow());
+        if (widget && widget->isVisible() && widget->window()->isActiveWindow()) {
+            action(widget);
+        } else {
+            whenRuns<Widget>(action);
+        }
+    });
+}
+
 /// What the mouse does at a place of the widget, with the buttons that are down then.
 inline void sendMouse(QWidget *widget, QEvent::Type type, const QPointF &place, Qt::MouseButton button,
                       Qt::MouseButtons buttons)

@@ -7,18 +7,9 @@
 
 namespace tetrad {
 
-/// Calls `action` with the alert that is run next, once it is on the screen and active; start it before the call
-/// that blocks.
-inline void whenAlertRuns(std::function<void(Alert *)> action)
+inline void whenAlertRuns(const std::function<void(Alert *)> &action)
 {
-    QTimer::singleShot(0, qApp, [action = std::move(action)] {
-        auto *const alert = qobject_cast<Alert *>(modalWindow());
-        if (alert && alert->isVisible() && alert->isActiveWindow()) {
-            action(alert);
-        } else {
-            whenAlertRuns(action);
-        }
-    });
+    whenRuns<Alert>(action);
 }
 
 /// What answers an alert with a click on one of its buttons.

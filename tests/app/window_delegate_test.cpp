@@ -93,51 +93,33 @@ TEST_F(WindowDelegate, RealEventsAreToldInOrder)
     }
 }
 
-TEST_F(WindowDelegate, QuestionsOfTheProgramAreAnsweredFromTheRecord)
+TEST_F(WindowDelegate, TheProgramPlacesASheet)
 {
-    CUI_WindowDelegate &delegate = *CUI_WindowDelegateObj();
-    const QRectF rect(1, 2, 30, 40);
-    const QRectF otherRect(5, 6, 70, 80);
-    const auto ask = [&](bool isAnswered) {
-        atEvent = [&, isAnswered](qint64) {
-            CUI_DialogEvent &record = *CUI_DialogEventObj();
-            if (isAnswered) {
-                record.rectVal = otherRect;
-                record.sizeVal = otherRect.size();
-                record.longVal = 12;
-                record.boolVal = false;
-            }
-        };
-        return QVariantList{delegate.windowWillPositionSheet(m_window, m_window, rect),
-                            delegate.windowWillUseFullScreenContentSize(m_window, rect.size()),
-                            delegate.windowWillUseFullScreenPresentationOptions(m_window, 3),
-                            delegate.windowShouldPopUpDocumentPathMenu(m_window, nullptr)};
-    };
-    EXPECT_EQ(ask(false), (QVariantList{rect, rect.size(), 3, true}));
-    EXPECT_EQ(ask(true), (QVariantList{otherRect, otherRect.size(), 12, false}));
-    EXPECT_TRUE(takeCodes().startsWith(u"10000 10012 10013 10038 "_qs));
+    const QRectF place(1, 2, 30, 40);
+    const auto ask = [&] { return CUI_WindowDelegateObj()->windowWillPositionSheet(m_window, m_window, place); };
+    EXPECT_EQ(ask(), place);
+    atEvent = [](qint64) { CUI_DialogEventObj()->rectVal.translate(4, 4); };
+    EXPECT_EQ(ask(), place.translated(4, 4));
+    EXPECT_EQ(lastObject, tagFromObject(m_window));
 }
 
 TEST_F(WindowDelegate, RelayPrefersTheNearestCallback)
 {
-    static QStringList got;
     static int userData = 0;
     CUI_WindowDelegate *const delegate = CUI_WindowDelegateObj();
     m_window->setCuiWindowCallback([](Tag tag, qint64 event, void *data) {
-        got << u"own %1 %2 %3"_qs.arg(tag).arg(event).arg(data == &userData);
+        dialogCalls << u"own %1 %2 %3"_qs.arg(tag).arg(event).arg(data == &userData);
     });
     m_window->setCuiWindowUserData(&userData);
     delegate->allWindowsCallback = [](Tag tag, qint64 event, void *data) {
-        got << u"all %1 %2 %3"_qs.arg(tag).arg(event).arg(data == nullptr);
+        dialogCalls << u"all %1 %2 %3"_qs.arg(tag).arg(event).arg(data == nullptr);
     };
     delegate->forwardEvent(m_window, 10004, 20, 30);
     m_window->setCuiWindowCallback(nullptr);
     delegate->forwardEvent(m_window, 10004, 20, 30);
-    EXPECT_EQ(got, QStringList({u"own 7 10004 1"_qs, u"all 7 10004 1"_qs}));
-    EXPECT_TRUE(dialogCalls.isEmpty());
     delegate->allWindowsCallback = nullptr;
     delegate->forwardEvent(m_window, 10004, 20, 30);
-    EXPECT_EQ(dialogCalls, QStringList{u"10004 20 7"_qs});
+    EXPECT_EQ(dialogCalls, (QStringList{u"own 7 10004 1"_qs, u"all 7 10004 1"_qs, u"10004 20 7"_qs}));
     EXPECT_EQ(lastObject, 30);
 }
 
@@ -211,53 +193,35 @@ TEST_F(WindowDelegate, IsKnownUntilItHasToldThatItCloses)
 // no event of the window system is being delivered may it be deleted at once.
 TEST_F(WindowDelegate, SurvivesWhatCallbacksDo)
 {
-    const Happening resizes = [this] { userResizes(9); };
-    const Happening moves = [this] { userMoves(9); };
-    const Happening zooms = [this] { m_window->setWindowState(Qt::WindowMaximized); };
     const Happening closes = [this] { m_window->close(); };
-    const struct
-    {
-        qint64 code;
-        Happening happening;
-        bool mayDelete = false;
-    } rows[] = {
-        {10003, resizes},
-        {10004, resizes},
-        {10005, resizes},
-        {10006, resizes},
-        {10007, [this] { m_window->showMinimized(); }},
-        {10010, zooms},
-        {10011, zooms},
-        {10026, moves},
-        {10027, moves},
-        {10031, closes, true},
-        {10032, closes, true},
+    const Happening deletes = [this] { delete m_window.data(); };
+    const Happening retags = [this] { m_window->setTag(70); };
+    const std::tuple<Happening, QList<qint64>, QList<Happening>> rows[] = {
+        {[this] { userResizes(9); }, {10003, 10004, 10005, 10006}, {closes, retags}},
+        {[this] { m_window->showMinimized(); }, {10007}, {closes, retags}},
+        {[this] { m_window->setWindowState(Qt::WindowMaximized); }, {10010, 10011}, {closes, retags}},
+        {[this] { userMoves(9); }, {10026, 10027}, {closes, retags}},
+        {closes, {10031, 10032}, {deletes, retags}},
     };
-    for (const bool isDestroyed : {true, false}) {
-        for (const auto &[code, happening, mayDelete] : rows) {
-            SCOPED_TRACE(testing::Message() << code << (isDestroyed ? " destroys" : " gives another tag"));
+    for (const auto &[happening, codes, harms] : rows) {
+        for (int index = 0; index < codes.size() * harms.size(); ++index) {
+            const qint64 dangerous = codes.at(index / harms.size());
+            SCOPED_TRACE(dangerous);
             openWindow();
-            bool happened = false;
-            atEvent = [&, deadly = code, deletes = mayDelete](qint64 event) {
-                if (event != deadly || std::exchange(happened, true)) {
-                    return;
-                }
-                if (!isDestroyed) {
-                    m_window->setTag(70);
-                } else if (deletes) {
-                    delete m_window.data();
-                } else {
-                    m_window->close();
+            bool isHarmed = false;
+            atEvent = [&isHarmed, dangerous, harm = harms.at(index % harms.size())](qint64 event) {
+                if (event == dangerous && !std::exchange(isHarmed, true)) {
+                    harm();
                 }
             };
             happening();
-            EXPECT_TRUE(QTest::qWaitFor([&] { return happened; }));
+            EXPECT_TRUE(QTest::qWaitFor([&isHarmed] { return isHarmed; }));
             QApplication::processEvents();
             atEvent = nullptr;
             delete m_window.data();
         }
     }
-    EXPECT_TRUE(CUI_AppDelegateObj()->windows().isEmpty() && orderedWindows().isEmpty());
+    EXPECT_TRUE(orderedWindows().isEmpty());
 }
 
 TEST_F(WindowDelegate, ContentViewReportsWithItsFlagOnly)

@@ -95,8 +95,6 @@ TEST_F(Windows, InitDoesNotCheckTheTagAndTakesTheSubclassFlagOnce)
     for (const auto &[tag, found] : lookups) {
         EXPECT_EQ(CUI_WindowWithTag(tag), found) << tag;
     }
-    WindowCenter(4);
-    WindowSetBackgroundColor(4, Qt::red);
 }
 
 TEST_F(Windows, ContentKeepsItsSizeWhateverTheMenuBarTakes)

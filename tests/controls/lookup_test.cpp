@@ -1,6 +1,5 @@
 #include "runtime/app/content_view.h"
 #include "runtime/app/popover.h"
-#include "runtime/controls/class_names.h"
 #include "runtime/controls/control_statements.h"
 #include "runtime/controls/popover_statements.h"
 #include "runtime/controls/segmented_control.h"
@@ -12,17 +11,11 @@
 #include "tests/controls/site_helper.h"
 
 #include <QAction>
-#include <QCheckBox>
-#include <QDialog>
 #include <QFrame>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QSlider>
 #include <QTabWidget>
 #include <QToolBar>
-#include <QTreeView>
-
-#include <memory>
 
 using namespace tetrad;
 
@@ -37,6 +30,12 @@ protected:
         auto *const view = new View(parent);
         view->setObjectName(identifier);
         return view;
+    }
+    static void expectFound(const Table<Tag, QWidget *> &rows)
+    {
+        for (const auto &[name, tag, found] : rows) {
+            EXPECT_EQ(CUI_ViewWithTag(tag), found) << name;
+        }
     }
     template <typename View = QPushButton>
     static View *tagged(QWidget *parent, Tag tag)
@@ -58,7 +57,7 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
     tagged<QWidget>(content, 9);
     QWidget *const button = tagged(content, 5);
     QWidget *const inner = tagged<ContentViewSC>(content, 11);
-    const Table<Tag, QWidget *> rows = {
+    expectFound({
         {"no view", 0, nullptr},
         {"unknown", 99, nullptr},
         {"negative", -5, nullptr},
@@ -72,10 +71,7 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
         {"a plain view's tag does not count", 9, nullptr},
         {"the content view itself", contentViewTag, content},
         {"a view in place of a tag", tagFromObject(effect), effect},
-    };
-    for (const auto &[name, tag, found] : rows) {
-        EXPECT_EQ(CUI_ViewWithTag(tag), found) << name;
-    }
+    });
     EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), content->findChild<QPushButton *>(u"8"_qs))
         << "a view without a tag counts as 0";
 }
@@ -83,26 +79,24 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
 TEST_F(Lookup, ReportsAndSearchesByDifferentTags)
 {
     QWidget *const content = open(1)->contentView();
-    setObjectTag(content, 70);
-    QWidget *const effect = named<VisualEffectView>(content, u"10"_qs);
-    setObjectTag(effect, 71);
-    QWidget *const plain = named(content, u"12"_qs);
-    setObjectTag(plain, 72);
-    EXPECT_EQ(CUI_ViewSearchTag(content), 70);
-    EXPECT_EQ(CUI_ViewTag(content), contentViewTag);
-    EXPECT_EQ(CUI_ViewSearchTag(effect), 10);
-    EXPECT_EQ(CUI_ViewTag(effect), 71);
-    EXPECT_EQ(CUI_ViewSearchTag(plain), 12);
-    EXPECT_EQ(CUI_ViewTag(plain), 12);
-    EXPECT_EQ(CUI_ViewWindowTag(plain), 1);
+    const Table<QWidget *, Tag, Tag> rows = {
+        {"content view", content, 70, contentViewTag},
+        {"visual-effect view", named<VisualEffectView>(content, u"10"_qs), 10, 70},
+        {"plain view", named(content, u"12"_qs), 12, 12},
+    };
+    for (const auto &[name, view, searched, reported] : rows) {
+        SCOPED_TRACE(name);
+        setObjectTag(view, 70);
+        EXPECT_EQ(CUI_ViewSearchTag(view), searched);
+        EXPECT_EQ(CUI_ViewTag(view), reported);
+    }
 }
 
 TEST_F(Lookup, GoesDepthFirstAndTakesTheFirst)
 {
     QWidget *const content = open(1)->contentView();
     QWidget *const box = named(content, {});
-    QWidget *const deeper = named(box, {});
-    QWidget *const deep = tagged(deeper, 3);
+    QWidget *const deep = tagged(named(box, {}), 3);
     QWidget *const shallow = tagged(content, 3);
     EXPECT_EQ(CUI_ViewWithTag(3), deep) << "what lies in an earlier subview comes before a later subview";
     QWidget *const outer = tagged(content, 4);
@@ -110,9 +104,6 @@ TEST_F(Lookup, GoesDepthFirstAndTakesTheFirst)
     EXPECT_EQ(CUI_ViewWithTag(4), outer) << "a view comes before what lies in it";
     box->raise();
     EXPECT_EQ(CUI_ViewWithTag(3), shallow) << "the order is that of the subviews now";
-    QDialog dialog(content);
-    tagged(&dialog, 6);
-    EXPECT_EQ(CUI_ViewWithTag(6), nullptr) << "another window";
 }
 
 TEST_F(Lookup, SearchesAllTabsAndNoSegments)
@@ -127,38 +118,44 @@ TEST_F(Lookup, SearchesAllTabsAndNoSegments)
     auto *const segments = tagged<SegmentedControl>(content, 30);
     segments->setLabels({u"a"_qs, u"b"_qs});
     setObjectTag(segments->findChildren<QAbstractButton *>().constLast(), 31);
-    ASSERT_EQ(tabs->currentIndex(), 0);
-    EXPECT_EQ(CUI_ViewWithTag(20), tabs);
-    EXPECT_EQ(CUI_ViewWithTag(21), second) << "not the selected tab";
-    EXPECT_EQ(CUI_ViewWithTag(22), firstOfTwo) << "in the order of the tabs, not of creation";
-    EXPECT_EQ(CUI_ViewWithTag(24), nullptr) << "a tab's own view is not compared";
-    EXPECT_EQ(CUI_ViewWithTag(30), segments);
-    EXPECT_EQ(CUI_ViewWithTag(31), nullptr);
+    expectFound({
+        {"the tab view itself", 20, tabs},
+        {"in a tab that is not selected", 21, second},
+        {"in the order of the tabs, not of creation", 22, firstOfTwo},
+        {"a tab's own view is not compared", 24, nullptr},
+        {"a segmented control", 30, segments},
+        {"no segment", 31, nullptr},
+    });
 }
 
 TEST_F(Lookup, TakesTheShownPopoverThenTheOutputWindowThenTheFront)
 {
-    EXPECT_EQ(CUI_ViewWithTag(3), nullptr);
     EXPECT_EQ(CUI_ViewWithTag(contentViewTag), nullptr);
     QWidget *const one = open(1)->contentView();
     QWidget *const two = open(2)->contentView();
-    QWidget *const inOne = tagged(one, 3);
-    QWidget *const inTwo = tagged(two, 3);
     Popover popover(9, QSize(100, 50));
-    QWidget *const inPopover = tagged(popover.contentView(), 3);
-    EXPECT_EQ(CUI_ViewWithTag(3), inTwo);
-    CUI_OutputWindowSetTag(1);
-    EXPECT_EQ(CUI_ViewWithTag(3), inOne);
-    CUI_OutputWindowSetTag(0);
-    EXPECT_EQ(CUI_ViewWithTag(3), inTwo) << "the frontmost window";
-    CUI_OutputWindowSetTag(9);
-    EXPECT_EQ(CUI_ViewWithTag(3), inPopover) << "a hidden popover as the output window";
-    CUI_OutputWindowSetTag(1);
-    popover.showRelativeTo(one, QRect(), Qt::BottomEdge);
-    EXPECT_EQ(CUI_ViewWithTag(3), inPopover);
-    EXPECT_EQ(CUI_ViewWindowTag(inPopover), 9);
-    CUI_OutputWindowSetTag(1);
-    EXPECT_EQ(CUI_ViewWithTag(contentViewTag), one) << "not the popover's";
+    QWidget *const inPopover = popover.contentView();
+    const Table<Tag, bool, QWidget *, QWidget *> rows = {
+        {"the output window", 1, false, one, one},
+        {"the frontmost window", 0, false, two, two},
+        {"a hidden popover as the output window", 9, false, inPopover, inPopover},
+        {"a shown popover, though not as the content view", 1, true, inPopover, one},
+    };
+    for (QWidget *const each : {one, two, inPopover}) {
+        tagged(each, 3);
+    }
+    for (const auto &[name, output, shows, parent, content] : rows) {
+        SCOPED_TRACE(name);
+        if (shows) {
+            popover.showRelativeTo(one, QRect(), Qt::BottomEdge);
+        }
+        CUI_OutputWindowSetTag(output);
+        const QWidget *const found = CUI_ViewWithTag(3);
+        ASSERT_TRUE(found);
+        EXPECT_EQ(found->parentWidget(), parent);
+        EXPECT_EQ(CUI_ViewWindowTag(found), CUI_ViewWindowTag(parent));
+        EXPECT_EQ(CUI_ViewWithTag(contentViewTag), content);
+    }
 }
 
 TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
@@ -169,36 +166,30 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     QWidget *const accessory = named<QFrame>(nullptr, u"40"_qs);
     accessory->setFixedSize(30, 20);
     CUI_WindowAddTitlebarAccessoryView(window, accessory);
-    auto *const second = new QWidget;
-    QWidget *const inAccessory = tagged(second, 41);
-    CUI_WindowAddTitlebarAccessoryView(window, second);
+    QWidget *const inAccessory = tagged(accessory, 41);
     CUI_Toolbar(50);
-    QAction *const item = CUI_ToolbarAddItem(50, 42, u"Go"_qs);
+    QToolBar *const toolbar = CUI_WindowToolbar(window);
+    QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_qs);
     auto *const view = new QSlider;
     CUI_ToolbarAddViewItem(50, 43, view);
     CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_qs);
-    QToolBar *const toolbar = CUI_WindowToolbar(window);
+    CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_qs);
+    QWidget *const inContent = tagged(content, 42);
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return toolbar->isVisible() && toolbar->height() >= view->height(); }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return content->size() == before; })) << "neither is taken from the content";
     EXPECT_GE(window->menuBar()->height(), 20) << "beside no menus too";
     EXPECT_TRUE(accessory->isVisible());
-    EXPECT_EQ(titlebarAccessoryViews(window), QList<QWidget *>({accessory, second}));
-    EXPECT_EQ(CUI_ViewWithTag(40), accessory) << "by the identifier, whatever its class";
-    EXPECT_EQ(CUI_ViewWithTag(41), inAccessory);
-    EXPECT_EQ(CUI_ViewWithTag(42), toolbar->widgetForAction(item));
-    EXPECT_EQ(CUI_ViewWithTag(43), view);
-    EXPECT_EQ(ToolbarItemWithTag(toolbar, 0), nullptr);
-    QWidget *const inContent = tagged(content, 42);
-    EXPECT_EQ(CUI_ViewWithTag(42), inContent) << "the content comes first";
-    delete inContent;
-
+    expectFound({
+        {"by the identifier, whatever its class", 40, accessory},
+        {"in an accessory, before the tool bar", 41, inAccessory},
+        {"in the content, before the tool bar", 42, inContent},
+        {"in the tool bar", 43, view},
+        {"an item without a view of its own", 44, toolbar->widgetForAction(item)},
+    });
     CUI_OutputWindowSetTag(0);
     EXPECT_EQ(TitlebarAccessoryViewWithTag(40), nullptr) << "the output window's only";
     EXPECT_EQ(CUI_ViewWithTag(43), view) << "the front window's tool bar";
-    CUI_OutputWindowSetTag(1);
-    window->setStyleMask(windowStyleBorderless);
-    EXPECT_EQ(TitlebarAccessoryViewWithTag(40), nullptr) << "no title bar";
     EXPECT_EQ(alertsOf([] { CUI_ToolbarAddItem(51, 1, {}); }), u"Tag error.|Can't find tool bar 51 in window 1."_qs);
 }
 
@@ -237,39 +228,12 @@ TEST_F(Lookup, TellsWhatIsWrong)
     }
 }
 
-TEST_F(Lookup, TellsWhenThereIsNoWindow)
+TEST_F(Lookup, TellsWhenThereIsNoWindowUnlessGivenTheObject)
 {
-    QWidget *found = nullptr;
-    EXPECT_EQ(alertsOf([&] { found = ControlWithTag(3); }), u"Error.|Can't find any windows."_qs);
-    EXPECT_EQ(found, nullptr);
     QPushButton loose;
-    EXPECT_EQ(alertsOf([&] { found = ControlWithTag(tagFromObject(&loose)); }), QString());
-    EXPECT_EQ(found, &loose) << "an object needs no window";
-    EXPECT_EQ(alertsOf([&] { CUI_Button(3, u"x"_qs, {}); }), u"Error.|Can't find any windows."_qs);
-}
-
-TEST_F(Lookup, NamesClassesByTheirNearestName)
-{
-    const auto row = [](const QObject &object, const QString &name, bool isControl) {
-        SCOPED_TRACE(object.metaObject()->className());
-        EXPECT_EQ(viewClassName(&object), name);
-        EXPECT_EQ(isKindOfViewClass(&object, u"NSControl"), isControl);
-        EXPECT_EQ(isKindOfViewClass(&object, u"NSView"), qobject_cast<const QWidget *>(&object) != nullptr);
-        EXPECT_FALSE(isKindOfViewClass(&object, u"NSNothing"));
-    };
-    row(QWidget(), u"NSView"_qs, false);
-    row(QFrame(), u"NSView"_qs, false);
-    row(QCheckBox(), u"NSButton"_qs, true);
-    row(QSlider(), u"NSSlider"_qs, true);
-    row(QLineEdit(), u"NSTextField"_qs, true);
-    row(QTreeView(), u"NSOutlineView"_qs, true);
-    row(QTabWidget(), u"NSTabView"_qs, false);
-    row(SegmentedControl(), u"NSSegmentedControl"_qs, true);
-    row(VisualEffectView(), u"NSVisualEffectView"_qs, false);
-    row(QAction(), u"NSToolbarItem"_qs, false);
-    EXPECT_TRUE(isKindOfViewClass(std::make_unique<QTreeView>().get(), u"NSTableView"));
-    QFrame frame;
-    EXPECT_FALSE(isExactlyViewClass(&frame, u"NSView"));
+    EXPECT_EQ(alertsOf([] { EXPECT_FALSE(ControlWithTag(3)); }), u"Error.|Can't find any windows."_qs);
+    EXPECT_EQ(alertsOf([] { CUI_Button(3, u"x"_qs, {}); }), u"Error.|Can't find any windows."_qs);
+    EXPECT_EQ(alertsOf([&] { EXPECT_EQ(ControlWithTag(tagFromObject(&loose)), &loose); }), QString());
 }
 
 } // namespace

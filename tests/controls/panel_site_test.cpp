@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QColorDialog>
 #include <QFontDialog>
-#include <QLineEdit>
 #include <QToolBar>
 
 using namespace tetrad;
@@ -20,15 +19,10 @@ namespace {
 class PopoverSite : public SiteTest
 {
 protected:
-    void SetUp() override
-    {
-        SiteTest::SetUp();
-        m_popover = makePopover();
-    }
     void TearDown() override
     {
-        delete m_popover;
         SiteTest::TearDown();
+        delete CUI_PopoverWithTag(9);
     }
 
     static Popover *makePopover()
@@ -39,60 +33,55 @@ protected:
     }
     static void show() { PopoverShow(9, contentViewTag, QRectF(0, 0, 5, 5), Qt::BottomEdge); }
     static void drag(Popover *popover) { dragMouse(popover->contentView(), QPoint(10, 10), QPoint(60, 50)); }
-
-    QPointer<Popover> m_popover;
 };
 
 TEST_F(PopoverSite, TellsWhenItShowsAndCloses)
 {
+    const Popover *const popover = makePopover();
     show();
     EXPECT_EQ(takeSiteCalls(), u"1302 9 9, 1303 9 9"_qs);
     PopoverClose(9);
     EXPECT_EQ(takeSiteCalls(), u"1301 9 9"_qs);
-    EXPECT_TRUE(m_popover->isVisible()) << "the preset answer is no";
+    EXPECT_TRUE(popover->isVisible()) << "the preset answer is no";
     atEvent = [](qint64 event) { answer(event == popoverEventShouldClose); };
     PopoverClose(9);
     EXPECT_EQ(takeSiteCalls(), u"1301 9 9, 1304 9 9, 1305 9 9"_qs);
-    EXPECT_FALSE(m_popover->isVisible());
+    EXPECT_FALSE(popover->isVisible());
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
-    setPopoverAsks(m_popover, false);
-    show();
-    drag(m_popover);
-    takeSiteCalls();
-    PopoverClose(9);
-    EXPECT_EQ(takeSiteCalls(), u"1304 9 9, 1305 9 9"_qs) << "unasked";
 }
 
 TEST_F(PopoverSite, IsDraggedOffAsAWindowOrGivesWayToOne)
 {
     QWidget window;
-    const Table<bool, bool, QString> rows = {{"refused", false, false, u"1307 9 9"_qs},
-                                             {"another window", true, true, u"1307 9 9, 1300 9 9, 1306 9 9"_qs},
-                                             {"itself", true, false, u"1307 9 9, 1300 9 9, 1306 9 9"_qs}};
-    for (const auto &[name, lets, givesWindow, calls] : rows) {
+    const Table<bool, QWidget *, QString> rows = {{"refused", false, nullptr, u"1307 9 9"_qs},
+                                                  {"another window", true, &window, u"1307 9 9, 1300 9 9, 1306 9 9"_qs},
+                                                  {"itself", true, nullptr, u"1307 9 9, 1300 9 9, 1306 9 9"_qs}};
+    for (const auto &[name, lets, other, calls] : rows) {
         SCOPED_TRACE(name);
+        Popover *const popover = makePopover();
         show();
         takeSiteCalls();
-        atEvent = [yes = lets, other = givesWindow ? &window : nullptr](qint64 event) {
+        atEvent = [yes = lets, given = other](qint64 event) {
             answer(yes);
-            if (event == popoverEventDetachableWindow && other) {
-                CUI_DialogEventObj()->viewObj = other;
+            if (event == popoverEventDetachableWindow && given) {
+                CUI_DialogEventObj()->viewObj = given;
             }
         };
-        const QPoint before = m_popover->pos();
-        drag(m_popover);
+        const QWidget *const dragged = other ? other : popover;
+        const QPoint before = dragged->pos();
+        drag(popover);
         EXPECT_EQ(takeSiteCalls(), calls);
-        EXPECT_EQ(m_popover->isVisible(), !givesWindow);
-        EXPECT_EQ(window.isVisible(), givesWindow);
-        EXPECT_EQ((givesWindow ? window.pos() : m_popover->pos()) == before, !lets);
+        EXPECT_NE(popover->isVisible(), window.isVisible());
+        EXPECT_TRUE(dragged->isVisible());
+        EXPECT_EQ(dragged->pos() == before, !lets);
         window.hide();
         atEvent = nullptr;
+        delete popover;
     }
 }
 
 TEST_F(PopoverSite, SurvivesBeingDeletedAtEveryEvent)
 {
-    delete m_popover;
     const auto appear = [](Popover *) { show(); };
     const auto close = [](Popover *) { PopoverClose(9); };
     const auto yes = [](qint64) { answer(true); };
@@ -110,53 +99,40 @@ TEST_F(ToolbarSite, ClicksAreToldAndItemsValidatedWhenAsked)
     QTest::mouseClick(toolbar->widgetForAction(item), Qt::LeftButton);
     EXPECT_EQ(takeSiteCalls(), u"1900 8 7"_qs);
     EXPECT_EQ(lastObject, tagFromObject(item));
-    bool enabled = true;
-    atEvent = [&enabled](qint64 event) { answer(event == toolbarEventValidateItem && enabled); };
-    setToolbarItemValidates(item, true);
-    EXPECT_EQ(takeSiteCalls(), u"1901 8 7"_qs);
-    EXPECT_TRUE(item->isEnabled());
-    enabled = false;
-    QTest::mouseClick(m_content, Qt::LeftButton);
-    EXPECT_EQ(takeSiteCalls(), u"1901 8 7"_qs);
-    EXPECT_FALSE(item->isEnabled());
-}
-
-TEST_F(ToolbarSite, SurvivesItsItemBeingDeleted)
-{
-    QToolBar *const toolbar = CUI_Toolbar(3);
-    for (const bool validates : {false, true}) {
-        const auto make = [validates] {
-            QAction *const item = CUI_ToolbarAddItem(3, 8, u"Go"_qs);
-            setToolbarItemValidates(item, validates);
-            takeSiteCalls();
-            return item;
-        };
-        const auto click = [&](QAction *item) { QTest::mouseClick(toolbar->widgetForAction(item), Qt::LeftButton); };
-        expectSurvival<QAction>({validates ? 1901 : 1900}, make, {click});
+    for (const bool enabled : {true, false}) {
+        atEvent = [enabled](qint64 event) { answer(event == toolbarEventValidateItem && enabled); };
+        setToolbarItemValidates(item, true);
+        QTest::mouseClick(m_content, Qt::LeftButton);
+        EXPECT_TRUE(takeSiteCalls().startsWith(u"1901 8 7"_qs));
+        EXPECT_EQ(item->isEnabled(), enabled);
     }
+    const auto yes = [](qint64) { answer(true); };
+    const auto make = [yes] {
+        atEvent = yes;
+        QAction *const fresh = CUI_ToolbarAddItem(3, 9, u"Go"_qs);
+        setToolbarItemValidates(fresh, true);
+        takeSiteCalls();
+        return fresh;
+    };
+    const auto click = [&](QAction *fresh) { QTest::mouseClick(toolbar->widgetForAction(fresh), Qt::LeftButton); };
+    expectSurvival<QAction>({1900, 1901}, make, {click}, yes);
 }
 
 using PanelSite = SiteTest;
 
 TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
 {
-    QColorDialog *const colors = CUI_ColorPanel(Qt::red);
     valuesOf = [](qint64 event) {
         const CUI_DialogEvent &record = *CUI_DialogEventObj();
         return event == colorPanelEventAction ? record.colorObj.name() : QString::number(record.fontObj.pointSize());
     };
+    QColorDialog *const colors = CUI_ColorPanel(Qt::red);
     takeSiteCalls();
-    auto *const hex = colors->findChild<QLineEdit *>();
-    ASSERT_TRUE(hex);
-    hex->selectAll();
-    QTest::keyClicks(hex, u"#0000ff"_qs);
-    QTest::keyClick(hex, Qt::Key_Return);
-    EXPECT_TRUE(takeSiteCalls().endsWith(u"2600 0 7 #0000ff"_qs));
+    colors->setCurrentColor(Qt::blue);
+    EXPECT_EQ(takeSiteCalls(), u"2600 0 7 #0000ff"_qs);
     EXPECT_EQ(lastObject, tagFromObject(colors));
     expectSurvival<QColorDialog>({2600}, [] { return CUI_ColorPanel(Qt::red); },
                                  {[](QColorDialog *dialog) { dialog->setCurrentColor(Qt::green); }});
-    EXPECT_TRUE(CUI_ColorPanel(Qt::red)->isVisible());
-    CUI_ColorPanel(Qt::red)->hide();
 
     QFont font = QApplication::font();
     font.setPointSize(10);

@@ -101,21 +101,23 @@ protected:
         return view;
     }
 
-    /// Makes an object for each event, brings its events about, and deletes it at that one, which
-    /// must come and be survived. `answering` answers the others.
+    /// Makes an object for each event, brings its events about, and harms it at that one, which must come and be
+    /// survived. `answering` answers the others.
     template <typename Object>
     void expectSurvival(
         const QList<qint64> &events, const std::function<Object *()> &make,
         const QList<std::function<void(Object *)>> &happenings,
-        const std::function<void(qint64)> &answering = [](qint64) {})
+        const std::function<void(qint64)> &answering = [](qint64) {},
+        const std::function<void(Object *)> &harm = [](const Object *victim) { delete victim; })
     {
-        for (const qint64 deadly : events) {
-            SCOPED_TRACE(deadly);
+        for (const qint64 dangerous : events) {
+            SCOPED_TRACE(dangerous);
             const QPointer<Object> victim = make();
-            atEvent = [deadly, answering, &victim](qint64 event) {
+            bool isHarmed = false;
+            atEvent = [&, dangerous](qint64 event) {
                 answering(event);
-                if (event == deadly) {
-                    delete victim;
+                if (event == dangerous && !std::exchange(isHarmed, true)) {
+                    harm(victim);
                 }
             };
             for (const auto &happen : happenings) {
@@ -124,8 +126,9 @@ protected:
                     takeSiteCalls();
                 }
             }
-            EXPECT_FALSE(victim);
+            EXPECT_TRUE(isHarmed);
             atEvent = nullptr;
+            delete victim;
         }
     }
 

@@ -2,7 +2,6 @@
 #include "tests/controls/site_helper.h"
 
 #include <QClipboard>
-#include <QMenu>
 
 using namespace tetrad;
 
@@ -45,19 +44,6 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
     const auto key = [](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) -> Act {
         return [code, modifiers](TextView *view) { QTest::keyClick(view, code, modifiers); };
     };
-    const auto command = [](const char *name) -> Act {
-        return [name](TextView *view) { QMetaObject::invokeMethod(view, name); };
-    };
-    const auto menuItem = [](const QString &name) -> Act {
-        return [name](TextView *view) {
-            QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
-            QApplication::sendEvent(view->viewport(), &event);
-            auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            ASSERT_TRUE(menu && menu->findChild<QAction *>(name));
-            menu->findChild<QAction *>(name)->trigger();
-            menu->close();
-        };
-    };
     const Act typing = [](TextView *view) { QTest::keyClicks(view, u"x"_qs); };
     QGuiApplication::clipboard()->setText(u"ab"_qs);
     const Table<int, int, Act, QString, QString> rows = {
@@ -70,10 +56,6 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
         {"word before", 3, 3, key(Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_qs, u" two"_qs},
         {"Paste", 3, 3, key(Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_qs, u"oneab two"_qs},
         {"Cut key", 0, 3, key(Qt::Key_X, Qt::ControlModifier), u"0+3="_qs, u" two"_qs},
-        {"Cut command", 0, 3, command("cut"), u"0+3="_qs, u" two"_qs},
-        {"Delete command", 0, 3, command("del"), u"0+3="_qs, u" two"_qs},
-        {"Cut in the context menu", 0, 3, menuItem(u"edit-cut"_qs), u"0+3="_qs, u" two"_qs},
-        {"Delete in the context menu", 0, 3, menuItem(u"edit-delete"_qs), u"0+3="_qs, u" two"_qs},
     };
     for (const auto &[name, from, to, act, question, result] : rows) {
         SCOPED_TRACE(name);

@@ -40,14 +40,9 @@ TEST_F(TokenSite, AWordIsAskedAboutWhenItEndsAndTheFieldTold)
     EXPECT_EQ(takeSiteCalls(), u"2301 6 7 c, 2302 6 7 a|b|c"_qs);
     EXPECT_EQ(field->text(), u"a, b, c, "_qs);
     QTest::keyClicks(field, u"d"_qs);
-    EXPECT_EQ(takeSiteCalls(), u"2300 6 7 d"_qs);
     QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(takeSiteCalls(), u"2301 6 7 d, 2302 6 7 a|b|c|d, 1 6 7"_qs);
-    atEvent = [](qint64 event) {
-        if (event == tokenFieldEventAddTokens) {
-            CUI_DialogEventObj()->arrayObj.clear();
-        }
-    };
+    EXPECT_EQ(takeSiteCalls(), u"2300 6 7 d, 2301 6 7 d, 2302 6 7 a|b|c|d, 1 6 7"_qs);
+    atEvent = [](qint64) { CUI_DialogEventObj()->arrayObj.clear(); };
     QTest::keyClicks(field, u"e"_qs);
     field->clearFocus();
     EXPECT_EQ(takeSiteCodes(), u"2300 2301"_qs);

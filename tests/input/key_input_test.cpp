@@ -19,7 +19,7 @@ class KeyInput : public PanelTest
 protected:
     QString ask(const QString &characters, qint64 pass, qint64 caseOption, std::function<void(ZRInkeyWindow &)> user)
     {
-        const WithPanel<ZRInkeyWindow> played(std::move(user));
+        whenPanelRuns(std::move(user));
         const QString key = ZRInkey(10, 190, u"Key:"_s, characters, pass, caseOption);
         EXPECT_EQ(CUI_AppDelegateObj()->inkeyWnd(), nullptr);
         return key;
@@ -49,9 +49,7 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
             press(no);
             EXPECT_EQ(modalWindow(), &panel);
             EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString(), u"before"_s);
-            EXPECT_NE(panel.cursorTimer(), nullptr);
             press(yes);
-            EXPECT_EQ(panel.cursorTimer(), nullptr) << "the cursor still blinks";
         });
         EXPECT_EQ(key, expected);
     }
@@ -60,7 +58,7 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
 TEST_F(KeyInput, escapeGivesNoKeyWithTheCodeOfAnAnswer)
 {
     CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
-    const WithPanel<ZRInkeyWindow> played([](ZRInkeyWindow &panel) { QTest::keyClick(&panel, Qt::Key_Escape); });
+    whenPanelRuns<ZRInkeyWindow>([](ZRInkeyWindow &panel) { QTest::keyClick(&panel, Qt::Key_Escape); });
     ZRInkeyWindow panel(u""_s, 10, 190);
     EXPECT_EQ(panel.bodyRect(), QRect(10, 154, 40, 36)) << "without a prompt forty wide";
     EXPECT_EQ(panel.run(), modalStopped);
@@ -79,7 +77,6 @@ TEST_F(KeyInput, keysThatAreNoAnswerAreWaitedOver)
         compose(&panel, u"é"_s);
     });
     EXPECT_EQ(key, u"é"_s);
-    EXPECT_EQ(ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &p) { QTest::keyClick(&p, Qt::Key_Tab); }), u"\t"_s);
 }
 
 TEST_F(KeyInput, theFormatPersistsUntilItIsRemoved)
@@ -92,16 +89,15 @@ TEST_F(KeyInput, theFormatPersistsUntilItIsRemoved)
 TEST_F(KeyInput, theCursorBlinksAndStandsAfterThePrompt)
 {
     ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &panel) {
-        ASSERT_NE(panel.cursorTimer(), nullptr);
-        EXPECT_EQ(panel.cursorTimer()->interval(), 500);
-        EXPECT_TRUE(panel.cursorLabel()->isVisible());
         const QPointer<QTimer> timer = panel.cursorTimer();
+        EXPECT_EQ(timer->interval(), 500);
+        EXPECT_GT(panel.cursorLabel()->x(), panel.promptLabel()->geometry().right());
+        EXPECT_TRUE(panel.cursorLabel()->isVisible());
         EXPECT_TRUE(QTest::qWaitFor([&] { return panel.cursorLabel()->isHidden(); }));
         panel.windowDidBecomeKey();
         EXPECT_EQ(panel.cursorTimer(), timer) << "a second timer would toggle out of step";
-        EXPECT_GT(panel.cursorLabel()->x(), panel.promptLabel()->geometry().right());
         press(u"k"_s);
-        EXPECT_EQ(timer, nullptr);
+        EXPECT_EQ(timer, nullptr) << "the cursor still blinks";
     });
 }
 

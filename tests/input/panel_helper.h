@@ -23,45 +23,25 @@ inline void repeatHeldKey(QWidget *target, Qt::Key key)
     QCoreApplication::sendEvent(target, &held);
 }
 
-/// Waits for the panel of the next modal run, plays the user's part, and fails the test if the panel
-/// still waits afterwards.
+/// Plays the user's part in the panel that is run next, and fails the test if it still waits afterwards.
 template <typename Panel>
-class WithPanel
+void whenPanelRuns(std::function<void(Panel &)> user)
 {
-public:
-    explicit WithPanel(std::function<void(Panel &)> user) : m_user(std::move(user))
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { play(); });
-        m_timer.start(0);
-    }
-    ~WithPanel() { EXPECT_TRUE(m_played) << "no panel came"; }
-
-private:
-    void play()
-    {
-        const QPointer<Panel> panel = qobject_cast<Panel *>(modalWindow());
-        if (!panel || !panel->isVisible() || !panel->window()->isActiveWindow()) {
-            return;
-        }
-        m_timer.stop();
-        m_played = true;
-        m_user(*panel);
-        if (panel) {
+    whenRuns<Panel>([user = std::move(user)](Panel *panel) {
+        const QPointer<Panel> waiting = panel;
+        user(*panel);
+        if (waiting) {
             // Not reached when the user's last key ended the run, since the panel is deleted then.
-            QTimer::singleShot(0, panel, [] {
+            QTimer::singleShot(0, waiting, [] {
                 ADD_FAILURE() << "the panel still waits";
                 abortModal();
             });
         }
-    }
-
-    std::function<void(Panel &)> m_user;
-    QTimer m_timer;
-    bool m_played = false;
-};
+    });
+}
 
 /// A window of the game's size, in front and active.
-class PanelTest : public testing::Test
+class PanelTest : public WindowTest
 {
 protected:
     void SetUp() override
@@ -73,7 +53,7 @@ protected:
     void TearDown() override
     {
         EXPECT_EQ(modalWindow(), nullptr);
-        delete host;
+        WindowTest::TearDown();
     }
 
     QPointer<Window> host;

