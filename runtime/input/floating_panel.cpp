@@ -111,7 +111,9 @@ FloatingPanel::FloatingPanel(const QString &prompt, qint64 xPos, qint64 yPos)
     window()->installEventFilter(this);
     m_label = makeLabel(QString());
     m_label->setAccessibleName(prompt);
+    m_label->installEventFilter(this);
     adoptApplicationLook();
+    measurePrompt();
 }
 
 QRect FloatingPanel::bodyRect() const
@@ -175,6 +177,12 @@ QLabel *FloatingPanel::makeLabel(const QString &text)
     return label;
 }
 
+void FloatingPanel::setEntry(QWidget *entry)
+{
+    m_entry = entry;
+    entry->installEventFilter(this);
+}
+
 void FloatingPanel::setKeyReceiver(QWidget *receiver)
 {
     m_keyReceiver = receiver;
@@ -193,6 +201,8 @@ bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
     } else if (type == QEvent::ApplicationPaletteChange || type == QEvent::ApplicationFontChange) {
         // Only windows are told.
         adoptApplicationLook();
+    } else if (type == QEvent::FontChange && m_entry && (watched == m_label || watched == m_entry)) {
+        measurePrompt();
         resize();
     }
     return QWidget::eventFilter(watched, event);
@@ -243,6 +253,10 @@ void FloatingPanel::adoptApplicationLook()
 {
     setPalette(panelPalette());
     setFont(panelFont());
+}
+
+void FloatingPanel::measurePrompt()
+{
     m_promptWidth = m_prompt.isEmpty() ? 0 : m_label->fontMetrics().horizontalAdvance(inOneLine(m_prompt));
 }
 

@@ -54,7 +54,7 @@ protected:
 
     /// Both are called by the derived class's constructor: the widget after the prompt, and the one
     /// that gets the keyboard, which is named and described here for assistive technology.
-    void setEntry(QWidget *entry) { m_entry = entry; }
+    void setEntry(QWidget *entry);
     void setKeyReceiver(QWidget *receiver);
 
     virtual int entryTextWidth() const = 0;
@@ -71,6 +71,7 @@ protected:
 private:
     QRect hostRect() const;
     void adoptApplicationLook();
+    void measurePrompt();
     void showPrompt(int width);
 
     QString m_prompt;

@@ -53,8 +53,8 @@ void ZRInkeyWindow::keyDown(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
         endWith(QString(), event);
-    } else {
-        takeKey(event->text(), event);
+    } else if (!takeKey(event->text(), event)) {
+        FloatingPanel::keyPressEvent(event);
     }
 }
 
@@ -94,9 +94,7 @@ void ZRInkeyWindow::focusInEvent(QFocusEvent *event)
 
 void ZRInkeyWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_F6) {
-        FloatingPanel::keyPressEvent(event);
-    } else if (!isLeftover(event)) {
+    if (!isLeftover(event)) {
         keyDown(event);
     }
 }

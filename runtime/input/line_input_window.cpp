@@ -45,7 +45,6 @@ QLineEdit *makeField(QWidget *panel)
 ZRInputWindow::ZRInputWindow(const QString &prompt, qint64 xPos, qint64 yPos)
     : FloatingPanel(prompt, xPos, yPos), m_field(makeField(this))
 {
-    m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::textChanged, this, &ZRInputWindow::controlTextDidChange);
     setEntry(m_field);
     setKeyReceiver(m_field);

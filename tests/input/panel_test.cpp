@@ -16,11 +16,16 @@ using Panel = PanelTest;
 
 TEST_F(Panel, standsOverTheContentAndItsTextFitsItsLine)
 {
-    const ZRInputWindow panel(u"Prompt:"_s, 10, 190);
+    ZRInputWindow panel(u"Prompt:"_s, 10, 190);
     EXPECT_EQ(panel.parentWidget(), host->contentView());
     EXPECT_EQ(panel.bodyRect().topLeft(), QPoint(10, 154));
     EXPECT_EQ(panel.field()->height(), 16);
     EXPECT_LE(panel.field()->fontMetrics().height(), 16);
+    QFont larger = panel.font();
+    larger.setPixelSize(26);
+    panel.label()->setFont(larger);
+    const int promptWidth = panel.label()->fontMetrics().horizontalAdvance(panel.prompt());
+    EXPECT_EQ(panel.field()->x() - panel.label()->x(), promptWidth + 7) << "the field makes room";
 }
 
 TEST_F(Panel, growsWithTheTextUntilTheEdgeWhereTheFieldScrolls)
