@@ -104,7 +104,7 @@ protected:
 };
 
 // What the items do in a field is tried end to end.
-TEST_F(EditMenu, OpensWithWhatTheFirstResponderCanDo)
+TEST_F(EditMenu, OpensWithWhatTheFirstResponderCanDoAndActsOnIt)
 {
     view->setFocus();
     QTest::keyClick(window.windowHandle(), Qt::Key_V, Qt::ControlModifier);

@@ -81,7 +81,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
     }
 }
 
-TEST_F(Windows, InitDoesNotCheckTheTagAndTakesTheSubclassFlagOnce)
+TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)
 {
     CUI_SetSubclassFlag(true);
     Window *const first = WindowInit(5, QRectF(40, 60, 300, 200));
@@ -97,7 +97,7 @@ TEST_F(Windows, InitDoesNotCheckTheTagAndTakesTheSubclassFlagOnce)
     }
 }
 
-TEST_F(Windows, ContentKeepsItsSizeWhateverTheMenuBarTakes)
+TEST_F(Windows, ContentKeepsItsSizeThroughMenuBarsAndTinyWindows)
 {
     for (const qint64 style : {qint64(windowStyleTitled), qint64(windowStyleDefault)}) {
         CUI_Window(1, QString(), style, QRectF(40, 60, 300, 200));
