@@ -20,13 +20,14 @@ StringStackStop installedStop = nullptr;
     const QString message =
         QStringLiteral("Pascal String stack index ( gZRStk ) exceeds string stack size of %1. Zarvane will terminate")
             .arg(stringStackSize);
+    // Before the stop asks, so that a log tells why a program that nobody was watching is gone.
+    std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    std::fflush(stderr);
     if (installedStop != nullptr) {
         installedStop(message,
                       QStringLiteral("If 'Source File Combining'( in Build Settings ) is turned OFF, try setting to "
                                      "Medium or Maximum"),
                       fatalStop);
-    } else {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
     }
     std::abort();
 }

@@ -26,8 +26,8 @@ unsigned char *STACK_PUSH();
 /// next push return slot 0.
 void popString();
 
-/// Who is told of a full stack: the message, the advice and a fatal flag (always -1). It should not
-/// return; the program aborts if it does. Without one the message goes to standard error.
+/// Who is told of a full stack, after the message went to standard error: the message, the advice and a fatal
+/// flag (always -1). It should not return; the program aborts if it does, or if there is none.
 using StringStackStop = void (*)(const QString &message, const QString &informative, qint32 fatal);
 void setStringStackStop(StringStackStop stop);
 

@@ -51,8 +51,9 @@ TEST(StringStackDeathTest, stopsWhenFull)
     setStringStackStop(reportAndReturn);
     gZRStk = 1000;
     EXPECT_EXIT(STACK_PUSH(), testing::KilledBySignal(SIGABRT),
-                message + "\\|If 'Source File Combining'\\( in Build Settings \\) is turned OFF, try setting to "
-                          "Medium or Maximum\\|-1")
+                message + "\n" + message +
+                    "\\|If 'Source File Combining'\\( in Build Settings \\) is turned OFF, try setting to "
+                    "Medium or Maximum\\|-1")
         << "aborts if the stop returns";
 }
 
