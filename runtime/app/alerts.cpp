@@ -10,6 +10,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace tetrad {
 
 namespace {
@@ -121,7 +123,7 @@ void dismissAlert(Alert *alert, Tag tag)
 qint64 CUI_Alert(Tag tag, qint64 style, const QVariant &message, const QString &informative, const QVariant &buttons,
                  qint64 sheet)
 {
-    const Tag name = tag < 0 ? static_cast<Tag>(0 - static_cast<quint64>(tag)) : tag;
+    const Tag name = tagIdentity(tag);
     Alert *alert = CUI_AlertWithTag(name);
     const bool existed = alert;
     if (!existed) {

@@ -3,12 +3,9 @@
 #include "runtime/app/alerts.h"
 #include "runtime/app/content_view.h"
 #include "runtime/app/popover.h"
+#include "runtime/app/strings_table.h"
 #include "runtime/app/window.h"
 #include "runtime/app/windows.h"
-
-#include <QCoreApplication>
-
-#include <cstdlib>
 
 namespace tetrad {
 
@@ -20,7 +17,7 @@ Tag outputWindowTag = 0;
 
 void CUI_OutputWindowSetTag(Tag tag)
 {
-    outputWindowTag = std::abs(tag);
+    outputWindowTag = tagIdentity(tag);
 }
 
 Tag CUI_OutputWindowTag()
@@ -72,8 +69,8 @@ bool CUI_ObjectIsPopover(Tag tag)
     if (isObjectAddress(tag) || !CUI_PopoverWithTag(tag)) {
         return false;
     }
-    CUI_ShowAlert(alertStyleWarning, QCoreApplication::translate("Runtime", "Window tag error."),
-                  QCoreApplication::translate("Runtime", "Windows and Popovers cannot have same tag value."));
+    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Window tag error.")),
+                  runtimeText(QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value.")));
     return true;
 }
 

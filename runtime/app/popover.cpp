@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace tetrad {
 
@@ -133,7 +132,7 @@ void Popover::keyPressEvent(QKeyEvent *event)
 
 Popover *CUI_PopoverWithTag(Tag tag)
 {
-    const Tag identity = std::abs(tag);
+    const Tag identity = tagIdentity(tag);
     const auto hasTag = [identity](const Popover *popover) { return popover->tag() == identity; };
     const auto found = std::find_if(popovers().begin(), popovers().end(), hasTag);
     return identity == 0 || found == popovers().end() ? nullptr : *found;

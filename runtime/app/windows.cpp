@@ -10,7 +10,6 @@
 #include "runtime/strings/not_given.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace tetrad {
@@ -49,7 +48,7 @@ Window *WindowInit(Tag tag, const QRectF &contentRect)
 
 void CUI_Window(Tag tag, const QString &title, qint64 style, const QRectF &contentRect)
 {
-    const Tag wndTag = std::abs(tag);
+    const Tag wndTag = tagIdentity(tag);
     if (CUI_ObjectIsPopover(wndTag)) {
         return;
     }
@@ -73,7 +72,7 @@ void CUI_Window(Tag tag, const QString &title, qint64 style, const QRectF &conte
 
 Window *CUI_WindowWithTag(Tag tag)
 {
-    const Tag wndTag = std::abs(tag);
+    const Tag wndTag = tagIdentity(tag);
     if (wndTag == 0) {
         return nullptr;
     }

@@ -8,8 +8,6 @@
 #include "runtime/controls/popover_events.h"
 #include "runtime/controls/view_lookup.h"
 
-#include <cstdlib>
-
 namespace tetrad {
 
 namespace {
@@ -38,7 +36,7 @@ bool canBePopover(Tag tag)
 
 void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
 {
-    const Tag popoverTag = std::abs(tag);
+    const Tag popoverTag = tagIdentity(tag);
     if (!canBePopover(popoverTag)) {
         return;
     }

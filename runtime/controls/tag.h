@@ -19,6 +19,13 @@ inline constexpr Tag largestTag = 1000000;
 /// the identifier text that every content view carries.
 inline constexpr Tag contentViewTag = -1437226411;
 
+/// The identity that a tag names, whatever its sign asks for: its absolute value. The lowest number, which has none,
+/// stays as it is.
+constexpr Tag tagIdentity(Tag tag)
+{
+    return tag < 0 ? static_cast<Tag>(0 - static_cast<quint64>(tag)) : tag;
+}
+
 /// True for a value that is an object's address rather than a tag.
 constexpr bool isObjectAddress(Tag value)
 {

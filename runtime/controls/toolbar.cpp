@@ -10,8 +10,6 @@
 #include <QToolBar>
 #include <QWidgetAction>
 
-#include <cstdlib>
-
 namespace tetrad {
 
 namespace {
@@ -111,9 +109,9 @@ QToolBar *CUI_Toolbar(Tag tag)
     }
     QToolBar *toolbar = CUI_WindowToolbar(window);
     if (toolbar) {
-        setObjectTag(toolbar, std::abs(tag));
+        setObjectTag(toolbar, tagIdentity(tag));
     } else {
-        toolbar = newToolbar(window, std::abs(tag));
+        toolbar = newToolbar(window, tagIdentity(tag));
     }
     toolbar->setVisible(tag > 0);
     return toolbar;

@@ -8,13 +8,11 @@
 
 #include <QWidget>
 
-#include <cstdlib>
-
 namespace tetrad {
 
 QWidget *CUI_ContentViewForStatement(Tag tag)
 {
-    if (tag == 0 || isObjectAddress(std::abs(tag))) {
+    if (tag == 0 || isObjectAddress(tagIdentity(tag))) {
         const char *const text = QT_TRANSLATE_NOOP("Runtime", "A view needs a tag from 1 to 1000000, not %1.");
         CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")),
                       runtimeText(text).arg(tag));
@@ -25,20 +23,20 @@ QWidget *CUI_ContentViewForStatement(Tag tag)
 
 QWidget *CUI_ViewForStatement(Tag tag)
 {
-    return CUI_ViewWithTag(std::abs(tag));
+    return CUI_ViewWithTag(tagIdentity(tag));
 }
 
 void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QWidget *wanted)
 {
     const char *const text = QT_TRANSLATE_NOOP("Runtime", "View %1 (%2), in window %3, cannot respond to %4 messages.");
     CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Class error.")),
-                  runtimeText(text).arg(QString::number(std::abs(tag)), viewClassName(view),
+                  runtimeText(text).arg(QString::number(tagIdentity(tag)), viewClassName(view),
                                         QString::number(CUI_ViewWindowTag(view)), viewClassName(wanted)));
 }
 
 void CUI_AdoptView(QWidget *view, Tag tag)
 {
-    setViewTag(view, std::abs(tag));
+    setViewTag(view, tagIdentity(tag));
     setObjectWindowTag(view, CUI_ViewWindowTag(view));
     view->adjustSize();
 }
