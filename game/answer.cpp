@@ -15,7 +15,6 @@ namespace tetrad {
 
 namespace {
 
-constexpr qint16 numbersPerPuzzle = 4;
 constexpr qint64 targetValue = 24;
 
 bool occursIn(const QString &answer, qint16 number)

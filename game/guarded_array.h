@@ -32,7 +32,9 @@ private:
     BoundsCheck m_check = nullptr;
 };
 
-/// The four numbers of a puzzle, in the order of its text, at the indices 1 to 4; index 0 is not used.
-using PuzzleNumbers = GuardedArray<qint16, 4>;
+inline constexpr qint16 numbersPerPuzzle = 4;
+
+/// The numbers of a puzzle, in the order of its text, at the indices 1 to 4; index 0 is not used.
+using PuzzleNumbers = GuardedArray<qint16, numbersPerPuzzle>;
 
 } // namespace tetrad

@@ -84,7 +84,7 @@ void showPuzzle(const PuzzleNumbers &numbers, Level level)
     print({levelLabel(level)});
     CUI_PrintToWindowSetXYStatement(55, 125);
     setTextStyle(ColorGreen(), 18.0);
-    for (qint16 i = 1; i <= 4; ++i) {
+    for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
         print({CopyDblToString(numbers.at(i, 215)), message(" "), staysOnLine()});
     }
     print({message("")});

@@ -20,8 +20,8 @@ quint32 systemRandom();
 /// as a repeat. Written by GetRandomNumbers only.
 extern qint64 gPosition;
 
-/// A number in lo to hi, both inclusive: one 32-bit random number modulo the span. hi - lo must be
-/// below 2 to the power 32; the modulo's small bias is accepted.
+/// A number in lo to hi, both inclusive: one 32-bit random number modulo the span, whose small bias is accepted.
+/// lo must not be above hi; of more than 2 to the power 32 numbers the upper ones never come.
 qint64 ArcRandom(qint64 lo, qint64 hi, const RandomSource &source = systemRandom);
 
 /// Draws one puzzle of the deck and sets gPosition.

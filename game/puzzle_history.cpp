@@ -9,7 +9,6 @@ namespace tetrad {
 
 namespace {
 
-constexpr qint16 numbersPerPuzzle = 4;
 constexpr std::array<quint32, numbersPerPuzzle> numberStoredLines = {181, 182, 183, 184};
 
 QString keyOfParts(const QStringList &parts)

@@ -18,7 +18,10 @@ public:
     /// Whether a puzzle was shown already. A repeat turns the key into the newest one stored.
     bool holds(QString &key) const;
 
+    /// Forgets everything once all 96 puzzles were shown.
     void clearWhenFull();
+
+    /// Stores a key that is not held; to be called with fewer than 96 stored.
     void add(const QString &key);
 
 private:

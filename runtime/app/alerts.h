@@ -34,7 +34,7 @@ qint64 CUI_Alert(Tag tag, qint64 style, const QVariant &message, const QString &
 /// to be the alert itself. The value is compared as given, sign included.
 Alert *CUI_AlertWithTag(Tag tag);
 
-/// The registry of alerts defined and not yet ended.
+/// The registry of alerts defined and not yet ended. It does not own them.
 void CUI_AlertAdd(Alert *alert);
 void CUI_AlertRemove(Alert *alert);
 
@@ -43,7 +43,8 @@ void CUI_AlertRemove(Alert *alert);
 void AlertButtonSetKeyEquivalent(Tag tag, quint64 index, const QString &key);
 
 /// Queues a warning with "OK" and "Quit" and returns at once; it appears inside the next modal loop.
-/// "Quit" ends the program. May be called from any thread.
+/// "Quit" ends the program. May be called from any thread. Without an application object the texts go to
+/// standard error.
 void CUI_ShowAlert(qint64 style, const QString &message, const QString &informative);
 
 } // namespace tetrad

@@ -3,7 +3,7 @@
 #include "runtime/controls/tag.h"
 
 #include <QApplication>
-#include <QMetaProperty>
+#include <QVariant>
 #include <QWidget>
 
 #include <cstdio>

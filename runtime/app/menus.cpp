@@ -9,6 +9,8 @@
 #include <QMenuBar>
 #include <QPointer>
 
+#include <utility>
+
 namespace tetrad {
 
 namespace {

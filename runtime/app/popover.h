@@ -21,6 +21,7 @@ class Popover : public QWidget
     Q_OBJECT
 
 public:
+    /// contentSize: in device-independent pixels. Not shown yet; who makes it owns it.
     Popover(Tag tag, const QSize &contentSize);
     ~Popover() override;
 

@@ -16,7 +16,8 @@ QString ZRCreateLineNumberMsg(quint32 line);
 
 /// The stop alert. Only the low 8 bits of `fatal` count. Fatal: "Quit" or "Crash", does not return.
 /// Otherwise "Stop", "Continue" or "Crash", and returns when the user continues or when the
-/// termination was refused.
+/// termination was refused. Without an application object there is nobody to ask: the texts go to
+/// standard error and the process aborts, fatal or not.
 void ZRFullStop(const QString &message, const QString &informative, qint32 fatal);
 
 } // namespace tetrad

@@ -11,8 +11,8 @@
 #include "runtime/app/window_translator.h"
 #include "runtime/app/windows.h"
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
