@@ -3,7 +3,6 @@
 #include "runtime/console/console_archive.h"
 #include "runtime/console/console_dump.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace tetrad {

@@ -6,8 +6,6 @@
 
 #include <QApplication>
 
-#include <array>
-
 using namespace tetrad;
 using namespace tetrad::fuzz;
 
@@ -17,129 +15,120 @@ constexpr QSize picture(200, 160);
 
 void ensureApplication()
 {
-    static int count = 1;
-    static std::array<char, 5> name = {"fuzz"};
-    static std::array<char *, 2> arguments = {name.data(), nullptr};
+    static int count = 0;
     if (qApp == nullptr) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-        new QApplication(count, arguments.data());
+        new QApplication(count, nullptr);
     }
 }
 
 // Mostly lengths that can be seen, and now and then any double whatever, infinite ones and NaN included.
-double length(Input &input)
+double length(Input &in)
 {
-    const quint8 kind = input.byte();
-    return kind < 250 ? kind - 20.0 + input.byte() / 16.0 : input.number<double>();
+    const quint8 kind = in.byte();
+    return kind < 250 ? kind - 20.0 + in.byte() / 16.0 : in.number<double>();
 }
 
-QPointF point(Input &input)
+// The same for sizes of fonts, dashes and lines.
+template <typename Number>
+double size(Input &in, double unit)
 {
-    const double x = length(input);
-    return {x, length(input)};
+    return in.byte() < 250 ? in.number<Number>() * unit : in.number<double>();
 }
 
-QRectF rect(Input &input)
+QPointF point(Input &in)
 {
-    const QPointF corner = point(input);
-    const QPointF extent = point(input);
-    return {corner.x(), corner.y(), extent.x(), extent.y()};
+    const double x = length(in);
+    return {x, length(in)};
 }
 
-QColor color(Input &input)
+QColor color(Input &in)
 {
-    const quint8 value = input.byte();
+    const quint8 value = in.byte();
     return value == 0 ? QColor() : QColor::fromRgb(value, 255 - value, value * 7 % 256, value % 3 == 0 ? 128 : 255);
 }
 
-QString text(Input &input)
+QString text(Input &in)
 {
-    return input.byte() % 4 == 0 ? input.units(12) : input.textUntil('|').left(60);
+    return in.byte() % 4 == 0 ? in.units(12) : in.textUntil('|').left(60);
 }
 
 using View = CUI_PrintToWindowView;
 using Operation = void (*)(Input &, View &);
 
-// The next byte chooses; an operation that stands twice is chosen twice as often.
-void choose(Input &input, View &view, const QList<Operation> &operations)
+constexpr Operation textStyles[] = {
+    [](Input &in, View &view) { view.setFontSize(size<quint8>(in, 0.125)); },
+    [](Input &in, View &view) { view.setForegroundColor(color(in)); },
+    [](Input &in, View &view) { view.setBackgroundColor(color(in)); },
+    [](Input &in, View &view) { view.setAlignment(in.number<qint8>()); },
+    [](Input &in, View &view) { view.setTabInterval(length(in)); },
+    [](Input &, View &view) { view.resetAttributes(); },
+};
+
+constexpr Operation lineStyles[] = {
+    [](Input &in, View &view) { view.setCurrentLineWidth(size<qint8>(in, 0.25)); },
+    [](Input &in, View &view) { view.setCurrentLineCapStyle(in.byte()); },
+    [](Input &in, View &view) {
+        QList<double> pattern(in.below(5));
+        std::generate(pattern.begin(), pattern.end(), [&] { return size<quint8>(in, 0.125); });
+        view.setCurrentLineDashPattern(pattern);
+    },
+    [](Input &in, View &view) { view.setCurrentLineDashPhase(length(in)); },
+    [](Input &in, View &view) { view.setCurrentStrokeColor(color(in)); },
+};
+
+void draw(Input &in, View &view)
 {
-    operations.at(input.below(static_cast<int>(operations.size())))(input, view);
+    const QPointF corner = point(in);
+    const QPointF extent = point(in);
+    const QRectF area(corner.x(), corner.y(), extent.x(), extent.y());
+    const QColor stroke = color(in);
+    const int shape = in.below(3);
+    if (shape < 2) {
+        shape == 0 ? view.addRect(area, stroke, color(in)) : view.addOval(area, stroke, color(in));
+        return;
+    }
+    QList<QPointF> points(in.below(4));
+    std::generate(points.begin(), points.end(), [&] { return point(in); });
+    view.addLines(points, in.below(2) == 0);
 }
 
 void print(Input &in, View &view)
 {
-    view.addString(text(in));
-}
-
-void printOrPlace(Input &input, View &view)
-{
-    choose(input, view,
-           {[](Input &in, View &v) { v.addString(text(in), point(in)); },
-            [](Input &in, View &v) {
-                const QPointF cell = point(in);
-                v.setColumnRow(cell.x(), cell.y());
-            },
-            print, print});
-}
-
-void setTextStyle(Input &input, View &view)
-{
-    choose(input, view,
-           {[](Input &in, View &v) { v.setFontSize(in.byte() < 250 ? in.byte() / 8.0 : in.number<double>()); },
-            [](Input &in, View &v) { v.setForegroundColor(color(in)); },
-            [](Input &in, View &v) { v.setBackgroundColor(color(in)); },
-            [](Input &in, View &v) { v.setAlignment(in.number<qint8>()); },
-            [](Input &in, View &v) { v.setTabInterval(length(in)); }, [](Input &, View &v) { v.resetAttributes(); }});
-}
-
-void setDashes(Input &in, View &view)
-{
-    QList<double> pattern;
-    for (int i = in.below(5); i > 0; --i) {
-        pattern.append(in.byte() < 250 ? in.byte() / 8.0 : in.number<double>());
+    const int where = in.below(4);
+    if (where == 0) {
+        const QPointF place = point(in);
+        view.addString(text(in), place);
+    } else if (where == 1) {
+        const QPointF cell = point(in);
+        view.setColumnRow(cell.x(), cell.y());
+    } else {
+        view.addString(text(in));
     }
-    view.setCurrentLineDashPattern(pattern);
-}
-
-void setLineStyle(Input &input, View &view)
-{
-    choose(input, view,
-           {[](Input &in, View &v) {
-                v.setCurrentLineWidth(in.byte() < 250 ? in.number<qint8>() / 4.0 : in.number<double>());
-            },
-            [](Input &in, View &v) { v.setCurrentLineCapStyle(in.byte()); }, setDashes,
-            [](Input &in, View &v) { v.setCurrentLineDashPhase(length(in)); },
-            [](Input &in, View &v) { v.setCurrentStrokeColor(color(in)); }});
-}
-
-void draw(Input &input, View &view)
-{
-    const QRectF area = rect(input);
-    const QColor stroke = color(input);
-    const int shape = input.below(3);
-    if (shape < 2) {
-        shape == 0 ? view.addRect(area, stroke, color(input)) : view.addOval(area, stroke, color(input));
-        return;
-    }
-    QList<QPointF> points;
-    for (int i = input.below(4); i > 0; --i) {
-        points.append(point(input));
-    }
-    view.addLines(points, input.below(2) == 0);
 }
 
 void clearOrSelect(Input &in, View &view)
 {
-    in.below(4) == 0 ? view.clear() : view.select(in.number<qint16>(), in.number<qint16>());
+    if (in.below(4) == 0) {
+        view.clear();
+        return;
+    }
+    const auto anchor = in.number<qint16>();
+    view.select(anchor, in.number<qint16>());
 }
 
-void operate(Input &input, View &view)
-{
-    choose(input, view,
-           {setTextStyle, setLineStyle, draw, draw, [](Input &in, View &v) { v.setFlipView(in.below(2) == 0); },
-            clearOrSelect, printOrPlace, printOrPlace});
-}
+// One that stands twice is chosen twice as often.
+constexpr Operation operations[] = {
+    [](Input &in, View &view) { textStyles[in.below(std::size(textStyles))](in, view); },
+    [](Input &in, View &view) { lineStyles[in.below(std::size(lineStyles))](in, view); },
+    draw,
+    draw,
+    [](Input &in, View &view) { view.setFlipView(in.below(2) == 0); },
+    clearOrSelect,
+    print,
+    print,
+};
 
 // Rows and columns, each drawn alone, as a partial repaint does.
 void drawInParts(View &view, int extent)
@@ -175,7 +164,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     Input input(data, size);
     View view(QRectF(0, 0, picture.width(), 1));
     for (int count = 0; count < 60 && !input.isEmpty(); ++count) {
-        operate(input, view);
+        operations[input.below(std::size(operations))](input, view);
     }
     QCoreApplication::sendPostedEvents(&view);
     view.takeNewText();

@@ -11,37 +11,25 @@ using namespace tetrad::fuzz;
 
 namespace {
 
-void validate(const CUI_ControlFormatter &formatter, const QString &proposal, int cursor, quint64 limit)
+void validate(const CUI_ControlFormatter &formatter, const QString &proposal, int cursor, bool isTooLong)
 {
     QString text = proposal;
     int place = cursor;
     const QValidator::State state = formatter.validate(text, place);
-    if (state == QValidator::Invalid) {
-        require(limit != 0 && characterCount(proposal) > static_cast<qsizetype>(limit), "only the long are refused",
-                proposal);
-        require(text == proposal && place == cursor, "what is refused stays as it was", proposal);
-        return;
-    }
-    require(state == QValidator::Acceptable, "every edit is judged at once", proposal);
-    require(limit == 0 || characterCount(proposal) <= static_cast<qsizetype>(limit), "the long are refused", proposal);
+    require(state == (isTooLong ? QValidator::Invalid : QValidator::Acceptable), "only the long are refused", proposal);
+    require(!isTooLong || (text == proposal && place == cursor), "what is refused stays as it was", proposal);
     require(place >= 0 && place <= text.size(), "the cursor stays in the text", proposal);
 }
 
-// With a list that knows no case and no option that changes it, a second look changes nothing.
-void validateTwice(const CUI_ControlFormatter &formatter, const QString &proposal)
+// What a list that knows no case and no option that changes it leave of a proposal.
+void formatTwice(const CUI_ControlFormatter &formatter, const QString &proposal, const QString &list, bool pass)
 {
     const QString once = formatter.formatted(proposal);
     require(formatter.formatted(once) == once, "what was formatted stays", proposal);
     require(once.size() <= proposal.size(), "characters are only taken away", proposal);
-}
-
-void checkMembers(const QString &list, bool pass, const QString &formatted)
-{
     const CharacterSet listed(list);
-    for (qsizetype i = 0; i < formatted.size();) {
-        const TextCharacter character = characterAt(formatted, i);
-        require(listed.contains(character.value) == pass, "no refused character is left", formatted);
-        i += character.units;
+    for (qsizetype i = 0; i < once.size(); i += characterAt(once, i).units) {
+        require(listed.contains(characterAt(once, i).value) == pass, "no refused character is left", once);
     }
 }
 
@@ -51,18 +39,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     Input input(data, size);
     const qint64 caseOption = input.below(6);
-    const quint64 limit = input.below(40);
+    const int limit = input.below(40);
     const quint8 flags = input.byte();
     const bool pass = (flags & 1) != 0;
     const quint8 cursor = input.byte();
     const QString list = (flags & 2) != 0 ? input.units(8) : input.textUntil('|');
-    const QString proposal = (flags & 4) != 0 ? input.units(100) : input.rest();
+    const QString proposal = (flags & 4) != 0 ? input.units(100) : input.textUntil('\0');
 
-    const CUI_ControlFormatter formatter(list, pass, limit, caseOption);
-    validate(formatter, proposal, static_cast<int>(qMin<qsizetype>(cursor, proposal.size())), limit);
+    const CUI_ControlFormatter formatter(list, pass, static_cast<quint64>(limit), caseOption);
+    validate(formatter, proposal, static_cast<int>(qMin<qsizetype>(cursor, proposal.size())),
+             limit != 0 && characterCount(proposal) > limit);
     if (caseOption == caseSensitiveList) {
-        validateTwice(formatter, proposal);
-        checkMembers(list, pass, formatter.formatted(proposal));
+        formatTwice(formatter, proposal, list, pass);
     }
     return 0;
 }

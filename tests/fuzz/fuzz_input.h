@@ -21,37 +21,36 @@ public:
 
     bool isEmpty() const { return m_rest.isEmpty(); }
 
+    /// At most so many bytes.
+    QByteArrayView bytes(qsizetype count)
+    {
+        const QByteArrayView taken = m_rest.first(qMin(count, m_rest.size()));
+        m_rest = m_rest.sliced(taken.size());
+        return taken;
+    }
+
     template <typename Number>
     Number number()
     {
         Number value = {};
-        const QByteArrayView bytes = take(sizeof value);
-        std::memcpy(&value, bytes.data(), static_cast<size_t>(bytes.size()));
+        const QByteArrayView taken = bytes(sizeof value);
+        std::memcpy(&value, taken.data(), static_cast<size_t>(taken.size()));
         return value;
     }
 
     quint8 byte() { return number<quint8>(); }
 
-    /// 0 to below the bound.
-    int below(int bound) { return byte() % bound; }
-
-    /// At most 255 bytes, their number first.
-    QByteArrayView bytes()
-    {
-        const quint8 size = byte();
-        return take(size);
-    }
+    /// 0 to below the bound, which is at most 256.
+    int below(qsizetype bound) { return static_cast<int>(byte() % bound); }
 
     /// The bytes up to the next one that separates, or all; bytes above 127 spell UTF-8.
     QString textUntil(char separator)
     {
         const qsizetype end = m_rest.indexOf(separator);
-        const QString text = QString::fromUtf8(take(end < 0 ? m_rest.size() : end));
-        take(1);
+        const QString text = QString::fromUtf8(bytes(end < 0 ? m_rest.size() : end));
+        bytes(1);
         return text;
     }
-
-    QString rest() { return textUntil('\0'); }
 
     /// Any UTF-16 units whatever, halves of pairs included; two bytes each.
     QString units(int count)
@@ -64,13 +63,6 @@ public:
     }
 
 private:
-    QByteArrayView take(qsizetype size)
-    {
-        const QByteArrayView taken = m_rest.first(qMin(size, m_rest.size()));
-        m_rest = m_rest.sliced(taken.size());
-        return taken;
-    }
-
     QByteArrayView m_rest;
 };
 

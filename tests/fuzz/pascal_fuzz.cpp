@@ -25,14 +25,17 @@ unsigned char *pushed(const unsigned char *string)
     return PSstrcpy(STACK_PUSH(), string);
 }
 
-void write(unsigned char *string, QByteArrayView bytes)
+void write(Input &input, unsigned char *string)
 {
+    const QByteArrayView bytes = input.bytes(input.byte());
     string[0] = static_cast<unsigned char>(bytes.size());
     std::copy(bytes.begin(), bytes.end(), string + 1);
 }
 
-void takePart(unsigned char *string, qint16 start, qint16 count)
+void takePart(Input &input, unsigned char *string)
 {
+    const auto start = input.number<qint16>();
+    const auto count = input.number<qint16>();
     const QByteArray whole = contentOf(string);
     const QByteArray expected = count > 0 ? whole.mid(qMax<int>(start, 1) - 1, count) : QByteArray();
     PSstrcpy(string, PSmid(pushed(string), start, count));
@@ -40,7 +43,7 @@ void takePart(unsigned char *string, qint16 start, qint16 count)
 }
 
 // From the text and back; a zero byte deliberately ends the text.
-void convert(const unsigned char *string)
+void convert(Input &, unsigned char *string)
 {
     const QByteArray bytes = contentOf(string);
     const QString text = StringWithPascalString(pushed(string));
@@ -60,19 +63,21 @@ void convertText(unsigned char *string, const QString &text)
     require(contentOf(string) == (fits ? *encoded : QByteArray()), "what has no such form is empty", text);
 }
 
-void readNumber(const QString &text)
+void readNumber(Input &input, unsigned char *)
 {
+    const QString text = input.textUntil('|');
     const double value = StringDoubleValue(text);
-    const qint64 integer = StringIntegerValue(text);
     require(!std::isnan(value), "every text has a number", text);
     // The same leading digits, read as an integer and as a decimal; a long fraction may round up to the next one.
     if (std::abs(value) < 1e15 && !text.contains(u'e', Qt::CaseInsensitive)) {
-        require(std::abs(value - static_cast<double>(integer)) <= 1, "both readers see the same integer", text);
+        const double integer = static_cast<double>(StringIntegerValue(text));
+        require(std::abs(value - integer) <= 1, "both readers see the same integer", text);
     }
 }
 
-void printNumber(double number)
+void printNumber(Input &input, unsigned char *)
 {
+    const auto number = input.number<double>();
     const QString printed = CopyDblToString(number);
     require(printed.startsWith(u'-') || printed.startsWith(u' '), "a sign or a blank comes first", printed);
     if (std::abs(number) < 9e15 && std::trunc(number) == number) {
@@ -80,33 +85,15 @@ void printNumber(double number)
     }
 }
 
-void step(Input &input, unsigned char *string)
-{
-    switch (input.below(7)) {
-    case 0:
-        write(string, input.bytes());
-        break;
-    case 1: {
-        const auto start = input.number<qint16>();
-        takePart(string, start, input.number<qint16>());
-        break;
-    }
-    case 2:
-        convert(string);
-        break;
-    case 3:
-        convertText(string, input.textUntil('|'));
-        break;
-    case 4:
-        convertText(string, input.units(input.byte()));
-        break;
-    case 5:
-        readNumber(input.textUntil('|'));
-        break;
-    default:
-        printNumber(input.number<double>());
-    }
-}
+constexpr void (*operations[])(Input &, unsigned char *) = {
+    write,
+    takePart,
+    convert,
+    [](Input &in, unsigned char *string) { convertText(string, in.textUntil('|')); },
+    [](Input &in, unsigned char *string) { convertText(string, in.units(in.byte())); },
+    readNumber,
+    printNumber,
+};
 
 } // namespace
 
@@ -115,7 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     Input input(data, size);
     PascalString string = {};
     while (!input.isEmpty()) {
-        step(input, string);
+        operations[input.below(std::size(operations))](input, string);
         require(gZRStk == 0, "the string stack is back at its start");
     }
     return 0;
