@@ -20,7 +20,9 @@ CUI_AppDelegate *CUI_AppDelegateObj();
 void setAppDelegate(CUI_AppDelegate *delegate);
 
 /// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: asks
-/// the delegate, tells it, hands the clipboard over. Returns only when the delegate refuses.
+/// the delegate, tells it, hands the clipboard over, flushes the C streams. Nothing that is registered
+/// for exit runs, destructors of static objects included: what must be saved is saved when the delegate
+/// is told. Returns only when the delegate refuses.
 void AppTerminate();
 
 /// The application's name as the menu titles show it, its version, and its reverse-domain id. All

@@ -8,6 +8,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#ifdef TETRAD_FIND_LEAKS
+#include <sanitizer/lsan_interface.h>
+#endif
 #include <utility>
 
 namespace tetrad {
@@ -27,9 +30,10 @@ void AppTerminate()
     terminateWithoutAsking();
 }
 
-// exit, without destroying the application object or closing a window: below this frame are loops,
-// event handlers and main itself, all with references to them. What the window system holds for
-// the process goes with its connection.
+// Without destroying the application object or closing a window: below this frame are loops, event handlers and main
+// itself, all with references to them. Nor through exit, which would destroy the static objects of the libraries while
+// the thread that reads the display's events goes on using them. What the window system holds for the process goes
+// with its connection.
 void terminateWithoutAsking()
 {
     static bool ending = false;
@@ -39,7 +43,10 @@ void terminateWithoutAsking()
     CUI_AppDelegateObj()->applicationWillTerminate({});
     handClipboardOver();
     std::fflush(nullptr);
-    std::exit(0);
+#ifdef TETRAD_FIND_LEAKS
+    __lsan_do_leak_check();
+#endif
+    std::_Exit(0);
 }
 
 } // namespace tetrad
