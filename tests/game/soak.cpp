@@ -54,7 +54,6 @@ std::array holdings = {
     Holding{"windows", [] { return qint64(QApplication::topLevelWidgets().size()); }},
     Holding{"widgets", [] { return qint64(QApplication::allWidgets().size()); }},
     Holding{"open files", [] { return qint64(QDir(QStringLiteral("/proc/self/fd")).entryList().size()); }},
-    Holding{"stack slots", [] { return qint64(gZRStk); }},
     // Two bytes for each of 10,000 puzzles, less than any object, timer or connection takes; what the game has shown of
     // a cycle takes some kilobytes.
     Holding{"heap bytes", heapInUse_bytes, 20'000},
