@@ -5,6 +5,7 @@
 #include "runtime/controls/view_lookup.h"
 #include "runtime/strings/not_given.h"
 #include "runtime/strings/number_reader.h"
+#include "runtime/strings/saturate.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,17 +16,10 @@
 #include <QSlider>
 
 #include <algorithm>
-#include <limits>
-#include <utility>
 
 namespace tetrad {
 
 namespace {
-
-int toInt(qint64 value)
-{
-    return int(std::clamp<qint64>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
-}
 
 // A button has finished its own work when it tells, and looks whether it is still there.
 void sendsActionAtOnce(QAbstractButton *button)
@@ -93,14 +87,14 @@ void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRe
         return;
     }
     const QSignalBlocker blocker(slider);
-    const auto [least, most] = std::minmax({toInt(minimum), toInt(maximum)});
+    const auto [least, most] = std::minmax({saturatedTo<int>(minimum), saturatedTo<int>(maximum)});
     if (!rect.isEmpty()) {
         slider->setOrientation(rect.height() > rect.width() ? Qt::Vertical : Qt::Horizontal);
     }
     slider->setRange(least, most);
     slider->setInvertedAppearance(minimum > maximum);
     if (value != notGiven) {
-        slider->setValue(toInt(value));
+        slider->setValue(saturatedTo<int>(value));
     }
 }
 
@@ -113,7 +107,7 @@ void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, co
     }
     setItems(box, items);
     if (selectedIndex != notGiven) {
-        box->setCurrentIndex(toInt(selectedIndex));
+        box->setCurrentIndex(saturatedTo<int>(selectedIndex));
     }
 }
 
@@ -128,7 +122,7 @@ void CUI_SegmentedControl(Tag tag, const QStringList &labels, qint64 selectedInd
         control->setLabels(labels);
     }
     if (selectedIndex != notGiven) {
-        control->setSelectedSegment(toInt(selectedIndex));
+        control->setSelectedSegment(saturatedTo<int>(selectedIndex));
     }
 }
 
@@ -186,13 +180,13 @@ void ControlSetIntegerValue(Tag tag, qint64 value)
     QWidget *const control = ControlWithTag(tag);
     const QSignalBlocker blocker(control);
     if (auto *const slider = qobject_cast<QAbstractSlider *>(control)) {
-        slider->setValue(toInt(value));
+        slider->setValue(saturatedTo<int>(value));
     } else if (auto *const button = qobject_cast<QAbstractButton *>(control)) {
         button->setChecked(value != 0);
     } else if (auto *const box = qobject_cast<QComboBox *>(control)) {
-        box->setCurrentIndex(toInt(value));
+        box->setCurrentIndex(saturatedTo<int>(value));
     } else if (auto *const segments = qobject_cast<SegmentedControl *>(control)) {
-        segments->setSelectedSegment(toInt(value));
+        segments->setSelectedSegment(saturatedTo<int>(value));
     } else if (auto *const field = qobject_cast<QLineEdit *>(control)) {
         field->setText(QString::number(value));
     }

@@ -3,6 +3,7 @@
 #include "runtime/controls/dialog_event.h"
 #include "runtime/controls/event_codes.h"
 #include "runtime/controls/event_site.h"
+#include "runtime/controls/pixel_answer.h"
 #include "runtime/controls/split_divider.h"
 #include "runtime/controls/view_lookup.h"
 #include "runtime/controls/view_statement.h"
@@ -21,7 +22,7 @@ int askCoordinate(const SplitView *view, qint64 event, int divider, int proposal
     CUI_DialogEventObj()->longVal = divider;
     CUI_DialogEventObj()->floatVal = float(proposal);
     CUI_SendObjectEvent(view, event);
-    return qRound(CUI_DialogEventObj()->floatVal);
+    return wholePixels(CUI_DialogEventObj()->floatVal);
 }
 
 bool askAboutIndex(const SplitView *view, qint64 event, int index)
@@ -46,13 +47,13 @@ SplitView::SplitView(QWidget *parent) : QSplitter(parent)
 
 int SplitView::position(int divider) const
 {
-    const QWidget *const bar = handle(divider + 1);
+    const QWidget *const bar = divider >= 0 && divider < count() - 1 ? handle(divider + 1) : nullptr;
     return !bar ? 0 : orientation() == Qt::Horizontal ? bar->x() : bar->y();
 }
 
 void SplitView::setPosition(int position, int divider)
 {
-    if (divider < 0 || divider + 1 >= count()) {
+    if (divider < 0 || divider >= count() - 1) {
         return;
     }
     const QPointer<SplitView> guard(this);
@@ -139,7 +140,7 @@ void SplitView::askAboutDividers()
     CUI_DialogEventObj()->floatVal = float(handleWidth());
     CUI_SendObjectEvent(this, splitViewEventDividerThickness);
     if (guard) {
-        const int thickness = qRound(CUI_DialogEventObj()->floatVal);
+        const int thickness = wholePixels(CUI_DialogEventObj()->floatVal);
         if (thickness >= 0 && thickness != handleWidth()) {
             setHandleWidth(thickness);
         }
@@ -222,7 +223,7 @@ void SplitViewAddSubview(Tag tag, Tag subview)
 void SplitViewSetPosition(Tag tag, qint64 position, qint64 divider)
 {
     if (SplitView *const view = splitViewWithTag(tag)) {
-        view->setPosition(int(position), int(divider));
+        view->setPosition(saturatedTo<int>(position), saturatedTo<int>(divider));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "runtime/controls/event_site.h"
 #include "runtime/controls/view_lookup.h"
 #include "runtime/controls/view_statement.h"
+#include "runtime/strings/saturate.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -178,7 +179,7 @@ void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
 QWidget *TabViewPage(Tag tag, qint64 index)
 {
     const TabView *const view = tabViewWithTag(tag);
-    return view ? view->widget(int(index)) : nullptr;
+    return view ? view->widget(saturatedTo<int>(index)) : nullptr;
 }
 
 qint64 TabViewSelectedIndex(Tag tag)
@@ -190,7 +191,7 @@ qint64 TabViewSelectedIndex(Tag tag)
 void TabViewSelectIndex(Tag tag, qint64 index)
 {
     if (TabView *const view = tabViewWithTag(tag)) {
-        view->setCurrentIndex(int(index));
+        view->setCurrentIndex(saturatedTo<int>(index));
     }
 }
 

@@ -3,7 +3,7 @@
 #include "runtime/controls/tag.h"
 
 #include <QRectF>
-#include <QString>
+#include <QStringList>
 #include <QTabBar>
 #include <QTabWidget>
 

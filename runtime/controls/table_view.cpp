@@ -4,6 +4,7 @@
 #include "runtime/controls/event_codes.h"
 #include "runtime/controls/event_site.h"
 #include "runtime/controls/item_view_keys.h"
+#include "runtime/controls/pixel_answer.h"
 #include "runtime/controls/view_lookup.h"
 #include "runtime/controls/view_statement.h"
 
@@ -69,7 +70,7 @@ void TableView::reloadRow(int row)
     const QPointer<TableView> guard(this);
     const double height = delegate->tableViewHeightOfRow(this, row);
     if (guard) {
-        setRowHeight(row, qRound(height));
+        setRowHeight(row, wholePixels(height));
     }
     for (int column = 0; guard && column < columnCount(); ++column) {
         const QVariant value = delegate->tableViewObjectValue(this, row, column);

@@ -60,6 +60,8 @@ TEST_F(SplitSite, AnswersDecideWhereTheDividerGoes)
         {"trailing subview collapses", 98, collapse, 0, 200},
         {"a higher least", -60, splitViewEventConstrainMinCoordinate, 70, 70},
         {"a lower most", 50, splitViewEventConstrainMaxCoordinate, 110, 110},
+        {"no most at all", 20, splitViewEventConstrainMaxCoordinate, 3e38F, 120},
+        {"no least at all", -20, splitViewEventConstrainMinCoordinate, -3e38F, 80},
         {"rounded, from single precision", 9, splitViewEventConstrainSplitPosition, 124.6F, 125},
     };
     for (const auto &[name, distance, asked, coordinate, expected] : rows) {
