@@ -32,11 +32,21 @@ QWidget *CUI_OutputWindow()
 
 QWidget *CUI_OutputWindowContentView()
 {
-    QWidget *const output = CUI_OutputWindow();
-    if (const auto *window = qobject_cast<Window *>(output)) {
+    return CUI_ContentViewOf(CUI_OutputWindow());
+}
+
+QWidget *CUI_SearchedContentView()
+{
+    QWidget *const output = CUI_OutputWindowContentView();
+    return output ? output : CUI_ContentViewOf(CUI_FrontWindow());
+}
+
+QWidget *CUI_ContentViewOf(const QWidget *windowOrPopover)
+{
+    if (const auto *window = qobject_cast<const Window *>(windowOrPopover)) {
         return window->contentView();
     }
-    const auto *popover = qobject_cast<Popover *>(output);
+    const auto *popover = qobject_cast<const Popover *>(windowOrPopover);
     return popover ? popover->contentView() : nullptr;
 }
 

@@ -18,6 +18,12 @@ QWidget *CUI_OutputWindow();
 /// The content view of the output window or popover, or null.
 QWidget *CUI_OutputWindowContentView();
 
+/// The content view that views are looked up in: the output window's, else the frontmost window's, or null.
+QWidget *CUI_SearchedContentView();
+
+/// The content view of a window or popover, or null.
+QWidget *CUI_ContentViewOf(const QWidget *windowOrPopover);
+
 /// The window, else the popover, with this tag, or null.
 QWidget *CUI_TargetWithTag(Tag tag);
 

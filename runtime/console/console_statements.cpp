@@ -1,9 +1,6 @@
 #include "runtime/console/console_statements.h"
 
-#include "runtime/app/content_view.h"
 #include "runtime/app/output_window.h"
-#include "runtime/app/popover.h"
-#include "runtime/app/window.h"
 #include "runtime/app/windows.h"
 #include "runtime/console/console_scroll_view.h"
 #include "runtime/console/console_view.h"
@@ -19,17 +16,6 @@ QWidget *targetWindow()
 {
     Tag tag = 0;
     return CUI_TargetWindow(&tag);
-}
-
-QWidget *contentViewOf(QWidget *window)
-{
-    if (auto *ordinary = qobject_cast<Window *>(window)) {
-        return ordinary->contentView();
-    }
-    if (auto *popover = qobject_cast<Popover *>(window)) {
-        return popover->contentView();
-    }
-    return nullptr;
 }
 
 /// Lets a statement act on the output window's console, or on nothing when there is no window.
@@ -63,7 +49,7 @@ QWidget *CUI_PrintToWindowWindow()
 
 CUI_PrintToWindowView *CUI_PrintToWindowViewObj(QWidget *window)
 {
-    QWidget *content = contentViewOf(window);
+    QWidget *content = CUI_ContentViewOf(window);
     if (!content) {
         return nullptr;
     }

@@ -76,9 +76,8 @@ const ClassRow *rowNamed(Name name)
 }
 
 // Every object is at least a QObject, which the table has.
-const ClassRow *nearestRow(const QObject *object)
+const ClassRow *nearestRow(const QMetaObject *metaObject)
 {
-    const QMetaObject *metaObject = object->metaObject();
     const ClassRow *row = rowOfPlatformClass(metaObject->className());
     while (!row) {
         metaObject = metaObject->superClass();
@@ -96,13 +95,18 @@ bool isNamed(const ClassRow *row, QStringView name)
 
 QString viewClassName(const QObject *object)
 {
-    const Name name = nearestRow(object)->name;
+    return viewClassName(*object->metaObject());
+}
+
+QString viewClassName(const QMetaObject &platformClass)
+{
+    const Name name = nearestRow(&platformClass)->name;
     return QString::fromLatin1(name.data(), qsizetype(name.size()));
 }
 
 bool isKindOfViewClass(const QObject *object, QStringView className)
 {
-    const ClassRow *row = nearestRow(object);
+    const ClassRow *row = nearestRow(object->metaObject());
     while (row && !isNamed(row, className)) {
         row = rowNamed(row->superclass);
     }

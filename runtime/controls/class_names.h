@@ -3,12 +3,14 @@
 #include <QString>
 
 class QObject;
+struct QMetaObject;
 
 namespace tetrad {
 
 /// The class name that messages show for an object, as in "NSButton" for a QPushButton: that of the nearest class
 /// which the vocabulary has a word for.
 QString viewClassName(const QObject *object);
+QString viewClassName(const QMetaObject &platformClass);
 
 /// Whether an object is of a class of the vocabulary or of one derived from it. A "control" is what this
 /// calls "NSControl".

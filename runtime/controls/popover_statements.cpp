@@ -6,16 +6,12 @@
 #include "runtime/app/strings_table.h"
 #include "runtime/app/windows.h"
 #include "runtime/controls/popover_events.h"
+#include "runtime/controls/tag_alerts.h"
 #include "runtime/controls/view_lookup.h"
 
 namespace tetrad {
 
 namespace {
-
-void showTagError(const QString &text)
-{
-    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")), text);
-}
 
 bool canBePopover(Tag tag)
 {

@@ -1,9 +1,9 @@
 #include "runtime/controls/toolbar.h"
 
-#include "runtime/app/alerts.h"
 #include "runtime/app/output_window.h"
 #include "runtime/app/strings_table.h"
 #include "runtime/app/window.h"
+#include "runtime/controls/tag_alerts.h"
 #include "runtime/controls/toolbar_events.h"
 
 #include <QAction>
@@ -14,18 +14,12 @@ namespace tetrad {
 
 namespace {
 
-void showTagError(const QString &text)
-{
-    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")), text);
-}
-
 Window *targetWindow()
 {
     Tag wndTag = 0;
     auto *const window = qobject_cast<Window *>(CUI_TargetWindow(&wndTag));
     if (!window) {
-        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Error.")),
-                      runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find any windows.")));
+        showNoWindowsError();
     }
     return window;
 }

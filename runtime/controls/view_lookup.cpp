@@ -1,13 +1,12 @@
 #include "runtime/controls/view_lookup.h"
 
-#include "runtime/app/alerts.h"
 #include "runtime/app/content_view.h"
 #include "runtime/app/output_window.h"
 #include "runtime/app/popover.h"
 #include "runtime/app/strings_table.h"
 #include "runtime/app/window.h"
-#include "runtime/app/windows.h"
 #include "runtime/controls/class_names.h"
+#include "runtime/controls/tag_alerts.h"
 #include "runtime/controls/titlebar_accessory.h"
 #include "runtime/controls/toolbar.h"
 #include "runtime/controls/view_tag.h"
@@ -20,15 +19,6 @@
 namespace tetrad {
 
 namespace {
-
-QWidget *searchedContentView()
-{
-    if (QWidget *const output = CUI_OutputWindowContentView()) {
-        return output;
-    }
-    const Window *const front = CUI_FrontWindow();
-    return front ? front->contentView() : nullptr;
-}
 
 QWidget *viewInShownPopover(Tag tag)
 {
@@ -53,34 +43,20 @@ QWidget *toolbarItemView(const QWidget *contentView, Tag tag)
     return item ? toolbar->widgetForAction(item) : nullptr;
 }
 
-void showClassError(const QString &text)
-{
-    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Class error.")), text);
-}
-
 QWidget *validatedObject(QObject *object, const QString &className)
 {
     auto *const view = qobject_cast<QWidget *>(object);
     if (view && isKindOfViewClass(view, className)) {
         return view;
     }
-    showClassError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "View %1 cannot respond to %2 messages."))
-                       .arg(viewDescription(object), className));
+    showClassError(object, className);
     return nullptr;
-}
-
-void showWrongClass(Tag tag, const QWidget *view, Tag wndTag, const QString &className)
-{
-    const char *const text = QT_TRANSLATE_NOOP("Runtime", "View %1 (%2), in window %3, cannot respond to %4 messages.");
-    showClassError(
-        runtimeText(text).arg(QString::number(tag), viewClassName(view), QString::number(wndTag), className));
 }
 
 void showNotFound(Tag tag, Tag wndTag)
 {
     const char *const text = QT_TRANSLATE_NOOP("Runtime", "Can't find view %1 in window %2.");
-    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")),
-                  runtimeText(text).arg(QString::number(tag), QString::number(wndTag)));
+    showTagError(runtimeText(text).arg(QString::number(tag), QString::number(wndTag)));
 }
 
 } // namespace
@@ -96,7 +72,7 @@ QWidget *CUI_ViewWithTag(Tag tagOrView)
     if (QWidget *const found = viewInShownPopover(tagOrView)) {
         return found;
     }
-    QWidget *const contentView = searchedContentView();
+    QWidget *const contentView = CUI_SearchedContentView();
     if (!contentView || tagOrView == contentViewTag) {
         return contentView;
     }
@@ -153,10 +129,9 @@ QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className)
     if (isObjectAddress(tagOrView)) {
         return validatedObject(objectFromTag(tagOrView), className);
     }
-    const QWidget *const contentView = searchedContentView();
+    const QWidget *const contentView = CUI_SearchedContentView();
     if (!contentView) {
-        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Error.")),
-                      runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find any windows.")));
+        showNoWindowsError();
         return nullptr;
     }
     const Tag wndTag = CUI_ViewWindowTag(contentView);
@@ -166,7 +141,7 @@ QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className)
         return nullptr;
     }
     if (!isKindOfViewClass(view, className)) {
-        showWrongClass(tagOrView, view, wndTag, className);
+        showClassError(tagOrView, view, wndTag, className);
         return nullptr;
     }
     return view;

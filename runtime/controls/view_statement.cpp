@@ -1,8 +1,8 @@
 #include "runtime/controls/view_statement.h"
 
-#include "runtime/app/alerts.h"
 #include "runtime/app/strings_table.h"
 #include "runtime/controls/class_names.h"
+#include "runtime/controls/tag_alerts.h"
 #include "runtime/controls/view_lookup.h"
 #include "runtime/controls/view_tag.h"
 
@@ -14,8 +14,7 @@ QWidget *CUI_ContentViewForStatement(Tag tag)
 {
     if (tag == 0 || isObjectAddress(tagIdentity(tag))) {
         const char *const text = QT_TRANSLATE_NOOP("Runtime", "A view needs a tag from 1 to 1000000, not %1.");
-        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Tag error.")),
-                      runtimeText(text).arg(tag));
+        showTagError(runtimeText(text).arg(tag));
         return nullptr;
     }
     return CUI_ValidateViewKindOfClass(contentViewTag, QStringLiteral("NSView"));
@@ -26,12 +25,9 @@ QWidget *CUI_ViewForStatement(Tag tag)
     return CUI_ViewWithTag(tagIdentity(tag));
 }
 
-void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QWidget *wanted)
+void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QMetaObject &wanted)
 {
-    const char *const text = QT_TRANSLATE_NOOP("Runtime", "View %1 (%2), in window %3, cannot respond to %4 messages.");
-    CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Class error.")),
-                  runtimeText(text).arg(QString::number(tagIdentity(tag)), viewClassName(view),
-                                        QString::number(CUI_ViewWindowTag(view)), viewClassName(wanted)));
+    showClassError(tagIdentity(tag), view, CUI_ViewWindowTag(view), viewClassName(wanted));
 }
 
 void CUI_AdoptView(QWidget *view, Tag tag)

@@ -5,6 +5,7 @@
 #include <QRectF>
 
 class QWidget;
+struct QMetaObject;
 
 namespace tetrad {
 
@@ -20,7 +21,7 @@ QWidget *CUI_ContentViewForStatement(Tag tag);
 QWidget *CUI_ViewForStatement(Tag tag);
 
 /// Tells the user that a view with this tag is of another class than the statement's.
-void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QWidget *wanted);
+void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QMetaObject &wanted);
 
 /// Gives a new view its tag, its window's tag and its natural size.
 void CUI_AdoptView(QWidget *view, Tag tag);
@@ -41,8 +42,7 @@ View *CUI_StatementView(Tag tag, const QRectF &rect, WhenMade whenMade)
     QWidget *const found = CUI_ViewForStatement(tag);
     auto *view = qobject_cast<View *>(found);
     if (found && !view) {
-        const View wanted;
-        CUI_ShowStatementClassError(tag, found, &wanted);
+        CUI_ShowStatementClassError(tag, found, View::staticMetaObject);
         return nullptr;
     }
     if (!view) {

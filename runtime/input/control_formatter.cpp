@@ -1,7 +1,6 @@
 #include "runtime/input/control_formatter.h"
 
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
+#include "runtime/app/output_window.h"
 #include "runtime/input/field_formatter.h"
 #include "runtime/input/input_format.h"
 
@@ -52,13 +51,13 @@ QLineEdit *lineEditWithTag(Tag control)
     if (isObjectAddress(control)) {
         return lineEditOf(objectFromTag(control));
     }
-    const Window *const window = CUI_FrontWindow();
-    if (!window || control == 0) {
+    const QWidget *const content = CUI_SearchedContentView();
+    if (!content || control == 0) {
         return nullptr;
     }
-    const auto children = window->contentView()->findChildren<QWidget *>();
+    const auto children = content->findChildren<QWidget *>();
     for (QWidget *const child : children) {
-        if (objectTag(child) == qAbs(control)) {
+        if (objectTag(child) == tagIdentity(control)) {
             return lineEditOf(child);
         }
     }

@@ -39,7 +39,7 @@ private:
 
 /// Attaches a formatter with these settings to a line-edit control in place of the one it has, and
 /// lifts the control's own length limit. The control is given as its object or by the tag it has in
-/// the front window; nothing happens when there is none.
+/// the output window, else in the frontmost one; nothing happens when there is none.
 void ControlSetFormat(Tag control, const QString &characters, bool pass, quint64 length, qint64 caseOption);
 
 } // namespace tetrad

@@ -1,5 +1,6 @@
 #include "panel_helper.h"
 
+#include "runtime/app/output_window.h"
 #include "runtime/input/control_formatter.h"
 #include "runtime/input/input_format.h"
 
@@ -120,6 +121,21 @@ TEST_F(FormattedField, hugePastes)
     field.clear();
     EXPECT_EQ(paste(QString(1'000'000, u'0')).size(), 0);
     EXPECT_EQ(paste(u"\u202Eא0\U0001F600\u0001"_s.repeated(100'000) + u'7'), u"7"_s);
+}
+
+TEST_F(PanelTest, aControlIsFoundByTagInTheOutputWindow)
+{
+    auto *const field = new QLineEdit(host->contentView());
+    setObjectTag(field, 7);
+    // A window in front of it is not looked into.
+    const QPointer<Window> front = open(2, {0, 0, 50, 50});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(front));
+    CUI_OutputWindowSetTag(host->tag());
+    for (const Tag tag : {8, 7}) {
+        ControlSetFormat(tag, u"1"_s, true, 0, 0);
+        EXPECT_EQ(field->validator() != nullptr, tag == 7);
+    }
+    delete front;
 }
 
 } // namespace
