@@ -38,9 +38,21 @@ QString standardFamily()
     return QString::fromUtf16(standardFontFamily);
 }
 
+bool isStandardFamily(const QString &family)
+{
+    // The font database does not tell case apart either.
+    return family.compare(standardFamily(), Qt::CaseInsensitive) == 0;
+}
+
+/// NaN counts as the smallest.
+double drawableSize(double size)
+{
+    return size >= 1 ? std::min(size, largestFontSize) : 1;
+}
+
 QString installedFamily(const QString &family)
 {
-    if (family != standardFamily() || QFontDatabase::hasFamily(family)) {
+    if (!isStandardFamily(family) || QFontDatabase::hasFamily(family)) {
         return family;
     }
     // The same advance (0.602 em) and nearly the same height as the font that it stands for.
@@ -130,7 +142,7 @@ std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
 std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
 {
     FontChoice key = choice;
-    key.size = choice.size >= 1 ? std::min(choice.size, largestFontSize) : 1;
+    key.size = drawableSize(choice.size);
     FactsTable &table = factsTable();
     if (table.empty()) {
         // Fonts must not outlive the application object that loaded them.
@@ -146,7 +158,7 @@ std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
 FontChoice fontChoice(const QFont &font)
 {
     const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() / pointsPerPixel();
-    return {.family = font.family(), .size = size, .weight = font.weight(), .italic = font.italic()};
+    return {.family = font.family(), .size = drawableSize(size), .weight = font.weight(), .italic = font.italic()};
 }
 
 QFont fontObject(const FontChoice &choice)
@@ -160,7 +172,7 @@ QFont fontObject(const FontChoice &choice)
 
 bool isKnownFontFamily(const QString &family)
 {
-    return family == standardFamily() || QFontDatabase::hasFamily(family);
+    return isStandardFamily(family) || QFontDatabase::hasFamily(family);
 }
 
 } // namespace tetrad

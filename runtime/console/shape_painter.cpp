@@ -19,6 +19,9 @@ using Item = CUI_PrintToWindowItem;
 
 constexpr double farthest = 1e8;
 
+// A pen refuses any wider one and would stay at 1.
+constexpr double widestPen = 32767;
+
 // Dashes of what is larger than any screen are followed by the painter, at the cost of those it shows.
 constexpr double largestOutlined = 5000;
 
@@ -86,7 +89,7 @@ void setDashes(QPen &pen, const LineStyle &style)
 QPen penFor(const LineStyle &style, double thinnest)
 {
     QPen pen(style.strokeColor.isValid() ? style.strokeColor : QColor(Qt::black));
-    pen.setWidthF(style.lineWidth > 0 ? std::min(style.lineWidth, farthest) : thinnest);
+    pen.setWidthF(style.lineWidth > 0 ? std::min(style.lineWidth, widestPen) : thinnest);
     pen.setCapStyle(capStyle(style.lineCapStyle));
     pen.setJoinStyle(Qt::MiterJoin);
     if (isUsable(style.lineDashPattern)) {
