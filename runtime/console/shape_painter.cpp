@@ -154,8 +154,9 @@ QRectF shapeInk(const CUI_PrintToWindowItem &item)
     if (!isSomewhere(place)) {
         return {};
     }
-    // Half a width to each side, half as much again where a square cap or a corner points outwards.
-    const double room = (isStroked(item) ? std::clamp(item.lineStyle().lineWidth, 1.0, farthest) : 0) + 2;
+    // Half a width to each side, more at caps and corners; those of a rectangle without height point twice the width
+    // out.
+    const double room = (isStroked(item) ? 2 * std::clamp(item.lineStyle().lineWidth, 1.0, farthest) : 0) + 2;
     return place.normalized().adjusted(-room, -room, room, room);
 }
 
