@@ -124,9 +124,4 @@ void TextAttributes::merge(const QVariantMap &map)
     }
 }
 
-bool TextAttributes::isSharedWith(const TextAttributes &other) const
-{
-    return m_data.constData() == other.m_data.constData();
-}
-
 } // namespace tetrad

@@ -58,9 +58,6 @@ public:
     /// Copies every key of the map; keys not mentioned stay, keys with no meaning here are kept and given back.
     void merge(const QVariantMap &map);
 
-    /// Whether both are copies of one value, never changed apart.
-    bool isSharedWith(const TextAttributes &other) const;
-
 private:
     struct Data;
     static QSharedDataPointer<Data> &initialData();
