@@ -73,7 +73,7 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
         return QPointF(random.bounded(440) - 20 + random.generateDouble(), random.bounded(height));
     };
     const auto rect = [&] {
-        const int tall = random.bounded(20) == 0 ? height : 40;
+        const int tall = random.bounded(20) == 0 ? height : random.bounded(4) == 0 ? 6 : 40;
         return QRectF(place(), QSizeF(random.bounded(120) - 20, random.bounded(tall) - 5));
     };
     const auto color = [&] {
@@ -88,7 +88,7 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
                             u"e\u0301\u0302\u0303\u0304"_qs,
                             u""_qs};
     for (int i = 0; i < count; ++i) {
-        view.setCurrentLineWidth(random.bounded(12) - 2 + random.bounded(2) * 0.5);
+        view.setCurrentLineWidth(random.bounded(random.bounded(4) == 0 ? 40 : 12) - 2 + random.bounded(2) * 0.5);
         view.setCurrentLineCapStyle(random.bounded(4));
         view.setCurrentLineDashPattern(random.bounded(3) == 0 ? QList<double>{6, 3, 1} : QList<double>());
         view.setCurrentStrokeColor(color());
