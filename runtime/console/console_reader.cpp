@@ -3,6 +3,7 @@
 #include "runtime/console/display_list.h"
 
 #include <QPainter>
+#include <QPalette>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -143,8 +144,7 @@ void ConsoleReader::select(qsizetype anchor, qsizetype caret)
     m_caret = std::clamp<qsizetype>(caret, 0, end);
 }
 
-void ConsoleReader::drawSelection(const ItemPainter::Canvas &canvas, const QColor &background, const QColor &foreground,
-                                  double top, double bottom)
+void ConsoleReader::drawSelection(const ItemPainter::Canvas &canvas, const QPalette &palette, double top, double bottom)
 {
     if (!hasSelection()) {
         return;
@@ -165,9 +165,9 @@ void ConsoleReader::drawSelection(const ItemPainter::Canvas &canvas, const QColo
         const QRectF lit(origin.x() + std::min(from, to), origin.y(), std::abs(to - from), box.height());
         canvas.painter.save();
         canvas.painter.setRenderHint(QPainter::Antialiasing, false);
-        canvas.painter.fillRect(lit, background);
+        canvas.painter.fillRect(lit, palette.color(QPalette::Highlight));
         canvas.painter.setClipRect(lit, Qt::IntersectClip);
-        m_painter.drawGlyphs(canvas, m_list, index, foreground);
+        m_painter.drawGlyphs(canvas, m_list, index, palette.color(QPalette::HighlightedText));
         canvas.painter.restore();
     }
 }

@@ -45,8 +45,7 @@ public:
     void select(qsizetype anchor, qsizetype caret);
 
     /// The highlighted boxes and the items whose glyphs lie in them.
-    void drawSelection(const ItemPainter::Canvas &canvas, const QColor &background, const QColor &foreground,
-                       double top, double bottom);
+    void drawSelection(const ItemPainter::Canvas &canvas, const QPalette &palette, double top, double bottom);
 
 private:
     /// How far right of the piece's origin an offset lies.

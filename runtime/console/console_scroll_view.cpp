@@ -1,10 +1,12 @@
 #include "runtime/console/console_scroll_view.h"
 
+#include "runtime/app/content_view.h"
 #include "runtime/console/console_view.h"
 
 #include <QEvent>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tetrad {
@@ -43,6 +45,17 @@ void CUI_PrintToWindowScrollView::setDocumentView(CUI_PrintToWindowView *view)
 CUI_PrintToWindowView *CUI_PrintToWindowScrollView::documentView() const
 {
     return qobject_cast<CUI_PrintToWindowView *>(widget());
+}
+
+QColor CUI_PrintToWindowScrollView::plainGround() const
+{
+    const auto *content = qobject_cast<const ContentViewSC *>(parentWidget());
+    if (!content || content->subclassFlag() || content->backgroundColor().alpha() != 255) {
+        return {};
+    }
+    const QObjectList &views = content->children();
+    const auto lowest = std::ranges::find_if(views, &QObject::isWidgetType);
+    return *lowest == this ? content->backgroundColor() : QColor();
 }
 
 void CUI_PrintToWindowScrollView::reveal(const QRectF &rect)

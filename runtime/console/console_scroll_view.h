@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QScrollArea>
 
 namespace tetrad {
@@ -19,6 +20,9 @@ public:
     /// Takes the ownership of the view.
     void setDocumentView(CUI_PrintToWindowView *view);
     CUI_PrintToWindowView *documentView() const;
+
+    /// The opaque colour that the document stands on; invalid when something else may show below it.
+    QColor plainGround() const;
 
     /// Scrolls as little as brings a rectangle of the document into view.
     void reveal(const QRectF &rect);

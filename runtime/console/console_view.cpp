@@ -187,6 +187,7 @@ void CUI_PrintToWindowView::clear()
     const QString removed = assistiveTechnologyListens() ? m_reader.text().text() : QString();
     m_items.clear();
     m_itemPainter.forget();
+    m_picture.forget();
     m_reader.clear();
     m_textString = QString();
     m_currentPoint = {m_textInset, 0};
@@ -302,7 +303,9 @@ void CUI_PrintToWindowView::refresh()
         update();
     } else if (!m_dirty.isEmpty()) {
         constexpr double reach = QWIDGETSIZE_MAX;
-        update(mirrored(m_dirty).intersected(QRectF(-1, -1, reach, reach)).toAlignedRect());
+        const QRect part = mirrored(m_dirty).intersected(QRectF(-1, -1, reach, reach)).toAlignedRect();
+        m_picture.forget(part);
+        update(part);
     }
     m_dirty = QRectF();
 }
@@ -316,11 +319,6 @@ void CUI_PrintToWindowView::setFlipView(bool flip)
 QRectF CUI_PrintToWindowView::mirrored(const QRectF &rect) const
 {
     return m_flipView ? rect : QRectF(rect.left(), m_documentHeight - rect.bottom(), rect.width(), rect.height());
-}
-
-QPointF CUI_PrintToWindowView::mirrored(QPointF point) const
-{
-    return m_flipView ? point : QPointF(point.x(), m_documentHeight - point.y());
 }
 
 QString CUI_PrintToWindowView::takeNewText()
@@ -367,18 +365,32 @@ bool CUI_PrintToWindowView::event(QEvent *event)
     return QWidget::event(event);
 }
 
+ItemPainter::Canvas CUI_PrintToWindowView::canvasOf(QPainter &painter) const
+{
+    return {painter, palette().color(QPalette::WindowText), !m_flipView, m_documentHeight};
+}
+
+void CUI_PrintToWindowView::paintItems(QPainter &painter, const QRegion &part)
+{
+    const auto draw = [&](const QRect &missing) {
+        m_itemPainter.drawPart(canvasOf(painter), m_items, mirrored(QRectF(missing)));
+    };
+    const QColor ground = m_scrollView ? m_scrollView->plainGround() : QColor();
+    // What was printed since the last refresh is not yet missing in the picture.
+    if (!ground.isValid() || m_refreshScheduled) {
+        draw(part.boundingRect());
+        return;
+    }
+    const QRgb textColor = palette().color(QPalette::WindowText).rgba();
+    m_picture.paint(painter, *this, part, {width(), ground.rgb(), textColor, m_flipView ? 0 : m_documentHeight}, draw);
+}
+
 void CUI_PrintToWindowView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const ItemPainter::Canvas canvas{painter, palette().color(QPalette::WindowText), !m_flipView, m_documentHeight};
+    paintItems(painter, event->region());
     const QRectF part = mirrored(QRectF(event->rect()));
-    for (const quint32 index : m_items.itemsIn(part.top(), part.bottom())) {
-        if (m_items.isBetween(index, part.left(), part.right())) {
-            m_itemPainter.draw(canvas, m_items, index);
-        }
-    }
-    m_reader.drawSelection(canvas, palette().color(QPalette::Highlight), palette().color(QPalette::HighlightedText),
-                           part.top(), part.bottom());
+    m_reader.drawSelection(canvasOf(painter), palette(), part.top(), part.bottom());
     m_selection->drawFocus(painter);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/console/console_picture.h"
 #include "runtime/console/console_reader.h"
 #include "runtime/console/display_list.h"
 #include "runtime/console/item_painter.h"
@@ -155,7 +156,10 @@ public:
 
     /// Between the list's coordinates and the widget's, which differ when y grows upwards. Each is its own inverse.
     QRectF mirrored(const QRectF &rect) const;
-    QPointF mirrored(QPointF point) const;
+    QPointF mirrored(QPointF point) const
+    {
+        return m_flipView ? point : QPointF(point.x(), m_documentHeight - point.y());
+    }
 
     Q_INVOKABLE void copy();
     Q_INVOKABLE void selectAll();
@@ -172,6 +176,8 @@ private:
     void append(DisplayList::Entry entry, const QRectF &ink);
     void scheduleRefresh();
     void refresh();
+    void paintItems(QPainter &painter, const QRegion &part);
+    ItemPainter::Canvas canvasOf(QPainter &painter) const;
 
     QPointer<CUI_PrintToWindowScrollView> m_scrollView;
     ConsoleSelection *m_selection = nullptr; ///< A child of this.
@@ -190,6 +196,7 @@ private:
     QPointF m_linePoint;
     LineStyle m_lineStyle;
     QColor m_fillColor;
+    ConsolePicture m_picture;
     QRectF m_dirty;
     bool m_refreshScheduled = false;
 };

@@ -42,6 +42,15 @@ void ItemPainter::draw(const Canvas &canvas, const DisplayList &list, quint32 in
     drawGlyphs(canvas, list, index, foreground.isValid() ? foreground : canvas.standardTextColor);
 }
 
+void ItemPainter::drawPart(const Canvas &canvas, const DisplayList &list, const QRectF &part)
+{
+    for (const quint32 index : list.itemsIn(part.top(), part.bottom())) {
+        if (list.isBetween(index, part.left(), part.right())) {
+            draw(canvas, list, index);
+        }
+    }
+}
+
 void ItemPainter::drawGlyphs(const Canvas &canvas, const DisplayList &list, quint32 index, const QColor &color)
 {
     const CUI_PrintToWindowItem &item = list.item(index);

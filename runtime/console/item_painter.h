@@ -31,6 +31,9 @@ public:
     /// index: the item's place in the list, under which its shape is kept.
     void draw(const Canvas &canvas, const DisplayList &list, quint32 index);
 
+    /// The items that may touch a part of the document, in drawing order.
+    void drawPart(const Canvas &canvas, const DisplayList &list, const QRectF &part);
+
     /// A text's glyphs again in one colour, without its background.
     void drawGlyphs(const Canvas &canvas, const DisplayList &list, quint32 index, const QColor &color);
 

@@ -1,11 +1,19 @@
+#include "runtime/app/content_view.h"
+#include "runtime/console/console_scroll_view.h"
 #include "runtime/console/emoji_runs.h"
 #include "tests/console/printing.h"
 #include "tests/console/whole_list.h"
 
+#include <QBackingStore>
 #include <QCoreApplication>
 #include <QFontDatabase>
 #include <QRandomGenerator>
 #include <QRawFont>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
 
 using namespace tetrad;
 
@@ -145,6 +153,65 @@ TEST_F(Console, dashesAreTheSameInPartsAsInTheWhole)
         for (int top = 0; top < whole.height(); top += 15) {
             const QRect part(40, top, 250, 15);
             EXPECT_EQ(partOf(view, part, 1), whole.copy(part)) << "flip " << flip << " at " << top;
+        }
+    }
+}
+
+/// Of any colour's part in any pixel, 0 to 255. Smooth edges that were cut off elsewhere are rounded otherwise.
+int largestDifference(const QImage &one, const QImage &other)
+{
+    int largest = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        const auto *const bytes = one.constScanLine(y);
+        const auto *const otherBytes = other.constScanLine(y);
+        for (int i = 0; i < one.width() * 4; ++i) {
+            largest = std::max(largest, std::abs(bytes[i] - otherBytes[i]));
+        }
+    }
+    return largest;
+}
+
+/// Small parts are copied from what was drawn last, whatever has happened to it.
+TEST(Picture, isTheSameAsDrawnAnew)
+{
+    ContentViewSC content;
+    content.resize(400, 1200);
+    auto *const scrollView = new CUI_PrintToWindowScrollView(&content);
+    CUI_PrintToWindowView &view = *CUI_PrintToWindowView::viewWithFrame({0, 0, 400, 1});
+    scrollView->setDocumentView(&view);
+    view.setScrollView(scrollView);
+    auto *const other = new QWidget(&content);
+    other->setAutoFillBackground(true);
+    other->resize(200, 150);
+    other->setPalette(Qt::cyan);
+    content.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&content));
+    QRandomGenerator random(20260102);
+    const auto print = [&] { printAtRandom(view, random, 40, 300); };
+    const Table<std::function<void()>> changes = {
+        {"printed", print},
+        {"printed over", print},
+        {"other text colour", [&] { view.setPalette(QPalette(Qt::red, Qt::blue)); }},
+        {"other ground", [&] { content.setBackgroundColor(Qt::yellow); }},
+        {"upside down", [&] { view.setFlipView(false); }},
+        {"grown upside down", [&] { view.fixFrameHeight(900); }},
+        {"cleared", [&] { view.clear(); }},
+        {"printed upside down", print},
+        {"scrolled", [&] { view.fixFrameHeight(2000); }},
+        {"on another view", [&] { other->lower(); }},
+        {"on another view of other colour", [&] { other->setPalette(Qt::magenta); }},
+    };
+    for (const auto &[name, change] : changes) {
+        for (const bool followed : {false, true}) {
+            followed ? QCoreApplication::processEvents() : change();
+            for (int part = 0; part < 20; ++part) {
+                content.repaint(random.bounded(100), 100 + random.bounded(60), 300, 1 + random.bounded(60));
+            }
+            if (followed) {
+                const QImage anew = content.grab().toImage().convertToFormat(QImage::Format_RGB32);
+                const auto *const screen = static_cast<const QImage *>(content.backingStore()->paintDevice());
+                EXPECT_LE(largestDifference(screen->convertToFormat(QImage::Format_RGB32), anew), 8) << name;
+            }
         }
     }
 }

@@ -23,8 +23,7 @@ protected:
         for (quint32 i = 0; i < m_view.items().size(); ++i) {
             m_itemPainter.draw(canvas, m_view.items(), i);
         }
-        m_view.reader().drawSelection(canvas, palette().color(QPalette::Highlight),
-                                      palette().color(QPalette::HighlightedText), -everywhere, everywhere);
+        m_view.reader().drawSelection(canvas, palette(), -everywhere, everywhere);
     }
 
 private:
