@@ -9,6 +9,7 @@ import sys
 ROUNDS = 15
 KEYS = 1000
 REST_SECONDS = 30
+REST_TURNS = 3
 PROBE_SECONDS = 900
 
 build_folder = sys.argv[1]
@@ -161,11 +162,17 @@ def keys():
 
 def rest():
     heading("At rest", f"{REST_SECONDS} s after start-up with the keyboard and nothing typed: CPU time and wake-ups "
-            "of all threads. A caret that blinks wakes up about once in half a second.")
+            f"of all threads, medians of {REST_TURNS} times in turn. A caret that blinks wakes up about once in half a "
+            "second.")
+    programs = {**FIELD_PROGRAMS, **PEERS}
+    results = {name: [] for name in programs}
+    for _ in range(REST_TURNS):
+        for name, command in programs.items():
+            results[name].append([float(figure) for figure in probe("rest_probe", str(REST_SECONDS), command).split()])
     rows = []
-    for name, command in {**FIELD_PROGRAMS, **PEERS}.items():
-        cpu, wake_ups = probe("rest_probe", str(REST_SECONDS), command).split()
-        rows.append([name, cpu, wake_ups])
+    for name, figures in results.items():
+        cpu, wake_ups = (statistics.median(column) for column in zip(*figures))
+        rows.append([name, f"{cpu:.2f}", f"{wake_ups:.0f}"])
     table(["program", "CPU, ms", "wake-ups"], rows)
 
 
