@@ -19,7 +19,9 @@ using Item = CUI_PrintToWindowItem;
 
 constexpr double farthest = 1e8;
 
-// A pen refuses any wider one and would stay at 1.
+// A pen refuses any wider one and would stay at 1. Below the narrowest nothing is seen, and dashes, which are counted
+// in widths, would become infinite.
+constexpr double narrowestPen = 1e-3;
 constexpr double widestPen = 32767;
 
 // Dashes of what is larger than any screen are followed by the painter, at the cost of those it shows.
@@ -80,7 +82,8 @@ void setDashes(QPen &pen, const LineStyle &style)
     QList<qreal> dashes;
     const qsizetype count = style.lineDashPattern.size() * (style.lineDashPattern.size() % 2 == 0 ? 1 : 2);
     for (qsizetype i = 0; i < count; ++i) {
-        dashes.append(style.lineDashPattern.at(i % style.lineDashPattern.size()) / pen.widthF());
+        const double dash = style.lineDashPattern.at(i % style.lineDashPattern.size());
+        dashes.append(std::min(dash, farthest) / pen.widthF());
     }
     pen.setDashPattern(dashes);
     pen.setDashOffset(style.lineDashPhase / pen.widthF());
@@ -89,7 +92,7 @@ void setDashes(QPen &pen, const LineStyle &style)
 QPen penFor(const LineStyle &style, double thinnest)
 {
     QPen pen(style.strokeColor.isValid() ? style.strokeColor : QColor(Qt::black));
-    pen.setWidthF(style.lineWidth > 0 ? std::min(style.lineWidth, widestPen) : thinnest);
+    pen.setWidthF(style.lineWidth > 0 ? std::clamp(style.lineWidth, narrowestPen, widestPen) : thinnest);
     pen.setCapStyle(capStyle(style.lineCapStyle));
     pen.setJoinStyle(Qt::MiterJoin);
     if (isUsable(style.lineDashPattern)) {
