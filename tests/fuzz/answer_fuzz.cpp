@@ -53,16 +53,18 @@ void judge(const QString &answer, const QString &puzzle)
         require(index <= bound, "an index is within its bound", QString::number(index));
         return index;
     });
-    for (qint16 i = 1; i <= 4; ++i) {
-        numbers.at(i, 0) = static_cast<qint16>(puzzle.at(2 * (i - 1)).digitValue());
+    // Digits with a blank after each.
+    const QStringList digits = puzzle.split(u' ', Qt::SkipEmptyParts);
+    for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
+        numbers.at(i, 0) = digits.at(i - 1).toShort();
     }
     const Outcome outcome = judgeAnswer(answer, numbers);
     require(gZRStk == 0, "the string stack is back at its start", answer);
     require(outcome != Outcome::noSequence, "every text has a result", answer);
     require(answer.isEmpty() == (outcome == Outcome::nothingTyped), "nothing typed is the empty answer", answer);
     if (outcome == Outcome::correct || outcome == Outcome::incorrect) {
-        for (qsizetype i = 0; i < 8; i += 2) {
-            require(answer.contains(puzzle.at(i)), "every number was used", answer);
+        for (const QString &digit : digits) {
+            require(answer.contains(digit), "every number was used", answer);
         }
         const qint64 value = StringIntegerValue(EvaluateMath(answer));
         require((value == 24) == (outcome == Outcome::correct), "24 is what wins", answer);
