@@ -22,6 +22,7 @@
 #include <memory>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,7 +35,7 @@ QFont sameFont()
 
 QString lineText(int number)
 {
-    return QStringLiteral("Line %1: enter an expression that equates to 24.").arg(number);
+    return u"Line %1: enter an expression that equates to 24."_s.arg(number);
 }
 
 // Each of the four is made shown and empty, prints a line at its end and knows the widget that shows the lines.

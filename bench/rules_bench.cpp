@@ -12,6 +12,7 @@
 #include <string>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -119,7 +120,7 @@ void judging(benchmark::State &state)
     for (qint16 i = 1; i <= 4; ++i) {
         numbers.at(i, 0) = puzzle[static_cast<std::size_t>(i) - 1];
     }
-    const QString answer = state.range(0) == 0 ? QStringLiteral("((3*1)*7)+3") : QStringLiteral("((3*1)*7+3");
+    const QString answer = state.range(0) == 0 ? u"((3*1)*7)+3"_s : u"((3*1)*7+3"_s;
     for (auto step : state) {
         benchmark::DoNotOptimize(judgeAnswer(answer, numbers));
     }

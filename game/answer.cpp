@@ -13,6 +13,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 targetValue = 24;
@@ -30,7 +32,7 @@ QString withDecimalPoints(const QString &text)
 {
     // Compiled once: that takes longer than all the rest of judging an answer.
     static const QRegularExpression literal =
-        RegularExpressionWithPattern(QStringLiteral("[0-9.]+"), QRegularExpression::CaseInsensitiveOption, nullptr);
+        RegularExpressionWithPattern(u"[0-9.]+"_s, QRegularExpression::CaseInsensitiveOption, nullptr);
     QString decimals;
     qint64 copiedTo = 0;
     const auto matches = RegularExpressionMatches(literal, text, QRegularExpression::NoMatchOption, 0, LenCF(text));
@@ -38,9 +40,7 @@ QString withDecimalPoints(const QString &text)
         const TextRange range = TextCheckingResultRange(match);
         const QString number = StringSubstringWithRange(text, range.location, range.length);
         decimals += QStringView(text).mid(copiedTo, range.location - copiedTo);
-        decimals += StringContainsString(number, QStringLiteral("."))
-                        ? number
-                        : StringWithFormat(QStringLiteral("%@.0"), number);
+        decimals += StringContainsString(number, u"."_s) ? number : StringWithFormat(u"%@.0"_s, number);
         copiedTo = range.location + range.length;
     }
     return decimals + QStringView(text).mid(copiedTo);
@@ -54,7 +54,7 @@ QString withoutZeroDecimals(const QString &result)
     if (value != static_cast<double>(std::floor(static_cast<float>(value)))) {
         return result;
     }
-    return StringComponentsSeparatedByString(result, QStringLiteral(".")).first();
+    return StringComponentsSeparatedByString(result, u"."_s).first();
 }
 
 Outcome judgeValue(const QString &answer)
@@ -98,14 +98,13 @@ bool passesNumberCheck(const QString &answer, const PuzzleNumbers &numbers)
 
 QString EvaluateMath(const QString &answer)
 {
-    const QString text = withDecimalPoints(
-        StringByReplacingOccurrencesOfString(LcaseCFString(answer), QStringLiteral("x"), QStringLiteral("*")));
+    const QString text = withDecimalPoints(StringByReplacingOccurrencesOfString(LcaseCFString(answer), u"x"_s, u"*"_s));
     const auto expression = ExpressionWithFormat(std::nothrow, text);
     if (const auto *failure = std::get_if<ExpressionFailure>(&expression)) {
-        return StringWithFormat(QStringLiteral("%@"), failure->description(text));
+        return StringWithFormat(u"%@"_s, failure->description(text));
     }
     const QVariant value = ExpressionValueWithObject(std::get<Expression>(expression), QVariant(), QVariant());
-    return withoutZeroDecimals(StringWithFormat(QStringLiteral("%.3f"), ZRDblVal(value)));
+    return withoutZeroDecimals(StringWithFormat(u"%.3f"_s, ZRDblVal(value)));
 }
 
 Outcome judgeAnswer(const QString &answer, const PuzzleNumbers &numbers)
@@ -114,10 +113,10 @@ Outcome judgeAnswer(const QString &answer, const PuzzleNumbers &numbers)
         return Outcome::nothingTyped;
     }
     const QString command = UcaseCFString(answer);
-    if (StringIsEqual(command, QStringLiteral("Q"))) {
+    if (StringIsEqual(command, u"Q"_s)) {
         return Outcome::quit;
     }
-    if (StringIsEqual(command, QStringLiteral("S"))) {
+    if (StringIsEqual(command, u"S"_s)) {
         return Outcome::skip;
     }
     if (!passesDigitCount(answer)) {

@@ -4,6 +4,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString quoted(QStringView text)
@@ -21,7 +23,7 @@ QString characterName(QStringView text, qsizetype index)
     if (c.isPrint() && !c.isSpace()) {
         return quoted(text.mid(index, 1));
     }
-    return QStringLiteral("character U+") + QString::number(c.unicode(), 16).toUpper().rightJustified(4, u'0');
+    return u"character U+"_s + QString::number(c.unicode(), 16).toUpper().rightJustified(4, u'0');
 }
 
 QStringView numberAt(QStringView text, qsizetype index)
@@ -39,25 +41,25 @@ QString fault(const ExpressionFailure &failure, QStringView text)
     case ExpressionFailure::empty:
         break;
     case ExpressionFailure::missingOperandBefore:
-        return QStringLiteral("missing operand before ") + quoted(text.mid(failure.index, 1));
+        return u"missing operand before "_s + quoted(text.mid(failure.index, 1));
     case ExpressionFailure::missingOperandAfter:
-        return QStringLiteral("missing operand after ") + quoted(text.mid(failure.index, 1));
+        return u"missing operand after "_s + quoted(text.mid(failure.index, 1));
     case ExpressionFailure::missingOperator:
-        return QStringLiteral("missing operator before '('");
+        return u"missing operator before '('"_s;
     case ExpressionFailure::emptyParentheses:
-        return QStringLiteral("empty parentheses");
+        return u"empty parentheses"_s;
     case ExpressionFailure::notOpened:
-        return QStringLiteral("')' without '('");
+        return u"')' without '('"_s;
     case ExpressionFailure::notClosed:
-        return QStringLiteral("'(' without ')'");
+        return u"'(' without ')'"_s;
     case ExpressionFailure::malformedNumber:
-        return QStringLiteral("malformed number ") + quoted(numberAt(text, failure.index));
+        return u"malformed number "_s + quoted(numberAt(text, failure.index));
     case ExpressionFailure::numbersSideBySide:
-        return QStringLiteral("two numbers side by side");
+        return u"two numbers side by side"_s;
     case ExpressionFailure::unexpectedCharacter:
-        return QStringLiteral("unexpected ") + characterName(text, failure.index);
+        return u"unexpected "_s + characterName(text, failure.index);
     }
-    return QStringLiteral("the expression is empty");
+    return u"the expression is empty"_s;
 }
 
 } // namespace
@@ -65,7 +67,7 @@ QString fault(const ExpressionFailure &failure, QStringView text)
 QString ExpressionFailure::description(QStringView text) const
 {
     const QString what = fault(*this, text);
-    return kind == empty ? what : what + QStringLiteral(" at position ") + QString::number(index + 1);
+    return kind == empty ? what : what + u" at position "_s + QString::number(index + 1);
 }
 
 } // namespace tetrad

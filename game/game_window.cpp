@@ -8,6 +8,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Tag gameWindowTag = 1;
@@ -18,7 +20,7 @@ constexpr Tag quitOrPlayTag = 2;
 int BuildWindow()
 {
     const QRectF content(0, 0, 580, 250);
-    CUI_Window(gameWindowTag, QStringLiteral("Tetrad Game"), notGiven, content);
+    CUI_Window(gameWindowTag, u"Tetrad Game"_s, notGiven, content);
     WindowCenter(gameWindowTag);
     WindowSetBackgroundColor(gameWindowTag, ColorBlack());
     return 0;
@@ -26,11 +28,10 @@ int BuildWindow()
 
 int QuitOrPlayAlert(const QString &verdict)
 {
-    CUI_Alert(-quitOrPlayTag, notGiven, verdict, QStringLiteral("You won!"), QStringLiteral("Quit;Play Again"),
-              notGiven);
+    CUI_Alert(-quitOrPlayTag, notGiven, verdict, u"You won!"_s, u"Quit;Play Again"_s, notGiven);
     // Deliberate: indices count from 0, so this names no button, and neither button answers to Escape; a stray
     // Escape must not choose for the player.
-    AlertButtonSetKeyEquivalent(quitOrPlayTag, 2, QStringLiteral("\u001B"));
+    AlertButtonSetKeyEquivalent(quitOrPlayTag, 2, u"\u001B"_s);
     const auto button =
         static_cast<qint16>(CUI_Alert(quitOrPlayTag, notGiven, QVariant(), QString(), QVariant(), notGiven));
     if (button != alertSecondButton) {

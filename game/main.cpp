@@ -17,6 +17,7 @@
 #include <algorithm>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +26,7 @@ constexpr double keepSize = 0.0;
 // A print that ends with a backspace stays on its line.
 QString staysOnLine()
 {
-    return QStringLiteral("\b");
+    return u"\b"_s;
 }
 
 // The game's fixed messages go through the string stack.
@@ -89,15 +90,15 @@ void showPuzzle(const PuzzleNumbers &numbers, Level level)
     }
     print({message("")});
     setTextStyle(ColorWhite(), 12.0);
-    CUI_PrintToWindowPrintFStatement(QStringLiteral("\n\n\n"));
+    CUI_PrintToWindowPrintFStatement(u"\n\n\n"_s);
 }
 
 QString ask(bool wasRejected, const QString &lastAnswer)
 {
-    const QString prompt =
-        wasRejected ? StringWithFormat(QStringLiteral("Enter math expression: [ '%@' was incorrect ]"), lastAnswer)
-                    : QStringLiteral("Enter math expression:");
-    return ZRInput(10, 190, prompt, QStringLiteral("123456789+-*/()qs"), 1, notGiven, 0);
+    const QString prompt = wasRejected
+                               ? StringWithFormat(u"Enter math expression: [ '%@' was incorrect ]"_s, lastAnswer)
+                               : u"Enter math expression:"_s;
+    return ZRInput(10, 190, prompt, u"123456789+-*/()qs"_s, 1, notGiven, 0);
 }
 
 void sayError(const QString &text)
@@ -140,7 +141,7 @@ void askUntilDone(const PuzzleNumbers &numbers)
             return;
         case Outcome::correct:
             EraseErrorText();
-            QuitOrPlayAlert(QStringLiteral("Correct"));
+            QuitOrPlayAlert(u"Correct"_s);
             return;
         case Outcome::extraNumbers:
         case Outcome::wrongNumbers:

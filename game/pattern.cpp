@@ -2,13 +2,15 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 QRegularExpression RegularExpressionWithPattern(const QString &pattern, QRegularExpression::PatternOptions options,
                                                 ErrorObject *error)
 {
     QRegularExpression expression(pattern, options);
     if (!expression.isValid() && error != nullptr) {
-        *error = {QStringLiteral("QRegularExpression"), expression.patternErrorOffset(),
-                  expression.errorString() + QStringLiteral(" in \"") + pattern + u'"'};
+        *error = {u"QRegularExpression"_s, expression.patternErrorOffset(),
+                  expression.errorString() + u" in \""_s + pattern + u'"'};
     }
     return expression;
 }

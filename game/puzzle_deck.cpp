@@ -9,6 +9,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 lastEasyPosition = 32;
@@ -81,11 +83,11 @@ QString levelLabel(Level level)
 {
     switch (level) {
     case Level::easy:
-        return QStringLiteral(u"\u26AA Easy");
+        return u"\u26AA Easy"_s;
     case Level::medium:
-        return QStringLiteral(u"\U0001F534 \U0001F534 Medium");
+        return u"\U0001F534 \U0001F534 Medium"_s;
     case Level::hard:
-        return QStringLiteral(u"\U0001F7E1 \U0001F7E1 \U0001F7E1 Hard");
+        return u"\U0001F7E1 \U0001F7E1 \U0001F7E1 Hard"_s;
     }
     Q_UNREACHABLE();
 }

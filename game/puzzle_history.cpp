@@ -7,15 +7,17 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array<quint32, numbersPerPuzzle> numberStoredLines = {181, 182, 183, 184};
 
 QString keyOfParts(const QStringList &parts)
 {
-    QString key = QStringLiteral("");
+    QString key = u""_s;
     for (const QString &part : parts) {
-        key = StringByAppendingString(StringByAppendingString(key, part), QStringLiteral(" "));
+        key = StringByAppendingString(StringByAppendingString(key, part), u" "_s);
     }
     return key;
 }
@@ -24,7 +26,7 @@ QString keyOfParts(const QStringList &parts)
 QStringList drawUnseenPuzzle(PuzzleHistory &history, const RandomSource &source)
 {
     for (;;) {
-        QStringList parts = StringComponentsSeparatedByString(GetRandomNumbers(source), QStringLiteral(" "));
+        QStringList parts = StringComponentsSeparatedByString(GetRandomNumbers(source), u" "_s);
         QString key = keyOfParts(parts);
         history.clearWhenFull();
         if (!history.holds(key)) {
@@ -70,7 +72,7 @@ void PuzzleHistory::clear(quint32 line)
 {
     m_count = 0;
     for (qint16 slot = 1; slot <= puzzleCount; ++slot) {
-        m_slots.at(slot, line) = QStringLiteral("");
+        m_slots.at(slot, line) = u""_s;
     }
 }
 

@@ -21,6 +21,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 /// The window statement with a place alone, carried out in full.
 inline Window *open(Tag tag, const QRectF &rect = QRectF(40, 60, 300, 200))
 {
@@ -52,8 +54,7 @@ inline qint64 lastObject = 0;
 inline qint64 recordCall(qint64 event, Tag tag, Tag wndTag, qint64 obj)
 {
     const QString values = valuesOf ? valuesOf(event) : QString();
-    dialogCalls << QString::asprintf("%lld %lld %lld", event, tag, wndTag) +
-                       (values.isEmpty() ? u""_qs : u' ' + values);
+    dialogCalls << QString::asprintf("%lld %lld %lld", event, tag, wndTag) + (values.isEmpty() ? u""_s : u' ' + values);
     lastObject = obj;
     if (const auto callback = atEvent) {
         callback(event);

@@ -11,6 +11,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int iconSize = 64;
@@ -47,7 +49,7 @@ void addIcon(QVBoxLayout *layout)
 
 void fill(QDialog *panel)
 {
-    auto *ok = new QPushButton(QStringLiteral("OK"));
+    auto *ok = new QPushButton(u"OK"_s);
     ok->setDefault(true);
     QObject::connect(ok, &QPushButton::clicked, panel, &QDialog::accept);
     auto *layout = new QVBoxLayout(panel);
@@ -56,8 +58,8 @@ void fill(QDialog *panel)
     layout->addStrut(leastTextWidth);
     addIcon(layout);
     layout->addWidget(nameLabel());
-    layout->addWidget(centredLabel(QStringLiteral("Version %1").arg(applicationVersion())));
-    layout->addWidget(centredLabel(QStringLiteral("License: MIT")));
+    layout->addWidget(centredLabel(u"Version %1"_s.arg(applicationVersion())));
+    layout->addWidget(centredLabel(u"License: MIT"_s));
     layout->addSpacing(12);
     layout->addWidget(ok, 0, Qt::AlignHCenter);
 }
@@ -72,7 +74,7 @@ void orderFrontStandardAboutPanel()
     }
     // It goes with the window that it stands over, if that goes first.
     panel = new QDialog(QApplication::activeWindow());
-    panel->setWindowTitle(QStringLiteral("About %1").arg(applicationName()));
+    panel->setWindowTitle(u"About %1"_s.arg(applicationName()));
     fill(panel);
     QObject::connect(panel, &QDialog::finished, panel, [] { stopModalWithCode(modalStopped); });
     runModalForWindow(panel);

@@ -23,6 +23,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char sheetKey[] = "sheetNumber";
@@ -121,7 +123,7 @@ void Alert::updateAccessibleName()
 QPushButton *Alert::addAlertButton(const QString &title)
 {
     // Only this role keeps the order of insertion on every desktop.
-    QPushButton *const button = addButton(QString(title).replace(u'&', u"&&"_qs), QMessageBox::ActionRole);
+    QPushButton *const button = addButton(QString(title).replace(u'&', u"&&"_s), QMessageBox::ActionRole);
     button->setProperty(titleKey, title);
     m_buttons.append(button);
     if (m_buttons.size() == 1) {

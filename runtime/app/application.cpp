@@ -14,6 +14,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QPointer<CUI_AppDelegate> installedDelegate;
@@ -26,18 +28,18 @@ QIcon installedIcon(const QString &name)
     // its icon: in share, beside the folder the program is in or beside the program.
     const QString programFolder = QCoreApplication::applicationDirPath();
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths()
-                               << programFolder + u"/../share/icons"_qs << programFolder + u"/share/icons"_qs);
+                               << programFolder + u"/../share/icons"_s << programFolder + u"/share/icons"_s);
     for (const QString &folder : QIcon::themeSearchPaths()) {
         QIcon icon;
         // Each window hands all of them to the window system when it is made; a larger one would cost a tenth of the
         // time to the first prompt, and no title bar or task switcher shows it.
         for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
-            const QString file = folder + QString::asprintf("/hicolor/%dx%d/apps/", size, size) + name + u".png"_qs;
+            const QString file = folder + QString::asprintf("/hicolor/%dx%d/apps/", size, size) + name + u".png"_s;
             if (QFile::exists(file)) {
                 icon.addFile(file, QSize(size, size));
             }
         }
-        const QString drawing = folder + u"/hicolor/scalable/apps/"_qs + name + u".svg"_qs;
+        const QString drawing = folder + u"/hicolor/scalable/apps/"_s + name + u".svg"_s;
         if (icon.isNull() && QFile::exists(drawing)) {
             icon.addFile(drawing);
         }

@@ -10,6 +10,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The text of whatever shows one: a window's title, a label's, button's or field's text.
@@ -32,9 +34,9 @@ QString lineOf(const QWidget *widget)
         line += u" #" + widget->objectName();
     }
     if (const Tag tag = objectTag(widget)) {
-        line += QStringLiteral(" tag %1").arg(tag);
+        line += u" tag %1"_s.arg(tag);
     }
-    line += QStringLiteral(" (%1,%2 %3x%4)").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+    line += u" (%1,%2 %3x%4)"_s.arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
     if (widget->isHidden()) {
         line += u" hidden";
     }

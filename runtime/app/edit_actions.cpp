@@ -10,6 +10,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct EditAction
@@ -147,7 +149,7 @@ QMenu *makeEditMenu()
 {
     static const bool follows = (followFocus(), true);
     Q_UNUSED(follows)
-    auto *menu = new QMenu(QStringLiteral("Edit"));
+    auto *menu = new QMenu(u"Edit"_s);
     for (const EditAction &action : editActions()) {
         addEditItem(menu, action);
     }

@@ -13,6 +13,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 MainMenu *theMainMenu = nullptr;
@@ -21,13 +23,13 @@ QList<QPointer<QMenuBar>> bars;
 // A name's own "&" must not become an underlined letter.
 QString verbatim(QString title)
 {
-    return title.replace(u'&', QStringLiteral("&&"));
+    return title.replace(u'&', u"&&"_s);
 }
 
 MainMenu *takeMainMenu()
 {
     if (theMainMenu == nullptr) {
-        theMainMenu = new MainMenu{QStringLiteral("MainMenu"), {}};
+        theMainMenu = new MainMenu{u"MainMenu"_s, {}};
 #ifdef Q_OS_MACOS
         showMainMenuIn(new QMenuBar(nullptr));
 #endif
@@ -76,11 +78,11 @@ void CUI_BuildMinimalMenu()
 {
     const QString name = applicationName();
     auto *menu = new QMenu(verbatim(name));
-    QAction *about = addItem(menu, verbatim(QStringLiteral("About %1").arg(name)), QAction::AboutRole);
+    QAction *about = addItem(menu, verbatim(u"About %1"_s.arg(name)), QAction::AboutRole);
     // The panel runs modally; it must not do so inside the menu that is still closing.
     QObject::connect(about, &QAction::triggered, qApp, &orderFrontStandardAboutPanel, Qt::QueuedConnection);
     menu->addSeparator();
-    QAction *quit = addItem(menu, verbatim(QStringLiteral("Quit %1").arg(name)), QAction::QuitRole);
+    QAction *quit = addItem(menu, verbatim(u"Quit %1"_s.arg(name)), QAction::QuitRole);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setShortcutContext(Qt::ApplicationShortcut);
     QObject::connect(quit, &QAction::triggered, qApp, &AppTerminate);

@@ -16,6 +16,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void endWithoutDisplay(const QString &trouble)
@@ -48,7 +50,7 @@ void requireDisplaySetting()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     if (requestedPlatform().isEmpty()) {
-        endWithoutDisplay(QStringLiteral("needs a display and there is none"));
+        endWithoutDisplay(u"needs a display and there is none"_s);
     }
 #endif
 }

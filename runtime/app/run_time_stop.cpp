@@ -15,6 +15,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // "?" stands for what the encoding lacks.
@@ -85,8 +87,8 @@ void ZRReportRangeError(qint32 index, quint32 line, qint32 bound, const QString 
     const QString of = runtimeText(QT_TRANSLATE_NOOP("Runtime", " of "));
     const QString indexIs = runtimeText(QT_TRANSLATE_NOOP("Runtime", "Index "));
     const QString outside = runtimeText(QT_TRANSLATE_NOOP("Runtime", " is outside the DIM range 0 to"));
-    const QString message = StringWithFormat(u"%@%@%@\n%@%d%@ %d"_qs, ZRCreateLineNumberMsg(line), of, file, indexIs,
-                                             index, outside, bound);
+    const QString message =
+        StringWithFormat(u"%@%@%@\n%@%d%@ %d"_s, ZRCreateLineNumberMsg(line), of, file, indexIs, index, outside, bound);
     writeRangeError(message);
     ZRFullStop(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Array bounds error")), message, 1);
     std::abort(); // never reached: a fatal stop does not return
@@ -94,7 +96,7 @@ void ZRReportRangeError(qint32 index, quint32 line, qint32 bound, const QString 
 
 QString ZRCreateLineNumberMsg(quint32 line)
 {
-    return StringWithFormat(u"%@ %d"_qs, runtimeText(QT_TRANSLATE_NOOP("Runtime", "At line")), line);
+    return StringWithFormat(u"%@ %d"_s, runtimeText(QT_TRANSLATE_NOOP("Runtime", "At line")), line);
 }
 
 void ZRFullStop(const QString &message, const QString &informative, qint32 fatal)

@@ -23,6 +23,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char callbackKey[] = "callbackValue";
@@ -191,7 +193,7 @@ void Window::makeKeyAndOrderFront()
 QString Window::dump() const
 {
     const QRectF place = contentRect();
-    QString line = QStringLiteral("content %1x%2 at %3,%4, style %5");
+    QString line = u"content %1x%2 at %3,%4, style %5"_s;
     line = line.arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y()).arg(m_styleMask);
     return isActiveWindow() ? line + u", key" : line;
 }

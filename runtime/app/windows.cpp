@@ -14,6 +14,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool subclassFlag = false;
@@ -37,7 +39,7 @@ Window *WindowInit(Tag tag, const QRectF &contentRect)
     (new CUI_WindowController)->setWindow(window);
     window->setAutorecalculatesKeyViewLoop(true);
     window->setTag(tag);
-    window->setWindowTitle(QStringLiteral("Untitled"));
+    window->setWindowTitle(u"Untitled"_s);
     if (rect.topLeft() == QPointF(0, 0)) {
         window->center();
     }

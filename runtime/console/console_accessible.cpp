@@ -8,6 +8,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The bridge to AT-SPI, whose offsets count characters, hands offsets through as they are. Elsewhere they count UTF-16
@@ -176,13 +178,12 @@ private:
     QString described(const TextAttributes &attributes) const
     {
         const QColor foreground = attributes.foregroundColor();
-        QString text =
-            QStringLiteral("font-family:\"%1\";font-size:%2pt;color:%3;")
-                .arg(attributes.fontName(), QString::number(attributes.fontSize() * 0.75),
-                     colorText(foreground.isValid() ? foreground : m_view->palette().color(QPalette::WindowText)));
+        QString text = u"font-family:\"%1\";font-size:%2pt;color:%3;"_s.arg(
+            attributes.fontName(), QString::number(attributes.fontSize() * 0.75),
+            colorText(foreground.isValid() ? foreground : m_view->palette().color(QPalette::WindowText)));
         const QColor background = attributes.backgroundColor();
         if (background.isValid() && background.alpha() != 0) {
-            text += QStringLiteral("background-color:%1;").arg(colorText(background));
+            text += u"background-color:%1;"_s.arg(colorText(background));
         }
         return text;
     }

@@ -4,35 +4,36 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 QVariantMap archivedItem(const CUI_PrintToWindowItem &item)
 {
     const LineStyle &style = item.lineStyle();
     QVariantMap map{
-        {QStringLiteral("type"), item.type()},
-        {QStringLiteral("pt"), item.pt()},
-        {QStringLiteral("pt1"), item.linePt1()},
-        {QStringLiteral("pt2"), item.linePt2()},
-        {QStringLiteral("rect"), item.rect()},
-        {QStringLiteral("lineWidth"), style.lineWidth},
-        {QStringLiteral("lineCapStyle"), style.lineCapStyle},
-        {QStringLiteral("lineDashPhase"), style.lineDashPhase},
-        {QStringLiteral("strokeFlag"), item.strokeFlag()},
-        {QStringLiteral("fillFlag"), item.fillFlag()},
+        {u"type"_s, item.type()},
+        {u"pt"_s, item.pt()},
+        {u"pt1"_s, item.linePt1()},
+        {u"pt2"_s, item.linePt2()},
+        {u"rect"_s, item.rect()},
+        {u"lineWidth"_s, style.lineWidth},
+        {u"lineCapStyle"_s, style.lineCapStyle},
+        {u"lineDashPhase"_s, style.lineDashPhase},
+        {u"strokeFlag"_s, item.strokeFlag()},
+        {u"fillFlag"_s, item.fillFlag()},
     };
     if (!item.string().isNull()) {
-        map.insert(QStringLiteral("text"), item.string());
+        map.insert(u"text"_s, item.string());
         // Deliberately the string and not the attributes: readers of archives have always found it there.
-        map.insert(QStringLiteral("attributes"), item.string());
+        map.insert(u"attributes"_s, item.string());
     }
     if (!style.lineDashPattern.isEmpty()) {
-        map.insert(QStringLiteral("lineDashPattern"),
-                   QVariantList(style.lineDashPattern.begin(), style.lineDashPattern.end()));
+        map.insert(u"lineDashPattern"_s, QVariantList(style.lineDashPattern.begin(), style.lineDashPattern.end()));
     }
     if (style.strokeColor.isValid()) {
-        map.insert(QStringLiteral("strokeColor"), style.strokeColor);
+        map.insert(u"strokeColor"_s, style.strokeColor);
     }
     if (item.fillColor().isValid()) {
-        map.insert(QStringLiteral("fillColor"), item.fillColor());
+        map.insert(u"fillColor"_s, item.fillColor());
     }
     return map;
 }

@@ -4,6 +4,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Item = CUI_PrintToWindowItem;
@@ -28,17 +30,17 @@ QString colorName(const QColor &color, const QString &invalid)
 
 QString strokeDump(const LineStyle &style)
 {
-    QString dump = QStringLiteral(" width ") + number(style.lineWidth);
+    QString dump = u" width "_s + number(style.lineWidth);
     if (style.lineCapStyle != 0) {
-        dump += QStringLiteral(" cap ") + QString::number(style.lineCapStyle);
+        dump += u" cap "_s + QString::number(style.lineCapStyle);
     }
     for (qsizetype i = 0; i < style.lineDashPattern.size(); ++i) {
-        dump += (i == 0 ? QStringLiteral(" dash ") : QStringLiteral(",")) + number(style.lineDashPattern.at(i));
+        dump += (i == 0 ? u" dash "_s : u","_s) + number(style.lineDashPattern.at(i));
     }
     if (style.lineDashPhase != 0) {
-        dump += QStringLiteral(" phase ") + number(style.lineDashPhase);
+        dump += u" phase "_s + number(style.lineDashPhase);
     }
-    return dump + QStringLiteral(" stroke ") + colorName(style.strokeColor, QStringLiteral("black"));
+    return dump + u" stroke "_s + colorName(style.strokeColor, u"black"_s);
 }
 
 QString readable(const QString &text)
@@ -57,11 +59,11 @@ QString readable(const QString &text)
 QString textDump(const Item &item)
 {
     const TextAttributes &attributes = item.attributes();
-    QString dump = QStringLiteral("text ") + point(item.pt()) + QStringLiteral(" \"") + readable(item.string()) +
-                   QStringLiteral("\" size ") + number(attributes.fontSize()) + QStringLiteral(" color ") +
-                   colorName(attributes.foregroundColor(), QStringLiteral("standard"));
+    QString dump = u"text "_s + point(item.pt()) + u" \""_s + readable(item.string()) + u"\" size "_s +
+                   number(attributes.fontSize()) + u" color "_s +
+                   colorName(attributes.foregroundColor(), u"standard"_s);
     if (attributes.backgroundColor().isValid() && attributes.backgroundColor().alpha() != 0) {
-        dump += QStringLiteral(" background ") + attributes.backgroundColor().name();
+        dump += u" background "_s + attributes.backgroundColor().name();
     }
     return dump;
 }
@@ -69,14 +71,12 @@ QString textDump(const Item &item)
 QString shapeDump(const Item &item)
 {
     if (item.type() == Item::line) {
-        return QStringLiteral("line ") + point(item.linePt1()) + QStringLiteral(" to ") + point(item.linePt2()) +
-               strokeDump(item.lineStyle());
+        return u"line "_s + point(item.linePt1()) + u" to "_s + point(item.linePt2()) + strokeDump(item.lineStyle());
     }
     const QRectF rect = item.rect();
-    return (item.type() == Item::oval ? QStringLiteral("oval ") : QStringLiteral("rect ")) + point(rect.topLeft()) +
-           QStringLiteral(" size ") + number(rect.width()) + u'x' + number(rect.height()) +
-           strokeDump(item.lineStyle()) + QStringLiteral(" fill ") +
-           colorName(item.fillColor(), QStringLiteral("none"));
+    return (item.type() == Item::oval ? u"oval "_s : u"rect "_s) + point(rect.topLeft()) + u" size "_s +
+           number(rect.width()) + u'x' + number(rect.height()) + strokeDump(item.lineStyle()) + u" fill "_s +
+           colorName(item.fillColor(), u"none"_s);
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Tag consoleWindowTag = 999999;
@@ -43,7 +45,7 @@ QWidget *CUI_PrintToWindowWindow()
     if (QWidget *window = targetWindow()) {
         return window;
     }
-    CUI_Window(consoleWindowTag, QStringLiteral("• Print to Window •"), notGiven, QRectF());
+    CUI_Window(consoleWindowTag, u"• Print to Window •"_s, notGiven, QRectF());
     return targetWindow();
 }
 
@@ -65,7 +67,7 @@ CUI_PrintToWindowView *CUI_PrintToWindowViewObj(QWidget *window)
 
 void CUI_PrintToWindowPrintStatement(const QStringList &items)
 {
-    QString joined = QStringLiteral("");
+    QString joined = u""_s;
     for (const QString &item : items) {
         if (item.isNull()) {
             break;

@@ -18,6 +18,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double growthBelow = 20.0;
@@ -135,7 +137,7 @@ void CUI_PrintToWindowView::addPiece(const QString &piece, bool last)
 
 void CUI_PrintToWindowView::setColumnRow(double column, double row)
 {
-    const double cellWidth = measureText(QStringLiteral("0"), m_attributes).width;
+    const double cellWidth = measureText(u"0"_s, m_attributes).width;
     m_currentPoint = {column * cellWidth, row * m_attributes.facts().lineHeight};
     fixFrameHeight(m_currentPoint.y());
 }

@@ -15,6 +15,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ChoiceHash
@@ -56,7 +58,7 @@ QString installedFamily(const QString &family)
         return family;
     }
     // The same advance (0.602 em) and nearly the same height as the font that it stands for.
-    const QString substitute = QStringLiteral("DejaVu Sans Mono");
+    const QString substitute = u"DejaVu Sans Mono"_s;
     return QFontDatabase::hasFamily(substitute) ? substitute
                                                 : QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
@@ -108,7 +110,7 @@ double plainAdvance(const QFont &font)
     for (char16_t c = 0x20; c < 0x7F; ++c) {
         probe += QChar(c);
     }
-    probe += QStringLiteral("fi -> != ==");
+    probe += u"fi -> != =="_s;
     QTextLayout layout(probe, font);
     layout.beginLayout();
     const QTextLine line = layout.createLine();

@@ -5,6 +5,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 struct TextAttributes::Data : QSharedData
 {
     FontChoice font;
@@ -100,10 +102,10 @@ const FontFacts &TextAttributes::facts() const
 QVariantMap TextAttributes::toMap() const
 {
     QVariantMap map = m_data->others;
-    map.insert(QStringLiteral("font"), fontObject(m_data->font));
-    map.insert(QStringLiteral("foregroundColor"), m_data->foreground);
-    map.insert(QStringLiteral("backgroundColor"), m_data->background);
-    map.insert(QStringLiteral("paragraphStyle"), QVariant::fromValue(m_data->paragraph));
+    map.insert(u"font"_s, fontObject(m_data->font));
+    map.insert(u"foregroundColor"_s, m_data->foreground);
+    map.insert(u"backgroundColor"_s, m_data->background);
+    map.insert(u"paragraphStyle"_s, QVariant::fromValue(m_data->paragraph));
     return map;
 }
 

@@ -12,6 +12,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Name = std::string_view;
@@ -121,7 +123,7 @@ bool isExactlyViewClass(const QObject *object, QStringView className)
 
 QString viewDescription(const QObject *object)
 {
-    return u"<%1: 0x%2>"_qs.arg(viewClassName(object), QString::number(tagFromObject(object), 16));
+    return u"<%1: 0x%2>"_s.arg(viewClassName(object), QString::number(tagFromObject(object), 16));
 }
 
 } // namespace tetrad

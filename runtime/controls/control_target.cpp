@@ -11,6 +11,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char actionKey[] = "actionName";
@@ -53,7 +55,7 @@ CUI_ControlTarget *CUI_ControlTargetObj()
 QString controlActionName(const QWidget *control)
 {
     const QVariant name = control->property(actionKey);
-    return name.isValid() ? name.toString() : QStringLiteral("controlAction:");
+    return name.isValid() ? name.toString() : u"controlAction:"_s;
 }
 
 void setControlActionName(QWidget *control, const QString &name)

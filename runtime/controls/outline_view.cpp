@@ -17,6 +17,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Every item of an outline is made here.
@@ -231,8 +233,7 @@ void CUI_OutlineView(Tag tag, const QStringList &columns, const QRectF &rect)
 
 void OutlineViewReloadData(Tag tag)
 {
-    if (auto *const view =
-            qobject_cast<OutlineView *>(CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSOutlineView")))) {
+    if (auto *const view = qobject_cast<OutlineView *>(CUI_ValidateViewKindOfClass(tag, u"NSOutlineView"_s))) {
         view->reloadData();
     }
 }

@@ -11,6 +11,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool canBePopover(Tag tag)
@@ -54,7 +56,7 @@ void PopoverShow(Tag tag, Tag relativeToView, const QRectF &rect, Qt::Edge prefe
         showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1.")).arg(tag));
         return;
     }
-    if (QWidget *const view = CUI_ValidateViewKindOfClass(relativeToView, QStringLiteral("NSView"))) {
+    if (QWidget *const view = CUI_ValidateViewKindOfClass(relativeToView, u"NSView"_s)) {
         popover->showRelativeTo(view, rect.toRect(), preferredEdge);
     }
 }

@@ -14,6 +14,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Deliberately through the record's single precision: that is how exact a program's answer is.
@@ -33,7 +35,7 @@ bool askAboutIndex(const SplitView *view, qint64 event, int index)
 
 SplitView *splitViewWithTag(Tag tag)
 {
-    return qobject_cast<SplitView *>(CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSSplitView")));
+    return qobject_cast<SplitView *>(CUI_ValidateViewKindOfClass(tag, u"NSSplitView"_s));
 }
 
 } // namespace
@@ -214,7 +216,7 @@ void CUI_SplitView(Tag tag, Qt::Orientation orientation, const QRectF &rect)
 void SplitViewAddSubview(Tag tag, Tag subview)
 {
     SplitView *const view = splitViewWithTag(tag);
-    QWidget *const added = view ? CUI_ValidateViewKindOfClass(subview, QStringLiteral("NSView")) : nullptr;
+    QWidget *const added = view ? CUI_ValidateViewKindOfClass(subview, u"NSView"_s) : nullptr;
     if (added && added != view && !added->isAncestorOf(view)) {
         view->addWidget(added);
     }

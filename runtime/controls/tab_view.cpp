@@ -13,6 +13,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 TabView::TabView(QWidget *parent) : QTabWidget(parent)
 {
     setTabBar(new TabViewBar(this));
@@ -122,7 +124,7 @@ void CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TabView *tabV
 void CUI_TabViewDelegate::callWithItem(TabView *tabView, qint64 event, int index)
 {
     CUI_DialogEventObj()->longVal = index;
-    CUI_DialogEventObj()->stringObj = tabView->tabText(index).replace(u"&&"_qs, u"&"_qs);
+    CUI_DialogEventObj()->stringObj = tabView->tabText(index).replace(u"&&"_s, u"&"_s);
     callUserDefinedOnDialogFunctionWithEvent(tabView, event, tagFromObject(tabView->widget(index)));
 }
 
@@ -154,12 +156,12 @@ namespace {
 // A shortcut taken from an ampersand would select without asking.
 QString plainLabel(QString label)
 {
-    return label.replace(u'&', u"&&"_qs);
+    return label.replace(u'&', u"&&"_s);
 }
 
 TabView *tabViewWithTag(Tag tag)
 {
-    return qobject_cast<TabView *>(CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSTabView")));
+    return qobject_cast<TabView *>(CUI_ValidateViewKindOfClass(tag, u"NSTabView"_s));
 }
 
 } // namespace

@@ -17,11 +17,13 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TableView *tableViewWithTag(Tag tag)
 {
-    return qobject_cast<TableView *>(CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSTableView")));
+    return qobject_cast<TableView *>(CUI_ValidateViewKindOfClass(tag, u"NSTableView"_s));
 }
 
 } // namespace

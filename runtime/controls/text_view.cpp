@@ -17,6 +17,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Deletion
@@ -56,7 +58,7 @@ std::optional<QTextCursor> deletedBy(const QKeyEvent *event, QTextCursor cursor)
 QString typedBy(const QKeyEvent *event)
 {
     if (event->matches(QKeySequence::InsertParagraphSeparator) || event->matches(QKeySequence::InsertLineSeparator)) {
-        return QStringLiteral("\n");
+        return u"\n"_s;
     }
     const QString text = event->text();
     const bool isCommand = (event->modifiers() & Qt::ControlModifier) && !(event->modifiers() & Qt::AltModifier);
@@ -133,8 +135,8 @@ void TextView::contextMenuEvent(QContextMenuEvent *event)
             connect(action, &QAction::triggered, this, slot);
         }
     };
-    redirect(QStringLiteral("edit-cut"), &TextView::cut);
-    redirect(QStringLiteral("edit-delete"), &TextView::del);
+    redirect(u"edit-cut"_s, &TextView::cut);
+    redirect(u"edit-delete"_s, &TextView::del);
     menu->popup(event->globalPos());
 }
 
@@ -201,7 +203,7 @@ namespace {
 
 TextView *textViewWithTag(Tag tag)
 {
-    return qobject_cast<TextView *>(CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSTextView")));
+    return qobject_cast<TextView *>(CUI_ValidateViewKindOfClass(tag, u"NSTextView"_s));
 }
 
 } // namespace

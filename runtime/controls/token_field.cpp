@@ -14,11 +14,13 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString &separator()
 {
-    static const QString text = QStringLiteral(", ");
+    static const QString text = u", "_s;
     return text;
 }
 
@@ -176,8 +178,7 @@ void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect)
 
 QStringList TokenFieldTokens(Tag tag)
 {
-    const auto *const field =
-        qobject_cast<TokenField *>(CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSTokenField")));
+    const auto *const field = qobject_cast<TokenField *>(CUI_ValidateViewKindOfClass(tag, u"NSTokenField"_s));
     return field ? field->tokens() : QStringList();
 }
 

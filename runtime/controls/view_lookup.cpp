@@ -18,6 +18,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QWidget *viewInShownPopover(Tag tag)
@@ -149,7 +151,7 @@ QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className)
 
 QWidget *ControlWithTag(Tag tagOrControl)
 {
-    return CUI_ValidateViewKindOfClass(tagOrControl, QStringLiteral("NSControl"));
+    return CUI_ValidateViewKindOfClass(tagOrControl, u"NSControl"_s);
 }
 
 } // namespace tetrad

@@ -10,6 +10,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 QWidget *CUI_ContentViewForStatement(Tag tag)
 {
     if (tag == 0 || isObjectAddress(tagIdentity(tag))) {
@@ -17,7 +19,7 @@ QWidget *CUI_ContentViewForStatement(Tag tag)
         showTagError(runtimeText(text).arg(tag));
         return nullptr;
     }
-    return CUI_ValidateViewKindOfClass(contentViewTag, QStringLiteral("NSView"));
+    return CUI_ValidateViewKindOfClass(contentViewTag, u"NSView"_s);
 }
 
 QWidget *CUI_ViewForStatement(Tag tag)
@@ -47,8 +49,8 @@ void CUI_PlaceView(QWidget *view, Tag tag, const QRectF &rect)
 
 void ViewAddSubview(Tag superview, Tag subview)
 {
-    QWidget *const outer = CUI_ValidateViewKindOfClass(superview, QStringLiteral("NSView"));
-    QWidget *const inner = outer ? CUI_ValidateViewKindOfClass(subview, QStringLiteral("NSView")) : nullptr;
+    QWidget *const outer = CUI_ValidateViewKindOfClass(superview, u"NSView"_s);
+    QWidget *const inner = outer ? CUI_ValidateViewKindOfClass(subview, u"NSView"_s) : nullptr;
     // A view cannot lie in itself or in its own subview.
     if (!inner || inner == outer || inner->isAncestorOf(outer)) {
         return;
@@ -63,7 +65,7 @@ void ViewAddSubview(Tag superview, Tag subview)
 
 void ViewRemoveFromSuperview(Tag tag)
 {
-    if (QWidget *const view = CUI_ValidateViewKindOfClass(tag, QStringLiteral("NSView"))) {
+    if (QWidget *const view = CUI_ValidateViewKindOfClass(tag, u"NSView"_s)) {
         view->hide();
         view->setParent(nullptr);
         view->deleteLater();

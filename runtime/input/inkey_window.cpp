@@ -16,6 +16,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A key that may well be held down still from the answer before; its repetition is no new answer.
@@ -40,7 +42,7 @@ QString inCaseOf(const QString &key, qint64 caseOption)
 } // namespace
 
 ZRInkeyWindow::ZRInkeyWindow(const QString &prompt, qint64 xPos, qint64 yPos)
-    : FloatingPanel(prompt, xPos, yPos), m_cursorLabel(makeLabel(QStringLiteral("_")))
+    : FloatingPanel(prompt, xPos, yPos), m_cursorLabel(makeLabel(u"_"_s))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);

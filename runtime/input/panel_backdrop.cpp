@@ -9,6 +9,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int shadowOffset = 3;
@@ -61,10 +63,8 @@ void paintAnew(QPainter &painter, const QRect &panel, const QPalette &palette)
 /// cost more than everything else that a key press paints.
 QPixmap narrowPanel(int height, int scale, const QPalette &palette)
 {
-    const QString key = QStringLiteral("tetrad panel %1 %2 %3 %4")
-                            .arg(height)
-                            .arg(scale)
-                            .arg(bodyColor(palette).name(QColor::HexArgb), edgeColor(palette).name(QColor::HexArgb));
+    const QString key = u"tetrad panel %1 %2 %3 %4"_s.arg(height).arg(scale).arg(
+        bodyColor(palette).name(QColor::HexArgb), edgeColor(palette).name(QColor::HexArgb));
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
         const QRect panel(0, 0, 2 * panelEndWidth + 1, height);

@@ -12,6 +12,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString addressText(const void *address)
@@ -21,7 +23,7 @@ QString addressText(const void *address)
 
 QString textOrNull(const QString &text)
 {
-    return text.isNull() ? QStringLiteral("(null)") : text;
+    return text.isNull() ? u"(null)"_s : text;
 }
 
 /// The shortest form that reads back as the same float; through a double it would be 0.10000000149.

@@ -6,6 +6,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 qint16 gZRStk = 0;
 PascalString gZRStrStk[stringStackSize + 1] = {};
 
@@ -18,15 +20,15 @@ StringStackStop installedStop = nullptr;
 [[noreturn]] void stopOverflow()
 {
     const QString message =
-        QStringLiteral("Pascal String stack index ( gZRStk ) exceeds string stack size of %1. Zarvane will terminate")
-            .arg(stringStackSize);
+        u"Pascal String stack index ( gZRStk ) exceeds string stack size of %1. Zarvane will terminate"_s.arg(
+            stringStackSize);
     // Before the stop asks, so that a log tells why a program that nobody was watching is gone.
     std::fprintf(stderr, "%s\n", qUtf8Printable(message));
     std::fflush(stderr);
     if (installedStop != nullptr) {
         installedStop(message,
-                      QStringLiteral("If 'Source File Combining'( in Build Settings ) is turned OFF, try setting to "
-                                     "Medium or Maximum"),
+                      u"If 'Source File Combining'( in Build Settings ) is turned OFF, try setting to "
+                      "Medium or Maximum"_s,
                       fatalStop);
     }
     std::abort();

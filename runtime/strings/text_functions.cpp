@@ -6,6 +6,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Range
@@ -50,7 +52,7 @@ qint64 InString(qint32 start, const QString &haystack, const QString &needle, qi
 
 QString RightString(const QString &text, qint64 count)
 {
-    return count < 1 ? QStringLiteral("") : text.right(std::min<qint64>(count, text.size()));
+    return count < 1 ? u""_s : text.right(std::min<qint64>(count, text.size()));
 }
 
 QString LcaseCFString(const QString &text)

@@ -18,6 +18,7 @@
 #include <thread>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,9 +49,9 @@ protected:
         WindowTest::TearDown();
     }
 
-    static Alert *define(Tag tag, const QVariant &buttons = u"Quit;Play Again"_qs)
+    static Alert *define(Tag tag, const QVariant &buttons = u"Quit;Play Again"_s)
     {
-        CUI_Alert(-tag, notGiven, u"Correct"_qs, u"You won!"_qs, buttons, notGiven);
+        CUI_Alert(-tag, notGiven, u"Correct"_s, u"You won!"_s, buttons, notGiven);
         return CUI_AlertWithTag(tag);
     }
     // The result of the alert, shown and answered so.
@@ -65,10 +66,10 @@ protected:
 TEST_F(Alerts, ButtonsAreMadeOnceFromTheTitles)
 {
     const Table<QVariant, QStringList> rows = {
-        {"text", u"Quit;Play Again"_qs, {u"Quit"_qs, u"Play Again"_qs}},
-        {"empty pieces", u"A;;B;"_qs, {u"A"_qs, u""_qs, u"B"_qs, u""_qs}},
-        {"ampersand", u"Save & Quit"_qs, {u"Save & Quit"_qs}},
-        {"list", QStringList{u"a;b"_qs}, {u"a;b"_qs}},
+        {"text", u"Quit;Play Again"_s, {u"Quit"_s, u"Play Again"_s}},
+        {"empty pieces", u"A;;B;"_s, {u"A"_s, u""_s, u"B"_s, u""_s}},
+        {"ampersand", u"Save & Quit"_s, {u"Save & Quit"_s}},
+        {"list", QStringList{u"a;b"_s}, {u"a;b"_s}},
     };
     for (const auto &[name, buttons, titles] : rows) {
         EXPECT_EQ(titlesOf(define(5, buttons)), titles) << name;
@@ -97,7 +98,7 @@ TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
         SCOPED_TRACE(name);
         define(2);
         EXPECT_EQ(show(2, answer), code);
-        EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 %1 2"_qs.arg(code)});
+        EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 %1 2"_s.arg(code)});
         EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
     }
 }
@@ -106,13 +107,13 @@ TEST_F(Alerts, KeyEquivalentPressesItsButton)
 {
     // A code of 0: nothing happens.
     const Table<quint64, QString, Qt::Key, Qt::KeyboardModifiers, qint64> rows = {
-        {"past the last button", 2, u"\033"_qs, Qt::Key_Escape, {}, 0},
-        {"Escape on the second", 1, u"\033"_qs, Qt::Key_Escape, {}, 1001},
-        {"letter", 1, u"p"_qs, Qt::Key_P, {}, 1001},
-        {"upper case needs Shift", 1, u"P"_qs, Qt::Key_P, {}, 0},
-        {"upper case with Shift", 1, u"P"_qs, Qt::Key_P, Qt::ShiftModifier, 1001},
-        {"space beats the focus", 1, u" "_qs, Qt::Key_Space, {}, 1001},
-        {"no key takes Return away", 0, u""_qs, Qt::Key_Return, {}, 0},
+        {"past the last button", 2, u"\033"_s, Qt::Key_Escape, {}, 0},
+        {"Escape on the second", 1, u"\033"_s, Qt::Key_Escape, {}, 1001},
+        {"letter", 1, u"p"_s, Qt::Key_P, {}, 1001},
+        {"upper case needs Shift", 1, u"P"_s, Qt::Key_P, {}, 0},
+        {"upper case with Shift", 1, u"P"_s, Qt::Key_P, Qt::ShiftModifier, 1001},
+        {"space beats the focus", 1, u" "_s, Qt::Key_Space, {}, 1001},
+        {"no key takes Return away", 0, u""_s, Qt::Key_Return, {}, 0},
     };
     for (const auto &[name, index, key, pressed, modifiers, code] : rows) {
         SCOPED_TRACE(name);
@@ -134,34 +135,34 @@ TEST_F(Alerts, UpdateKeepsWhatIsNotGivenAndNeverTouchesButtons)
 {
     define(2);
     whenAlertRuns([](Alert *alert) {
-        EXPECT_EQ(alert->text(), u"Correct"_qs);
-        EXPECT_EQ(alert->informativeText(), u"a < b & <b>c</b>"_qs);
+        EXPECT_EQ(alert->text(), u"Correct"_s);
+        EXPECT_EQ(alert->informativeText(), u"a < b & <b>c</b>"_s);
         EXPECT_EQ(alert->style(), alertStyleCritical);
-        EXPECT_EQ(titlesOf(alert), (QStringList{u"Quit"_qs, u"Play Again"_qs}));
+        EXPECT_EQ(titlesOf(alert), (QStringList{u"Quit"_s, u"Play Again"_s}));
         for (const QLabel *label : alert->findChildren<QLabel *>()) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText);
         }
         clicks(0)(alert);
     });
-    EXPECT_EQ(CUI_Alert(2, alertStyleCritical, {}, u"a < b & <b>c</b>"_qs, u"X"_qs, 0), 1000);
+    EXPECT_EQ(CUI_Alert(2, alertStyleCritical, {}, u"a < b & <b>c</b>"_s, u"X"_s, 0), 1000);
 }
 
 TEST_F(Alerts, ErrorObjectGivesTheTextsAndTheButton)
 {
     whenAlertRuns([](Alert *alert) {
-        EXPECT_TRUE(alert->text().contains(u"The disk is full."_qs));
+        EXPECT_TRUE(alert->text().contains(u"The disk is full."_s));
         EXPECT_EQ(alert->style(), alertStyleWarning);
-        EXPECT_EQ(titlesOf(alert), QStringList{u"OK"_qs});
+        EXPECT_EQ(titlesOf(alert), QStringList{u"OK"_s});
         clicks(0)(alert);
     });
-    const auto error = QVariant::fromValue(ErrorObject{u"disk"_qs, 28, u"The disk is full."_qs});
-    EXPECT_EQ(CUI_Alert(3, alertStyleCritical, error, u"unused"_qs, u"A;B"_qs, notGiven), 1000);
+    const auto error = QVariant::fromValue(ErrorObject{u"disk"_s, 28, u"The disk is full."_s});
+    EXPECT_EQ(CUI_Alert(3, alertStyleCritical, error, u"unused"_s, u"A;B"_s, notGiven), 1000);
 }
 
 TEST_F(Alerts, TextsAreShownInFullLongOnesOnTheScreenShortOnesUnbroken)
 {
-    const QString shortText = u"At line 128 of Game.zr\nIndex 98 is outside the range 0 to 97"_qs;
-    for (const QString &text : {QString(5000, u'x'), u"one line\n"_qs.repeated(2000), shortText}) {
+    const QString shortText = u"At line 128 of Game.zr\nIndex 98 is outside the range 0 to 97"_s;
+    for (const QString &text : {QString(5000, u'x'), u"one line\n"_s.repeated(2000), shortText}) {
         whenAlertRuns([&](Alert *alert) {
             const QSize screen = alert->screen()->availableSize();
             EXPECT_EQ(alert->size().boundedTo(screen), alert->size());
@@ -174,7 +175,7 @@ TEST_F(Alerts, TextsAreShownInFullLongOnesOnTheScreenShortOnesUnbroken)
             }
             pressKey(alert, Qt::Key_Return);
         });
-        EXPECT_EQ(CUI_Alert(2, notGiven, u"!"_qs, text, u"A;B"_qs, notGiven), 1000);
+        EXPECT_EQ(CUI_Alert(2, notGiven, u"!"_s, text, u"A;B"_s, notGiven), 1000);
     }
 }
 
@@ -191,11 +192,11 @@ TEST_F(Alerts, DismissedUnshownOrWhileRunningReportsZero)
 {
     define(2);
     dismiss(2);
-    EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 0 2"_qs});
+    EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 0 2"_s});
 
     define(2);
     EXPECT_EQ(show(2, [](Alert *) { dismiss(2); }), 0);
-    EXPECT_EQ(dialogCalls, (QStringList{u"1000 0 2"_qs, u"1000 0 2"_qs})) << "the dismissal and the run's end";
+    EXPECT_EQ(dialogCalls, (QStringList{u"1000 0 2"_s, u"1000 0 2"_s})) << "the dismissal and the run's end";
 }
 
 TEST_F(Alerts, SuppressionStateIsKeptByTheDelegate)
@@ -203,7 +204,7 @@ TEST_F(Alerts, SuppressionStateIsKeptByTheDelegate)
     for (const bool checked : {true, false}) {
         define(2)->setShowsSuppressionButton(true);
         const auto check = [checked](Alert *alert) {
-            EXPECT_EQ(alert->checkBox()->text(), u"Do not show this message again"_qs);
+            EXPECT_EQ(alert->checkBox()->text(), u"Do not show this message again"_s);
             alert->checkBox()->setChecked(checked);
             clicks(0)(alert);
         };
@@ -218,7 +219,7 @@ TEST_F(Alerts, HelpAsksTheDelegateAndLeavesTheAlertOpen)
     CUI_DialogEventObj()->boolVal = true;
     const auto askForHelp = [](Alert *alert) {
         alert->button(QMessageBox::Help)->click();
-        EXPECT_EQ(dialogCalls, QStringList{u"1001 2 2"_qs});
+        EXPECT_EQ(dialogCalls, QStringList{u"1001 2 2"_s});
         EXPECT_FALSE(CUI_DialogEventObj()->boolVal) << "the answer is preset to no";
     };
     EXPECT_EQ(show(2, notBy(askForHelp)), 1001);
@@ -226,7 +227,7 @@ TEST_F(Alerts, HelpAsksTheDelegateAndLeavesTheAlertOpen)
 
 qint64 askByASheet()
 {
-    return CUI_Alert(4, notGiven, u"Save?"_qs, {}, u"Save;Don't"_qs, 1);
+    return CUI_Alert(4, notGiven, u"Save?"_s, {}, u"Save;Don't"_s, 1);
 }
 
 TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
@@ -239,8 +240,8 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, behind->rect().center()));
     };
     const Table<Answer, QString> rows = {
-        {"answered", clicks(1), u"1000 1001 4"_qs},
-        {"dismissed", [](Alert *) { dismiss(4); }, u"1000 0 4"_qs},
+        {"answered", clicks(1), u"1000 1001 4"_s},
+        {"dismissed", [](Alert *) { dismiss(4); }, u"1000 0 4"_s},
     };
     for (const auto &[name, answer, reported] : rows) {
         SCOPED_TRACE(name);
@@ -252,8 +253,8 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         pressBehind();
         EXPECT_EQ(pressed.count(), 0) << "its window takes no input";
         answer(alert);
-        const QStringList told = dialogCalls.filter(QRegularExpression(u"^(1000|1000[012]) "_qs));
-        EXPECT_EQ(told, (QStringList{u"10001 1 1"_qs, u"10000 1 1"_qs, u"10002 1 1"_qs, reported}));
+        const QStringList told = dialogCalls.filter(QRegularExpression(u"^(1000|1000[012]) "_s));
+        EXPECT_EQ(told, (QStringList{u"10001 1 1"_s, u"10000 1 1"_s, u"10002 1 1"_s, reported}));
         EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
     }
     pressBehind();
@@ -278,12 +279,12 @@ TEST_F(Alerts, QuitShortcutOverASheetEndsTheProgram)
 TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
 {
     QStringList seen;
-    CUI_ShowAlert(alertStyleCritical, u"first"_qs, u"one"_qs);
-    std::thread([] { CUI_ShowAlert(alertStyleWarning, u"second"_qs, u"two"_qs); }).join();
+    CUI_ShowAlert(alertStyleCritical, u"first"_s, u"one"_s);
+    std::thread([] { CUI_ShowAlert(alertStyleWarning, u"second"_s, u"two"_s); }).join();
     const auto answer = [&seen](Alert *alert) {
         QCoreApplication::processEvents(); // serves the queue inside the first warning
         EXPECT_EQ(modalWindow(), alert);
-        EXPECT_EQ(titlesOf(alert), (QStringList{u"OK"_qs, u"Quit"_qs}));
+        EXPECT_EQ(titlesOf(alert), (QStringList{u"OK"_s, u"Quit"_s}));
         seen << QString(alert->text() % u' ' % alert->informativeText() % QString::number(alert->style()));
         clicks(0)(alert);
     };
@@ -292,7 +293,7 @@ TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
         whenAlertRuns(answer);
     });
     EXPECT_TRUE(QTest::qWaitFor([&seen] { return seen.size() == 2 && noAlertLeft(); }));
-    EXPECT_EQ(seen, (QStringList{u"first one2"_qs, u"second two0"_qs}));
+    EXPECT_EQ(seen, (QStringList{u"first one2"_s, u"second two0"_s}));
     EXPECT_TRUE(dialogCalls.isEmpty());
 }
 

@@ -18,6 +18,7 @@
 #include <functional>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -92,9 +93,9 @@ TEST_F(AppDelegate, RealEventsArrive)
     answer = [&isUpdated](qint64 event) { isUpdated = isUpdated || event == appEventDidUpdate; };
     QTimer::singleShot(0, &window, [&window] {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        QFileOpenEvent open(u"/x/y.z"_qs);
+        QFileOpenEvent open(u"/x/y.z"_s);
         QCoreApplication::sendEvent(qApp, &open);
-        EXPECT_EQ(lastObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_qs)});
+        EXPECT_EQ(lastObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_s)});
         EXPECT_EQ(CUI_AppDelegateObj()->stringVal(), u"y.z");
         stopModalWithCode(1);
     });
@@ -132,7 +133,7 @@ void terminateFromNestedRun()
 
 void terminateWithAnOwnedClipboard()
 {
-    QGuiApplication::clipboard()->setText(u"kept"_qs);
+    QGuiApplication::clipboard()->setText(u"kept"_s);
     AppTerminate();
 }
 

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,11 +30,11 @@ QColor colorOf(const QPixmap &picture)
 QColor iconAtStart(const QIcon &own)
 {
     const QTemporaryDir folder;
-    const QString icons = folder.path() + u"/hicolor/48x48/apps/"_qs;
-    EXPECT_TRUE(QDir().mkpath(icons) && filled(Qt::red).save(icons + u"org.example.Sketch.png"_qs));
+    const QString icons = folder.path() + u"/hicolor/48x48/apps/"_s;
+    EXPECT_TRUE(QDir().mkpath(icons) && filled(Qt::red).save(icons + u"org.example.Sketch.png"_s));
     QIcon::setThemeSearchPaths({folder.path()});
-    QCoreApplication::setApplicationName(u"Sketch"_qs);
-    QGuiApplication::setDesktopFileName(u"org.example.Sketch"_qs);
+    QCoreApplication::setApplicationName(u"Sketch"_s);
+    QGuiApplication::setDesktopFileName(u"org.example.Sketch"_s);
     QApplication::setWindowIcon(own);
     CocoaInit();
     return colorOf(QApplication::windowIcon().pixmap(48));

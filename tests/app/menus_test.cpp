@@ -10,6 +10,7 @@
 #include <QMenuBar>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +19,7 @@ QString items(const QWidget *menu)
 {
     QStringList list;
     for (const QAction *action : menu->actions()) {
-        list << (action->isSeparator() ? u"-"_qs : QString(action->text() % u' ' % action->shortcut().toString()));
+        list << (action->isSeparator() ? u"-"_s : QString(action->text() % u' ' % action->shortcut().toString()));
     }
     return list.join(u'|');
 }
@@ -26,14 +27,11 @@ QString items(const QWidget *menu)
 TEST(Menus, BarOfEveryIndexInWindowsOfBeforeAndAfter)
 {
     CocoaInit();
-    QCoreApplication::setApplicationName(u"R&D"_qs);
+    QCoreApplication::setApplicationName(u"R&D"_s);
     QMainWindow early;
     showMainMenuIn(early.menuBar());
-    const std::pair<qint64, QString> rows[] = {{-1, u"R&&D "_qs},
-                                               {0, u"R&&D "_qs},
-                                               {1, u"R&&D |Edit "_qs},
-                                               {2, u"R&&D | |Edit "_qs},
-                                               {4, u"R&&D | | | |Edit "_qs}};
+    const std::pair<qint64, QString> rows[] = {
+        {-1, u"R&&D "_s}, {0, u"R&&D "_s}, {1, u"R&&D |Edit "_s}, {2, u"R&&D | |Edit "_s}, {4, u"R&&D | | | |Edit "_s}};
     for (const auto &[index, bar] : rows) {
         SCOPED_TRACE(index);
         resetMainMenu();
@@ -49,7 +47,7 @@ TEST(Menus, BarOfEveryIndexInWindowsOfBeforeAndAfter)
                                                "Delete |Select All Ctrl+A");
     QMenu *const untitled = mainMenu()->menus.at(1);
     EXPECT_FALSE(untitled->menuAction()->isVisible()) << "it would draw a gap";
-    untitled->setTitle(u"View"_qs);
+    untitled->setTitle(u"View"_s);
     EXPECT_TRUE(untitled->menuAction()->isVisible());
 }
 
@@ -112,8 +110,8 @@ TEST_F(EditMenu, OpensWithWhatTheFirstResponderCanDoAndActsOnIt)
     field->setFocus();
     QGuiApplication::clipboard()->clear();
     EXPECT_EQ(enabledWhileOpen(), QString()) << "an empty field and nothing to paste";
-    QTest::keyClicks(field, u"12"_qs);
-    QGuiApplication::clipboard()->setText(u"x"_qs);
+    QTest::keyClicks(field, u"12"_s);
+    QGuiApplication::clipboard()->setText(u"x"_s);
     EXPECT_EQ(enabledWhileOpen(), u"Undo,Paste,Select All");
     field->selectAll();
     EXPECT_EQ(enabledWhileOpen(), u"Undo,Cut,Copy,Paste,Delete,Select All");

@@ -16,6 +16,7 @@
 #include <algorithm>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -123,7 +124,7 @@ TEST_F(Modal, FocusTakenOutsideComesBackWithItsKeys)
     runWhile([this] {
         outsideField->setFocus();
         EXPECT_TRUE(field->hasFocus());
-        QTest::keyClicks(outsideField, u"12"_qs);
+        QTest::keyClicks(outsideField, u"12"_s);
         QTest::keyClick(other.windowHandle(), Qt::Key_3);
     });
     EXPECT_EQ(field->text(), u"123");
@@ -186,7 +187,7 @@ TEST_F(Modal, OuterWidgetGoneWhileInnerRuns)
 TEST_F(Modal, StopsFromInsideAnOpenMenu)
 {
     QMenu menu;
-    menu.addAction(u"Item"_qs);
+    menu.addAction(u"Item"_s);
     const auto openAndStop = [&] {
         QTimer::singleShot(0, &menu, [] { stopModalWithCode(4); });
         menu.exec(carrier.mapToGlobal(QPoint(10, 10)));
@@ -238,7 +239,7 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
     runWhile([&] {
         for (const auto &[name, enter, leave] : rows) {
             SCOPED_TRACE(name);
-            field->setText(u"1"_qs);
+            field->setText(u"1"_s);
             std::ranges::for_each(enter, press);
             EXPECT_TRUE(bar.hasFocus() || QApplication::activePopupWidget() != nullptr);
             std::ranges::for_each(leave, press);
@@ -260,7 +261,7 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
 TEST_F(Modal, AWindowThatGetsTheKeyboardBehindAMenuHasItAfterwards)
 {
     QMenu menu;
-    menu.addAction(u"Item"_qs);
+    menu.addAction(u"Item"_s);
     QWidget window;
     QPushButton inside(&window);
     QTimer::singleShot(0, &menu, [&] {

@@ -5,6 +5,7 @@
 #include "tests/app/alert_helper.h"
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -66,7 +67,7 @@ TEST_F(OutputWindow, WindowsCannotTakeAPopoversTag)
     });
     open(-9);
     EXPECT_TRUE(QTest::qWaitFor([&warning] { return !warning.isNull(); }));
-    EXPECT_EQ(warning, u"Window tag error. Windows and Popovers cannot have same tag value."_qs);
+    EXPECT_EQ(warning, u"Window tag error. Windows and Popovers cannot have same tag value."_s);
     EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
     EXPECT_EQ(CUI_OutputWindowTag(), 0);
 }

@@ -11,6 +11,7 @@
 #include <memory>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,7 +30,7 @@ public:
 void stopAndPress(const QString &title, qint32 fatal)
 {
     whenAlertRuns([title](Alert *alert) { alert->alertButtons().at(titlesOf(alert).indexOf(title))->click(); });
-    ZRFullStop(u"Message"_qs, u"Informative"_qs, fatal);
+    ZRFullStop(u"Message"_s, u"Informative"_s, fatal);
 }
 
 void refuse(qint64 /*event*/, qintptr /*userData*/)
@@ -42,7 +43,7 @@ bool diedOfAbort(int status)
     return testing::KilledBySignal(SIGABRT)(status);
 }
 
-const QString file = u"Tetrad Game.zr"_qs;
+const QString file = u"Tetrad Game.zr"_s;
 
 // Reports an index out of bounds in a program of its own, which the alert's Quit ends with status 0 if the
 // alert is as it must be.
@@ -56,8 +57,8 @@ void reportBoundsError(quint32 index, const QString &inFile, bool isTranslated)
     whenAlertRuns([isTranslated](Alert *alert) {
         const QString shown = alert->text() % u' ' % titlesOf(alert).join(u' ');
         const bool asStated =
-            shown == (isTranslated ? u"[Array bounds error] [Quit] [Crash]"_qs : u"Array bounds error Quit Crash"_qs) &&
-            alert->style() == alertStyleCritical && alert->informativeText().contains(u" of "_qs);
+            shown == (isTranslated ? u"[Array bounds error] [Quit] [Crash]"_s : u"Array bounds error Quit Crash"_s) &&
+            alert->style() == alertStyleCritical && alert->informativeText().contains(u" of "_s);
         clicks(asStated ? 0 : 1)(alert);
     });
     ChkBounds(index, 97, 128, inFile);
@@ -68,8 +69,8 @@ TEST(BoundsError, IsWrittenInThreeLinesBeforeTheAlertThatOffersNoContinue)
     const Table<quint32, QString, const char *, const char *> rows = {
         {"one past the bound", 98, file, "Tetrad Game.zr", "98"},
         {"negative", quint32(-3), file, "Tetrad Game.zr", "-3"},
-        {"bytes of Mac Roman", 98, u"\u00e9\u2022.zr"_qs, "\x8e\xa5.zr", "98"},
-        {"characters the encoding lacks", 98, u"\u4e00\U0001f534%s.zr"_qs, "\\?\\?%s.zr", "98"},
+        {"bytes of Mac Roman", 98, u"\u00e9\u2022.zr"_s, "\x8e\xa5.zr", "98"},
+        {"characters the encoding lacks", 98, u"\u4e00\U0001f534%s.zr"_s, "\\?\\?%s.zr", "98"},
     };
     for (const auto &[name, index, inFile, fileWritten, indexWritten] : rows) {
         SCOPED_TRACE(name);
@@ -86,13 +87,13 @@ TEST(Stop, EndsTheProcess)
 {
     // Code and answer, whether the delegate refuses, and whether it is an abort.
     const Table<qint32, QString, bool, bool> rows = {
-        {"fatal, Quit", 1, u"Quit"_qs, false, false},
-        {"fatal, Crash", 1, u"Crash"_qs, false, true},
-        {"fatal by -1", -1, u"Crash"_qs, false, true},
-        {"fatal, Quit but the delegate refuses", 1, u"Quit"_qs, true, true},
-        {"not fatal, Stop", 0, u"Stop"_qs, false, false},
-        {"not fatal, Crash", 0, u"Crash"_qs, false, true},
-        {"only the low byte counts", 0x100, u"Stop"_qs, false, false},
+        {"fatal, Quit", 1, u"Quit"_s, false, false},
+        {"fatal, Crash", 1, u"Crash"_s, false, true},
+        {"fatal by -1", -1, u"Crash"_s, false, true},
+        {"fatal, Quit but the delegate refuses", 1, u"Quit"_s, true, true},
+        {"not fatal, Stop", 0, u"Stop"_s, false, false},
+        {"not fatal, Crash", 0, u"Crash"_s, false, true},
+        {"only the low byte counts", 0x100, u"Stop"_s, false, false},
     };
     for (const auto &[name, fatal, answer, refuses, aborts] : rows) {
         SCOPED_TRACE(name);
@@ -112,8 +113,8 @@ TEST(Stop, ReturnsAfterContinueAndARefusedTermination)
 {
     CocoaInit();
     CUI_AppDelegateObj()->setDelegateCallback(refuse);
-    stopAndPress(u"Continue"_qs, 0);
-    stopAndPress(u"Stop"_qs, 0x100);
+    stopAndPress(u"Continue"_s, 0);
+    stopAndPress(u"Stop"_s, 0x100);
     EXPECT_TRUE(noAlertLeft());
 }
 
@@ -122,7 +123,7 @@ TEST(Stop, WritesTheTextsAndAbortsWithoutAnApplication)
     const auto stop = [] {
         // The program's own object, taken down early; the process does not live to take it down twice.
         std::destroy_at(QCoreApplication::instance());
-        ZRFullStop(u"Message"_qs, u"Informative"_qs, 0);
+        ZRFullStop(u"Message"_s, u"Informative"_s, 0);
     };
     EXPECT_EXIT(stop(), diedOfAbort, "Message\nInformative\n");
 }

@@ -11,6 +11,7 @@
 #include <QWindow>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,7 +43,7 @@ protected:
     {
         QApplication::processEvents();
         QStringList calls = std::exchange(dialogCalls, {});
-        calls.removeIf([](const QString &call) { return call.startsWith(u"10037 "_qs); });
+        calls.removeIf([](const QString &call) { return call.startsWith(u"10037 "_s); });
         return calls;
     }
     static QString takeCodes() { return codesOf(takeCalls()); }
@@ -64,22 +65,22 @@ TEST_F(WindowDelegate, RealEventsAreToldInOrder)
     valuesOf = [](qint64) {
         const bool isOutput = CUI_OutputWindowTag() == 7;
         CUI_OutputWindowSetTag(0);
-        return isOutput ? u"*"_qs : QString();
+        return isOutput ? u"*"_s : QString();
     };
     const QRectF place = m_window->contentRect();
     const Table<Happening, QString> rows = {
-        {"program moves", [&] { m_window->setContentRect(place.translated(10, 10)); }, u"10027*"_qs},
-        {"program resizes", [&] { m_window->setContentRect(place.adjusted(10, 10, 30, 40)); }, u"10004"_qs},
+        {"program moves", [&] { m_window->setContentRect(place.translated(10, 10)); }, u"10027*"_s},
+        {"program resizes", [&] { m_window->setContentRect(place.adjusted(10, 10, 30, 40)); }, u"10004"_s},
         {"nothing changes", [&] { m_window->setContentRect(m_window->contentRect()); }, {}},
-        {"user moves", [this] { userMoves(5); }, u"10026* 10027*"_qs},
-        {"user resizes", [this] { userResizes(5); }, u"10005 10003* 10004"_qs},
-        {"and goes on", [this] { userResizes(5); }, u"10003* 10004"_qs},
-        {"minimise", [this] { m_window->showMinimized(); }, u"10007 10008..."_qs},
-        {"bring back", [this] { m_window->showNormal(); }, u"10009*..."_qs},
-        {"full screen", [this] { m_window->showFullScreen(); }, u"10014 10015*..."_qs},
-        {"and back", [this] { m_window->showNormal(); }, u"10016 10017*..."_qs},
-        {"zoom", [this] { m_window->showMaximized(); }, u"10010 10011..."_qs},
-        {"program closes, asked", [this] { m_window->close(); }, u"10031 10032 10034 10036"_qs},
+        {"user moves", [this] { userMoves(5); }, u"10026* 10027*"_s},
+        {"user resizes", [this] { userResizes(5); }, u"10005 10003* 10004"_s},
+        {"and goes on", [this] { userResizes(5); }, u"10003* 10004"_s},
+        {"minimise", [this] { m_window->showMinimized(); }, u"10007 10008..."_s},
+        {"bring back", [this] { m_window->showNormal(); }, u"10009*..."_s},
+        {"full screen", [this] { m_window->showFullScreen(); }, u"10014 10015*..."_s},
+        {"and back", [this] { m_window->showNormal(); }, u"10016 10017*..."_s},
+        {"zoom", [this] { m_window->showMaximized(); }, u"10010 10011..."_s},
+        {"program closes, asked", [this] { m_window->close(); }, u"10031 10032 10034 10036"_s},
     };
     for (const auto &[name, happening, expected] : rows) {
         SCOPED_TRACE(name);
@@ -88,7 +89,7 @@ TEST_F(WindowDelegate, RealEventsAreToldInOrder)
         for (const QString &call : takeCalls()) {
             codes << call.section(u' ', 0, 0) + call.section(u' ', 3);
         }
-        const qsizetype compared = expected.endsWith(u"..."_qs) ? expected.size() - 3 : -1;
+        const qsizetype compared = expected.endsWith(u"..."_s) ? expected.size() - 3 : -1;
         EXPECT_EQ(codes.join(u' ').left(compared), expected.left(compared));
     }
 }
@@ -108,18 +109,18 @@ TEST_F(WindowDelegate, RelayPrefersTheNearestCallback)
     static int userData = 0;
     CUI_WindowDelegate *const delegate = CUI_WindowDelegateObj();
     m_window->setCuiWindowCallback([](Tag tag, qint64 event, void *data) {
-        dialogCalls << u"own %1 %2 %3"_qs.arg(tag).arg(event).arg(data == &userData);
+        dialogCalls << u"own %1 %2 %3"_s.arg(tag).arg(event).arg(data == &userData);
     });
     m_window->setCuiWindowUserData(&userData);
     delegate->allWindowsCallback = [](Tag tag, qint64 event, void *data) {
-        dialogCalls << u"all %1 %2 %3"_qs.arg(tag).arg(event).arg(data == nullptr);
+        dialogCalls << u"all %1 %2 %3"_s.arg(tag).arg(event).arg(data == nullptr);
     };
     delegate->forwardEvent(m_window, 10004, 20, 30);
     m_window->setCuiWindowCallback(nullptr);
     delegate->forwardEvent(m_window, 10004, 20, 30);
     delegate->allWindowsCallback = nullptr;
     delegate->forwardEvent(m_window, 10004, 20, 30);
-    EXPECT_EQ(dialogCalls, (QStringList{u"own 7 10004 1"_qs, u"all 7 10004 1"_qs, u"10004 20 7"_qs}));
+    EXPECT_EQ(dialogCalls, (QStringList{u"own 7 10004 1"_s, u"all 7 10004 1"_s, u"10004 20 7"_s}));
     EXPECT_EQ(lastObject, 30);
 }
 
@@ -133,7 +134,7 @@ TEST_F(WindowDelegate, AnswersReachTheWindow)
         CUI_DialogEventObj()->boolVal = false;
     };
     userResizes(100);
-    EXPECT_EQ(takeCodes(), u"10005 10003 10004"_qs);
+    EXPECT_EQ(takeCodes(), u"10005 10003 10004"_s);
     EXPECT_EQ(m_window->contentRect().size(), QSizeF(320, 240));
 
     EXPECT_FALSE(m_window->close());
@@ -159,18 +160,18 @@ TEST_F(WindowDelegate, LiveResizeEndsWhenItStopsAndUpdatesAreTold)
 {
     for (int resizes = 0; resizes < 2; ++resizes) {
         userResizes(5);
-        EXPECT_TRUE(QTest::qWaitFor([] { return dialogCalls.contains(u"10006 7 7"_qs); }));
-        EXPECT_EQ(takeCodes(), u"10005 10003 10004 10006"_qs) << "the next one is a new one";
+        EXPECT_TRUE(QTest::qWaitFor([] { return dialogCalls.contains(u"10006 7 7"_s); }));
+        EXPECT_EQ(takeCodes(), u"10005 10003 10004 10006"_s) << "the next one is a new one";
     }
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
     m_window->update();
-    EXPECT_TRUE(QTest::qWaitFor([] { return dialogCalls.contains(u"10037 7 7"_qs); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return dialogCalls.contains(u"10037 7 7"_s); }));
 }
 
 TEST_F(WindowDelegate, ActivationPassesFromWindowToWindow)
 {
     ASSERT_TRUE(QTest::qWaitForWindowActive(open(8)));
-    EXPECT_EQ(takeCalls(), (QStringList{u"10033 8 8"_qs, u"10035 8 8"_qs, u"10034 7 7"_qs, u"10036 7 7"_qs}));
+    EXPECT_EQ(takeCalls(), (QStringList{u"10033 8 8"_s, u"10035 8 8"_s, u"10034 7 7"_s, u"10036 7 7"_s}));
     EXPECT_EQ(CUI_OutputWindowTag(), 8);
 }
 
@@ -240,7 +241,7 @@ TEST_F(WindowDelegate, ContentViewReportsWithItsFlagOnly)
         EXPECT_TRUE(event != viewEventDraw || CUI_DialogEventObj()->rectVal == QRectF(1, 2, 30, 40));
     };
     drawAndPress();
-    EXPECT_EQ(takeCalls(), (QStringList{u"2000 %1 7"_qs.arg(contentViewTag), u"2002 %1 7"_qs.arg(contentViewTag)}));
+    EXPECT_EQ(takeCalls(), (QStringList{u"2000 %1 7"_s.arg(contentViewTag), u"2002 %1 7"_s.arg(contentViewTag)}));
     EXPECT_EQ(CUI_EventEvent(), nullptr);
     atEvent = [this](qint64) { delete m_window.data(); };
     QTest::keyPress(view, Qt::Key_A);

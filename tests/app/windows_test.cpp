@@ -13,6 +13,7 @@
 #include <QWindow>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -54,17 +55,17 @@ TEST_F(Windows, StatementMakesAndShows)
 
 TEST_F(Windows, StatementChangesWhatIsGiven)
 {
-    CUI_Window(-1, QStringLiteral("First"), windowStyleTitled, QRectF(50, 70, 300, 200));
+    CUI_Window(-1, u"First"_s, windowStyleTitled, QRectF(50, 70, 300, 200));
     Window *const window = CUI_WindowWithTag(1);
     const QRectF first(50, 70, 300, 200);
     const QRectF second(80, 90, 400, 100);
     const Table<Tag, QString, qint64, QRectF, QString, qint64, QRectF, bool> rows = {
-        {"shows the hidden one", 1, {}, notGiven, {}, u"First"_qs, windowStyleTitled, first, true},
-        {"title only", 1, u"Second"_qs, notGiven, {}, u"Second"_qs, windowStyleTitled, first, true},
-        {"empty title", 1, u""_qs, notGiven, {}, u""_qs, windowStyleTitled, first, true},
-        {"place only, fixed size", 1, {}, notGiven, second, u""_qs, windowStyleTitled, second, true},
-        {"style only", 1, {}, windowStyleDefault, {}, u""_qs, windowStyleDefault, second, true},
-        {"tag of the other sign hides", -1, {}, notGiven, {}, u""_qs, windowStyleDefault, second, false},
+        {"shows the hidden one", 1, {}, notGiven, {}, u"First"_s, windowStyleTitled, first, true},
+        {"title only", 1, u"Second"_s, notGiven, {}, u"Second"_s, windowStyleTitled, first, true},
+        {"empty title", 1, u""_s, notGiven, {}, u""_s, windowStyleTitled, first, true},
+        {"place only, fixed size", 1, {}, notGiven, second, u""_s, windowStyleTitled, second, true},
+        {"style only", 1, {}, windowStyleDefault, {}, u""_s, windowStyleDefault, second, true},
+        {"tag of the other sign hides", -1, {}, notGiven, {}, u""_s, windowStyleDefault, second, false},
     };
     for (const auto &[name, tag, title, style, rect, titleAfter, styleAfter, rectAfter, shown] : rows) {
         SCOPED_TRACE(name);

@@ -4,6 +4,7 @@
 #include <QTextLayout>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -11,15 +12,15 @@ TEST_F(Console, placesOnePieceAfterTheOther)
 {
     // The items as Console::items gives them, then where printing ended: columns from the inset, and lines.
     const Table<QString, const char *, double, double> rows = {
-        {"line", u"abc"_qs, "abc@3,0 @3,1", 0, 1},
-        {"nothing is an empty line", u""_qs, "@3,0 @3,1", 0, 1},
-        {"backspace stays on the line", u"abc\b"_qs, "abc\b@3,0", 3, 0},
-        {"newline inside", u"a\nb"_qs, "a@3,0 b@3,1 @3,2", 0, 2},
-        {"own newline and one more", u"a\n"_qs, "a@3,0 @3,1 @3,2", 0, 2},
-        {"every newline", u"1\n2\v3\f4\r5\u00856\u20287\u20298"_qs,
+        {"line", u"abc"_s, "abc@3,0 @3,1", 0, 1},
+        {"nothing is an empty line", u""_s, "@3,0 @3,1", 0, 1},
+        {"backspace stays on the line", u"abc\b"_s, "abc\b@3,0", 3, 0},
+        {"newline inside", u"a\nb"_s, "a@3,0 b@3,1 @3,2", 0, 2},
+        {"own newline and one more", u"a\n"_s, "a@3,0 @3,1 @3,2", 0, 2},
+        {"every newline", u"1\n2\v3\f4\r5\u00856\u20287\u20298"_s,
          "1@3,0 2@3,1 3@3,2 4@3,3 5@3,4 6@3,5 7@3,6 8@3,7 @3,8", 0, 8},
-        {"other controls have no width", u"\x01\x02z\u007f\u0090\b"_qs, "\x01\x02z\x7f\xc2\x90\b@3,0", 1, 0},
-        {"blanks at the end count", u"a  \b"_qs, "a  \b@3,0", 3, 0},
+        {"other controls have no width", u"\x01\x02z\u007f\u0090\b"_s, "\x01\x02z\x7f\xc2\x90\b@3,0", 1, 0},
+        {"blanks at the end count", u"a  \b"_s, "a  \b@3,0", 3, 0},
     };
     for (const auto &[name, printed, expected, endColumn, endLine] : rows) {
         SCOPED_TRACE(name);
@@ -37,10 +38,10 @@ TEST_F(Console, placesOnePieceAfterTheOther)
 TEST_F(Console, tabsAndCellsHaveTheirColumns)
 {
     view.setTabInterval(50);
-    EXPECT_DOUBLE_EQ(view.addString(u"abc\t"_qs).x(), 3 + 50);
-    EXPECT_DOUBLE_EQ(view.addString(u"12345678\t"_qs).x(), 3 + 50 + 100);
+    EXPECT_DOUBLE_EQ(view.addString(u"abc\t"_s).x(), 3 + 50);
+    EXPECT_DOUBLE_EQ(view.addString(u"12345678\t"_s).x(), 3 + 50 + 100);
     view.setTabInterval(0);
-    EXPECT_DOUBLE_EQ(view.addString(u"\t"_qs).x(), 3 + 50 + 100);
+    EXPECT_DOUBLE_EQ(view.addString(u"\t"_s).x(), 3 + 50 + 100);
     view.setColumnRow(4, 30);
     EXPECT_EQ(view.currentPoint(), QPointF(4 * advance, 30 * lineHeight)) << "without the inset";
     EXPECT_DOUBLE_EQ(view.viewH(), 30 * lineHeight + 20);
@@ -51,7 +52,7 @@ TEST_F(Console, alignmentUsesTheWidthOfTheViewButTheCurrentPointMovesOn)
     const auto placed = [this](qint64 alignment) {
         view.setCurrentPoint({7, 0});
         view.setAlignment(alignment);
-        view.addString(u"abcd\b"_qs);
+        view.addString(u"abcd\b"_s);
         EXPECT_DOUBLE_EQ(view.currentPoint().x(), 7 + 4 * advance);
         return view.items().item(view.items().size() - 1).pt().x();
     };
@@ -82,31 +83,31 @@ TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
     view.setFontSize(18);
     view.setAlignment(2);
     view.setTextInset(5);
-    view.addString(u"abc"_qs, {50, 500});
+    view.addString(u"abc"_s, {50, 500});
     view.clear();
     EXPECT_TRUE(view.textString().isNull());
     EXPECT_EQ(view.viewH(), 0);
     EXPECT_EQ(view.height(), 1);
     EXPECT_EQ(view.currentPoint(), QPointF(5, 0));
-    view.addString(u"x\b"_qs);
+    view.addString(u"x\b"_s);
     EXPECT_EQ(view.currentAlignment(), 2);
     view.resetAttributes();
     EXPECT_EQ(view.currentAlignment(), 0);
-    view.addString(u"y\b"_qs, {1, 2});
+    view.addString(u"y\b"_s, {1, 2});
     const QString dump = view.dump();
-    EXPECT_TRUE(dump.contains(u"\"x\\x08\" size 18 color #00ff00\n"_qs)) << dump.toStdString();
-    EXPECT_TRUE(dump.endsWith(u"text (1,2) \"y\\x08\" size 12 color standard\n"_qs)) << dump.toStdString();
+    EXPECT_TRUE(dump.contains(u"\"x\\x08\" size 18 color #00ff00\n"_s)) << dump.toStdString();
+    EXPECT_TRUE(dump.endsWith(u"text (1,2) \"y\\x08\" size 12 color standard\n"_s)) << dump.toStdString();
 }
 
 TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
 {
-    view.addString(u"a\b"_qs);
-    view.setAttributes({{u"backgroundColor"_qs, QColor(Qt::blue)}, {u"mood"_qs, 7}});
-    view.setFontName(u"No Such Family"_qs);
+    view.addString(u"a\b"_s);
+    view.setAttributes({{u"backgroundColor"_s, QColor(Qt::blue)}, {u"mood"_s, 7}});
+    view.setFontName(u"No Such Family"_s);
     view.setFontSize(-1);
     const QVariantMap now = view.currentAttributes();
-    const auto font = now.value(u"font"_qs).value<QFont>();
-    EXPECT_TRUE(now.value(u"mood"_qs) == 7 && font.family() == u"Menlo" && font.pixelSize() == 12)
+    const auto font = now.value(u"font"_s).value<QFont>();
+    EXPECT_TRUE(now.value(u"mood"_s) == 7 && font.family() == u"Menlo" && font.pixelSize() == 12)
         << view.dump().toStdString();
     EXPECT_EQ(view.items().item(0).attributes().backgroundColor(), QColor(Qt::transparent));
 }
@@ -116,7 +117,7 @@ TEST(Measuring, agreesWithLayingOut)
     for (const double size : {9.0, 12.0, 12.5, 18.0}) {
         TextAttributes attributes;
         attributes.setFontSize(size);
-        for (const QString &text : {u"1-3/4"_qs, u" 24 "_qs, u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_qs}) {
+        for (const QString &text : {u"1-3/4"_s, u" 24 "_s, u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_s}) {
             QTextLayout layout(text, attributes.facts().font);
             layout.beginLayout();
             QTextLine line = layout.createLine();
@@ -130,7 +131,7 @@ TEST(Measuring, agreesWithLayingOut)
 
 TEST(Measuring, theBoundingRectangleIsNotWiderThanTheLimit)
 {
-    for (const QString &text : {QString(5000, u'x'), QString(5000, u'\u00e9'), u"ab "_qs.repeated(3000)}) {
+    for (const QString &text : {QString(5000, u'x'), QString(5000, u'\u00e9'), u"ab "_s.repeated(3000)}) {
         const double width = measureText(text, TextAttributes()).width;
         EXPECT_LE(width, 10000);
         EXPECT_GT(width, 9900);

@@ -16,20 +16,21 @@
 #include <functional>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 TEST(Emoji, areFoundInTheText)
 {
     const Table<QString, QList<TextRun>> rows = {
-        {"digits never", u"0123456789#*+-/() 1\ufe0f"_qs, {}},
-        {"white circle", u"\u26aa Easy"_qs, {{0, 1}}},
-        {"level label", u"a 🔴 🔴 Medium"_qs, {{2, 2}, {5, 2}}},
-        {"neighbours are one run", u"🟡🟡"_qs, {{0, 4}}},
-        {"selector makes one", u"x\u2764\ufe0fy"_qs, {{1, 2}}},
-        {"without selector a text", u"\u2764"_qs, {}},
-        {"text selector unmakes one", u"\u26aa\ufe0e"_qs, {}},
-        {"skin tone and joiner", u"👩🏽\u200d🚀!"_qs, {{0, 7}}},
+        {"digits never", u"0123456789#*+-/() 1\ufe0f"_s, {}},
+        {"white circle", u"\u26aa Easy"_s, {{0, 1}}},
+        {"level label", u"a 🔴 🔴 Medium"_s, {{2, 2}, {5, 2}}},
+        {"neighbours are one run", u"🟡🟡"_s, {{0, 4}}},
+        {"selector makes one", u"x\u2764\ufe0fy"_s, {{1, 2}}},
+        {"without selector a text", u"\u2764"_s, {}},
+        {"text selector unmakes one", u"\u26aa\ufe0e"_s, {}},
+        {"skin tone and joiner", u"👩🏽\u200d🚀!"_s, {{0, 7}}},
         {"lone surrogate", QString(QChar(0xD83D)) + QChar(u'a'), {}},
     };
     for (const auto &[name, text, runs] : rows) {
@@ -39,17 +40,17 @@ TEST(Emoji, areFoundInTheText)
 
 TEST_F(Console, emojiAreDrawnInTheColourFontAndNothingElseIs)
 {
-    if (!QFontDatabase::hasFamily(u"Noto Color Emoji"_qs)) {
+    if (!QFontDatabase::hasFamily(u"Noto Color Emoji"_s)) {
         GTEST_SKIP() << "install fonts-noto-color-emoji";
     }
-    const ShapedText label(u"\u26aa 0123456789"_qs, TextAttributes());
+    const ShapedText label(u"\u26aa 0123456789"_s, TextAttributes());
     QMap<QString, qsizetype> glyphs;
     for (const QGlyphRun &run : label.glyphRuns()) {
         glyphs[run.rawFont().familyName()] += run.glyphIndexes().size();
     }
     const QString textFamily = QRawFont::fromFont(TextAttributes().facts().font).familyName();
-    EXPECT_EQ(glyphs, (QMap<QString, qsizetype>{{u"Noto Color Emoji"_qs, 1}, {textFamily, 11}}));
-    view.addString(u"🔴"_qs, {10, 10});
+    EXPECT_EQ(glyphs, (QMap<QString, qsizetype>{{u"Noto Color Emoji"_s, 1}, {textFamily, 11}}));
+    view.addString(u"🔴"_s, {10, 10});
     EXPECT_GT(picture(1).pixelColor(18, 17).hsvSaturation(), 100);
 }
 
@@ -59,7 +60,7 @@ TEST_F(Console, rowsTouchAtEveryScale)
     view.setForegroundColor(Qt::transparent);
     view.setCurrentLineWidth(-1);
     for (int row = 0; row < 12; ++row) {
-        view.addString(u"xxxxxxxxxxxx"_qs);
+        view.addString(u"xxxxxxxxxxxx"_s);
         view.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
     }
     for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
@@ -87,14 +88,14 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
     const auto color = [&] {
         return random.bounded(4) == 0 ? QColor() : QColor::fromRgba(random.generate() | 0x40000000);
     };
-    const QStringList texts{u"Make 24"_qs,
-                            u"gjpqy ÅÉ"_qs,
-                            u"🔴 Medium\b"_qs,
-                            u"a\tb\t"_qs,
-                            u"שלום 12"_qs,
-                            u"two\nlines"_qs,
-                            u"e\u0301\u0302\u0303\u0304"_qs,
-                            u""_qs};
+    const QStringList texts{u"Make 24"_s,
+                            u"gjpqy ÅÉ"_s,
+                            u"🔴 Medium\b"_s,
+                            u"a\tb\t"_s,
+                            u"שלום 12"_s,
+                            u"two\nlines"_s,
+                            u"e\u0301\u0302\u0303\u0304"_s,
+                            u""_s};
     for (int i = 0; i < count; ++i) {
         view.setCurrentLineWidth(random.bounded(random.bounded(4) == 0 ? 40 : 12) - 2 + random.bounded(2) * 0.5);
         view.setCurrentLineCapStyle(random.bounded(4));
@@ -221,7 +222,7 @@ TEST(Culling, looksAtNoMoreThanWhatIsNear)
 {
     CUI_PrintToWindowView view({0, 0, 400, 1});
     for (int i = 0; i < 20000; ++i) {
-        view.addString(u"line"_qs);
+        view.addString(u"line"_s);
     }
     view.addRect({0, 0, 10, 200000}, Qt::black, QColor());
     const double middle = view.documentSize().height() / 2;

@@ -9,26 +9,27 @@
 #include <QTest>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 TEST_F(Console, readsAsOneText)
 {
-    view.addString(u"Numbers:\b"_qs);
-    view.addString(u" 1\b"_qs);
-    view.addString(u" 3\b"_qs);
-    view.addString(u""_qs);
+    view.addString(u"Numbers:\b"_s);
+    view.addString(u" 1\b"_s);
+    view.addString(u" 3\b"_s);
+    view.addString(u""_s);
     view.addRect({0, 0, 9, 9}, Qt::black, QColor());
-    view.addString(u"left\b"_qs, {3, 100});
-    view.addString(u"right\b"_qs, {200, 100});
-    view.addString(u"below\tit"_qs, {3, 150});
-    EXPECT_EQ(view.reader().text().text(), u"Numbers: 1 3\nleft right\nbelow it\n"_qs);
-    EXPECT_EQ(view.takeNewText(), u"Numbers: 1 3\nleft right\nbelow it"_qs);
-    view.addString(u"\nnews"_qs);
-    EXPECT_EQ(view.takeNewText(), u"news"_qs);
+    view.addString(u"left\b"_s, {3, 100});
+    view.addString(u"right\b"_s, {200, 100});
+    view.addString(u"below\tit"_s, {3, 150});
+    EXPECT_EQ(view.reader().text().text(), u"Numbers: 1 3\nleft right\nbelow it\n"_s);
+    EXPECT_EQ(view.takeNewText(), u"Numbers: 1 3\nleft right\nbelow it"_s);
+    view.addString(u"\nnews"_s);
+    EXPECT_EQ(view.takeNewText(), u"news"_s);
     view.clear();
-    view.addString(u"again"_qs);
-    EXPECT_EQ(view.takeNewText(), u"again"_qs);
+    view.addString(u"again"_s);
+    EXPECT_EQ(view.takeNewText(), u"again"_s);
 }
 
 /// A console in a window beside a field, with more lines than fit.
@@ -71,8 +72,8 @@ TEST_F(ReadConsole, givesAssistiveTechnologyLinesAttributesAndPlaces)
     EXPECT_EQ(text->characterCount(), 10 * 2 + 90 * 3);
     int start = 0;
     int stop = 0;
-    EXPECT_EQ(text->textAtOffset(21, QAccessible::LineBoundary, &start, &stop), u"10\n"_qs);
-    EXPECT_TRUE(text->attributes(21, &start, &stop).contains(u"font-family:\"Menlo\""_qs));
+    EXPECT_EQ(text->textAtOffset(21, QAccessible::LineBoundary, &start, &stop), u"10\n"_s);
+    EXPECT_TRUE(text->attributes(21, &start, &stop).contains(u"font-family:\"Menlo\""_s));
     const QRect zero = text->characterRect(21);
     EXPECT_EQ(text->offsetAtPoint(zero.center() + QPoint(100, 0)), -1);
     text->scrollToSubstring(text->characterCount() - 3, text->characterCount());
@@ -88,7 +89,7 @@ TEST_F(ReadConsole, isSelectedByDragging)
     QTest::mousePress(view, Qt::LeftButton, {}, first.topLeft() + QPoint(1, 3));
     QTest::mouseMove(view, view->reader().characterRect(20).toAlignedRect().topRight() + QPoint(3, 3));
     QTest::mouseRelease(view, Qt::LeftButton, {}, view->reader().characterRect(21).toAlignedRect().center());
-    EXPECT_TRUE(view->reader().selectedText().startsWith(u"0\n1\n2"_qs));
+    EXPECT_TRUE(view->reader().selectedText().startsWith(u"0\n1\n2"_s));
     view->clear();
     EXPECT_FALSE(view->property("canCopy").toBool());
 }
@@ -98,7 +99,7 @@ TEST_F(ReadConsole, startsOverAtTheTopAndFollowsTheWidth)
     EXPECT_LT(view->width(), 400) << "beside the bar";
     scrollView->verticalScrollBar()->setValue(end());
     view->clear();
-    view->addString(u"top"_qs);
+    view->addString(u"top"_s);
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(scrolled(), 0);
     EXPECT_EQ(end(), 0);

@@ -1,6 +1,7 @@
 #include "tests/console/printing.h"
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +19,7 @@ TEST_F(Console, aPolylineIsASegmentPerPoint)
     view.addLines({{10, 100}, {20, 50}}, false);
     view.addLines({{30, 99}}, true);
     view.addLines({}, false);
-    const QString style = u" width 4 cap 1 dash 5,2.5 phase 1 stroke #ff0000\n"_qs;
+    const QString style = u" width 4 cap 1 dash 5,2.5 phase 1 stroke #ff0000\n"_s;
     EXPECT_EQ(view.dump(), QString(u"line (10,100) to (10,100)" + style + u"line (10,100) to (20,50)" + style +
                                    u"line (20,50) to (30,99)" + style));
     EXPECT_EQ(view.viewH(), 122);
@@ -33,18 +34,18 @@ TEST_F(Console, aShapesOwnColoursWinOverThePens)
     EXPECT_EQ(view.viewH(), 200 + 15 + 1.5 + 20);
     view.addOval({0, 0, 5, 6}, Qt::blue, QColor());
     EXPECT_EQ(view.dump(), u"rect (10,200) size 400x15 width 3 stroke #000000 fill #ffffff\n"
-                           u"oval (0,0) size 5x6 width 3 stroke #0000ff fill none\n"_qs);
+                           u"oval (0,0) size 5x6 width 3 stroke #0000ff fill none\n"_s);
 }
 
 TEST_F(Console, theArchiveHasTenKeysAndThosePresent)
 {
-    view.addString(u"abc\b"_qs);
+    view.addString(u"abc\b"_s);
     view.addOval({1, 2, 3, 4}, Qt::black, QColor());
     view.setCurrentLineDashPattern({1, 2});
     view.addLines({{5, 6}, {7, 8}}, true);
     view.addRect({1, 2, 3, 4}, Qt::black, Qt::green);
-    const QStringList always{u"fillFlag"_qs, u"lineCapStyle"_qs, u"lineDashPhase"_qs, u"lineWidth"_qs,  u"pt"_qs,
-                             u"pt1"_qs,      u"pt2"_qs,          u"rect"_qs,          u"strokeFlag"_qs, u"type"_qs};
+    const QStringList always{u"fillFlag"_s, u"lineCapStyle"_s, u"lineDashPhase"_s, u"lineWidth"_s,  u"pt"_s,
+                             u"pt1"_s,      u"pt2"_s,          u"rect"_s,          u"strokeFlag"_s, u"type"_s};
     QStringList beside;
     const QVariantList array = view.itemArray();
     for (const QVariant &item : array) {
@@ -54,17 +55,16 @@ TEST_F(Console, theArchiveHasTenKeysAndThosePresent)
         }
         beside.append(keys.join(u' '));
     }
-    const QString line = u"lineDashPattern strokeColor"_qs;
-    EXPECT_EQ(beside,
-              (QStringList{u"attributes text"_qs, u"strokeColor"_qs, line, line, QString(u"fillColor " + line)}));
+    const QString line = u"lineDashPattern strokeColor"_s;
+    EXPECT_EQ(beside, (QStringList{u"attributes text"_s, u"strokeColor"_s, line, line, QString(u"fillColor " + line)}));
     const auto value = [&array](qsizetype item, const QString &key) { return array.at(item).toMap().value(key); };
-    EXPECT_EQ(value(0, u"attributes"_qs), u"abc\b"_qs);
-    EXPECT_EQ(value(0, u"pt"_qs), QPointF(3, 0));
-    EXPECT_EQ(value(0, u"lineWidth"_qs), 0.0) << "nothing gave the text a line style";
-    EXPECT_EQ(value(3, u"type"_qs), 1U);
-    EXPECT_EQ(value(3, u"pt2"_qs), QPointF(7, 8));
-    EXPECT_EQ(value(3, u"lineDashPattern"_qs), QVariantList({1.0, 2.0}));
-    EXPECT_EQ(value(4, u"rect"_qs), QRectF(1, 2, 3, 4));
+    EXPECT_EQ(value(0, u"attributes"_s), u"abc\b"_s);
+    EXPECT_EQ(value(0, u"pt"_s), QPointF(3, 0));
+    EXPECT_EQ(value(0, u"lineWidth"_s), 0.0) << "nothing gave the text a line style";
+    EXPECT_EQ(value(3, u"type"_s), 1U);
+    EXPECT_EQ(value(3, u"pt2"_s), QPointF(7, 8));
+    EXPECT_EQ(value(3, u"lineDashPattern"_s), QVariantList({1.0, 2.0}));
+    EXPECT_EQ(value(4, u"rect"_s), QRectF(1, 2, 3, 4));
 }
 
 TEST_F(Console, strokesAreSeenInTheMiddleOfALine)

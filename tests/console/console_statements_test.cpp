@@ -11,6 +11,7 @@
 #include "tests/console/printing.h"
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,7 +22,7 @@ CUI_PrintToWindowView *outputView()
 
 TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
 {
-    CUI_Window(1, u"Game"_qs, notGiven, QRectF(0, 0, 300, 200));
+    CUI_Window(1, u"Game"_s, notGiven, QRectF(0, 0, 300, 200));
     Window *window = CUI_WindowWithTag(1);
     auto *other = new QWidget(window->contentView());
     CUI_PrintToWindowView *view = outputView();
@@ -31,43 +32,43 @@ TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
     EXPECT_EQ(view->scrollView()->geometry(), window->contentView()->rect());
     EXPECT_EQ(CUI_PrintToWindowViewObj(nullptr), nullptr);
     Popover popover(5, QSize(100, 80));
-    EXPECT_EQ(CUI_PrintToWindowPrint(&popover, u"x\b"_qs).y(), 0);
+    EXPECT_EQ(CUI_PrintToWindowPrint(&popover, u"x\b"_s).y(), 0);
     EXPECT_NE(CUI_PrintToWindowViewObj(&popover), view);
 }
 
 TEST(Statements, printJoinsUpToTheFirstNullText)
 {
-    CUI_PrintToWindowPrintStatement({u"a"_qs, u""_qs, u"b"_qs, u"\b"_qs, QString(), u"c"_qs});
+    CUI_PrintToWindowPrintStatement({u"a"_s, u""_s, u"b"_s, u"\b"_s, QString(), u"c"_s});
     CUI_PrintToWindowPrintStatement({QString()});
     CUI_PrintToWindowPrintStatement({});
-    EXPECT_EQ(outputView()->textString(), u"ab\b\n\n"_qs);
+    EXPECT_EQ(outputView()->textString(), u"ab\b\n\n"_s);
     CUI_PrintToWindowClearStatement();
     CUI_PrintToWindowSetXYStatement(15, 110);
-    CUI_PrintToWindowPrintFStatement(u"%d of %@"_qs, 3, u"4"_qs);
-    EXPECT_TRUE(outputView()->dump().startsWith(u"text (15,110) \"3 of 4\""_qs));
+    CUI_PrintToWindowPrintFStatement(u"%d of %@"_s, 3, u"4"_s);
+    EXPECT_TRUE(outputView()->dump().startsWith(u"text (15,110) \"3 of 4\""_s));
     const Window *window = CUI_WindowWithTag(999999);
     ASSERT_TRUE(window != nullptr && window->isVisible()) << "the default window, made by printing";
-    EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_qs);
+    EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_s);
 }
 
 TEST(Statements, textAppliesOnlyWhatIsGiven)
 {
     const auto look = [] {
         CUI_PrintToWindowClearStatement();
-        CUI_PrintToWindowPrintStatement({u"x\b"_qs});
+        CUI_PrintToWindowPrintStatement({u"x\b"_s});
         const QString dump = outputView()->dump();
-        const auto font = outputView()->currentAttributes().value(u"font"_qs).value<QFont>();
+        const auto font = outputView()->currentAttributes().value(u"font"_s).value<QFont>();
         return QString(dump.mid(dump.indexOf(u"size")).trimmed() + u" align " +
                        QString::number(outputView()->currentAlignment()) + u' ' + font.family());
     };
     CUI_PrintToWindowTextStatement(QString(), QColor(), QColor(), notGiven, notGiven, -18);
-    EXPECT_EQ(look(), u"size 12 color standard align 0 Menlo"_qs);
-    CUI_PrintToWindowTextStatement(u"No Such Family"_qs, ColorGreen(), ColorBlack(), 2, 50, 18);
-    EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2 Menlo"_qs);
+    EXPECT_EQ(look(), u"size 12 color standard align 0 Menlo"_s);
+    CUI_PrintToWindowTextStatement(u"No Such Family"_s, ColorGreen(), ColorBlack(), 2, 50, 18);
+    EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2 Menlo"_s);
     CUI_PrintToWindowTextStatement(QString(), ColorWhite(), QColor(), notGiven, notGiven, 0);
-    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2 Menlo"_qs);
+    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2 Menlo"_s);
     const QVariantMap now = outputView()->currentAttributes();
-    EXPECT_EQ(now.value(u"paragraphStyle"_qs).value<ParagraphStyle>().defaultTabInterval, 50);
+    EXPECT_EQ(now.value(u"paragraphStyle"_s).value<ParagraphStyle>().defaultTabInterval, 50);
 }
 
 TEST(Statements, aRectangleChasesTheFillColour)

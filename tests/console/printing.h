@@ -8,13 +8,15 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 /// A console view of its own, 400 pixels wide, and the measures of its initial font.
 class Console : public testing::Test
 {
 protected:
     CUI_PrintToWindowView view{QRectF(0, 0, 400, 1)};
     const double lineHeight = TextAttributes().facts().lineHeight;
-    const double advance = measureText(QStringLiteral("0"), TextAttributes()).width;
+    const double advance = measureText(u"0"_s, TextAttributes()).width;
 
     /// Every item on one line as "text@x,y", x in pixels and y in lines.
     QString items() const

@@ -4,6 +4,7 @@
 #include "tests/controls/site_helper.h"
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,11 +30,11 @@ protected:
     }
     static void makeControls()
     {
-        CUI_CheckBox(2, u"Box"_qs, QRectF(10, 10, 100, 30));
+        CUI_CheckBox(2, u"Box"_s, QRectF(10, 10, 100, 30));
         CUI_Slider(3, 5, 0, 10, QRectF(10, 50, 200, 30));
-        CUI_TextField(4, u"12 apples"_qs, QRectF(10, 90, 200, 30));
-        CUI_PopUpButton(5, {u"a"_qs, u"b"_qs}, 0, QRectF(10, 130, 100, 30));
-        CUI_SegmentedControl(6, {u"x"_qs, u"y"_qs}, 0, QRectF(120, 130, 100, 30));
+        CUI_TextField(4, u"12 apples"_s, QRectF(10, 90, 200, 30));
+        CUI_PopUpButton(5, {u"a"_s, u"b"_s}, 0, QRectF(10, 130, 100, 30));
+        CUI_SegmentedControl(6, {u"x"_s, u"y"_s}, 0, QRectF(120, 130, 100, 30));
     }
     static bool waitForCalls(qsizetype count)
     {
@@ -43,16 +44,16 @@ protected:
 
 TEST_F(Dispatch, PrefersTheControlsOwnCallback)
 {
-    CUI_Button(5, u"Press"_qs, QRectF(10, 10, 80, 30));
+    CUI_Button(5, u"Press"_s, QRectF(10, 10, 80, 30));
     QWidget *const button = ControlWithTag(5);
     int userData = 44;
     const Table<bool, bool, bool, Tag, QString, QString> rows = {
-        {"own of all three", true, true, true, 7, u"own 5 7 44"_qs, u"own 5 7 44"_qs},
-        {"all controls' before dialog", false, true, true, 7, u"all 5 7 0"_qs, u"all 5 7 77"_qs},
-        {"dialog function", false, false, true, 7, u"1 5 7"_qs, u"1503 5 7"_qs},
+        {"own of all three", true, true, true, 7, u"own 5 7 44"_s, u"own 5 7 44"_s},
+        {"all controls' before dialog", false, true, true, 7, u"all 5 7 0"_s, u"all 5 7 77"_s},
+        {"dialog function", false, false, true, 7, u"1 5 7"_s, u"1503 5 7"_s},
         {"nobody", false, false, false, 7, {}, {}},
-        {"other window's tag on the control", false, false, true, 3, u"1 5 3"_qs, u"1503 5 3"_qs},
-        {"no window's tag on the control", true, false, true, 0, u"own 5 7 44"_qs, u"own 5 7 44"_qs},
+        {"other window's tag on the control", false, false, true, 3, u"1 5 3"_s, u"1503 5 3"_s},
+        {"no window's tag on the control", true, false, true, 0, u"own 5 7 44"_s, u"own 5 7 44"_s},
     };
     for (const auto &[name, own, all, dialog, wndTag, action, delegateEvent] : rows) {
         SCOPED_TRACE(name);
@@ -74,24 +75,24 @@ TEST_F(Dispatch, PrefersTheControlsOwnCallback)
 
 TEST_F(Dispatch, ActionIsChosenByName)
 {
-    CUI_Button(5, u"Press"_qs, QRectF(10, 10, 80, 30));
+    CUI_Button(5, u"Press"_s, QRectF(10, 10, 80, 30));
     QWidget *const button = ControlWithTag(5);
     // An id out of range changes nothing.
-    const std::pair<qint64, QString> rows[] = {{0, u"controlAction:"_qs},          {11, u"controlAction:"_qs},
-                                               {-1, u"controlAction:"_qs},         {1, u"controlAction1:"_qs},
-                                               {11, u"controlAction1:"_qs},        {10, u"controlAction10:"_qs},
-                                               {notGiven, u"controlAction10:"_qs}, {4, u"controlAction4:"_qs}};
+    const std::pair<qint64, QString> rows[] = {{0, u"controlAction:"_s},          {11, u"controlAction:"_s},
+                                               {-1, u"controlAction:"_s},         {1, u"controlAction1:"_s},
+                                               {11, u"controlAction1:"_s},        {10, u"controlAction10:"_s},
+                                               {notGiven, u"controlAction10:"_s}, {4, u"controlAction4:"_s}};
     for (const auto &[id, action] : rows) {
         SCOPED_TRACE(id);
         takeSiteCalls();
         ControlSetActionID(5, id);
         EXPECT_EQ(controlActionName(button), action);
         QTest::mouseClick(button, Qt::LeftButton);
-        EXPECT_EQ(takeSiteCalls(), u"1 5 7"_qs);
+        EXPECT_EQ(takeSiteCalls(), u"1 5 7"_s);
         EXPECT_EQ(lastObject, tagFromObject(button));
     }
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 11); }), QString()) << "an id out of range asks for no control";
-    EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 1); }), u"Tag error.|Can't find view 6 in window 7."_qs);
+    EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 1); }), u"Tag error.|Can't find view 6 in window 7."_s);
 }
 
 TEST_F(Dispatch, RealInputReachesIt)
@@ -104,7 +105,7 @@ TEST_F(Dispatch, RealInputReachesIt)
     QWidget *const segment = m_content->findChild<SegmentedControl *>()->findChildren<QAbstractButton *>().at(1);
     QTest::mouseClick(segment, Qt::LeftButton);
     ASSERT_TRUE(waitForCalls(5));
-    EXPECT_EQ(takeSiteCalls(), u"1 2 7, 1 3 7, 1 4 7, 1 5 7, 1 6 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1 2 7, 1 3 7, 1 4 7, 1 5 7, 1 6 7"_s);
     for (const auto &[tag, value] : std::vector<std::pair<Tag, qint64>>{{2, 1}, {3, 6}, {4, 12}, {5, 1}, {6, 1}}) {
         EXPECT_EQ(ControlIntegerValue(tag), value) << tag;
         ControlSetIntegerValue(tag, 0);
@@ -132,7 +133,7 @@ TEST_F(Dispatch, SurvivesWhatACallbackDoes)
         {"tags the sender anew", [sender] { setObjectTag(sender(), 99); }},
         {"tags the window anew", [] { CUI_WindowWithTag(7)->setTag(99); }},
         {"installs another function", [] { CUI_SetOnDialogFunction(nullptr); }},
-        {"opens an alert", [] { CUI_Alert(1, notGiven, u"Now"_qs, {}, u"OK"_qs, notGiven); }},
+        {"opens an alert", [] { CUI_Alert(1, notGiven, u"Now"_s, {}, u"OK"_s, notGiven); }},
     };
     for (const auto &[name, harm] : harms) {
         for (const auto &input : inputs) {
@@ -164,21 +165,21 @@ TEST_F(Dispatch, QueuedActionOfADeletedControlIsDropped)
 
 TEST_F(Dispatch, StatementsMakeAndChange)
 {
-    CUI_Button(-5, u"Press"_qs, QRectF(10, 10, 80, 30));
+    CUI_Button(-5, u"Press"_s, QRectF(10, 10, 80, 30));
     QWidget *const button = ControlWithTag(5);
     EXPECT_TRUE(button->isHidden());
     CUI_Button(5, {}, {});
-    EXPECT_EQ(ControlStringValue(5), u"Press"_qs);
+    EXPECT_EQ(ControlStringValue(5), u"Press"_s);
     EXPECT_EQ(button->geometry(), QRect(10, 10, 80, 30));
     EXPECT_TRUE(button->isVisible());
     EXPECT_EQ(alertsOf([] { CUI_Slider(5, 0, 0, 1, {}); }),
-              u"Class error.|View 5 (NSButton), in window 7, cannot respond to NSSlider messages."_qs);
-    EXPECT_EQ(alertsOf([] { CUI_Button(0, u"x"_qs, {}); }),
-              u"Tag error.|A view needs a tag from 1 to 1000000, not 0."_qs);
+              u"Class error.|View 5 (NSButton), in window 7, cannot respond to NSSlider messages."_s);
+    EXPECT_EQ(alertsOf([] { CUI_Button(0, u"x"_s, {}); }),
+              u"Tag error.|A view needs a tag from 1 to 1000000, not 0."_s);
     EXPECT_EQ(m_content->findChildren<QWidget *>(), QList<QWidget *>{button});
 
     auto *const page = new QWidget(m_content);
-    page->setObjectName(u"9"_qs);
+    page->setObjectName(u"9"_s);
     ViewAddSubview(9, 5);
     ViewAddSubview(tagFromObject(button), 9);
     EXPECT_EQ(button->parentWidget(), page) << "nothing lies in itself";

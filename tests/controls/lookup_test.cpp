@@ -18,6 +18,7 @@
 #include <QToolBar>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -49,11 +50,11 @@ protected:
 TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
 {
     QWidget *const content = open(1)->contentView();
-    QWidget *const plain = named(content, u"7"_qs);
-    QWidget *const trailing = named(content, u"14 apples"_qs);
-    QWidget *const effect = named<VisualEffectView>(content, u"10"_qs);
-    named<QPushButton>(content, u"8"_qs);
-    named<QFrame>(content, u"13"_qs);
+    QWidget *const plain = named(content, u"7"_s);
+    QWidget *const trailing = named(content, u"14 apples"_s);
+    QWidget *const effect = named<VisualEffectView>(content, u"10"_s);
+    named<QPushButton>(content, u"8"_s);
+    named<QFrame>(content, u"13"_s);
     tagged<QWidget>(content, 9);
     QWidget *const button = tagged(content, 5);
     QWidget *const inner = tagged<ContentViewSC>(content, 11);
@@ -72,7 +73,7 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
         {"the content view itself", contentViewTag, content},
         {"a view in place of a tag", tagFromObject(effect), effect},
     });
-    EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), content->findChild<QPushButton *>(u"8"_qs))
+    EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), content->findChild<QPushButton *>(u"8"_s))
         << "a view without a tag counts as 0";
 }
 
@@ -81,8 +82,8 @@ TEST_F(Lookup, ReportsAndSearchesByDifferentTags)
     QWidget *const content = open(1)->contentView();
     const Table<QWidget *, Tag, Tag> rows = {
         {"content view", content, 70, contentViewTag},
-        {"visual-effect view", named<VisualEffectView>(content, u"10"_qs), 10, 70},
-        {"plain view", named(content, u"12"_qs), 12, 12},
+        {"visual-effect view", named<VisualEffectView>(content, u"10"_s), 10, 70},
+        {"plain view", named(content, u"12"_s), 12, 12},
     };
     for (const auto &[name, view, searched, reported] : rows) {
         SCOPED_TRACE(name);
@@ -110,13 +111,13 @@ TEST_F(Lookup, SearchesAllTabsAndNoSegments)
 {
     QWidget *const content = open(1)->contentView();
     auto *const tabs = tagged<QTabWidget>(content, 20);
-    tabs->addTab(named(nullptr, u"24"_qs), u"One"_qs);
-    tabs->addTab(named(nullptr, {}), u"Two"_qs);
+    tabs->addTab(named(nullptr, u"24"_s), u"One"_s);
+    tabs->addTab(named(nullptr, {}), u"Two"_s);
     QWidget *const second = tagged(tabs->widget(1), 21);
     tagged(tabs->widget(1), 22);
     QWidget *const firstOfTwo = tagged(tabs->widget(0), 22);
     auto *const segments = tagged<SegmentedControl>(content, 30);
-    segments->setLabels({u"a"_qs, u"b"_qs});
+    segments->setLabels({u"a"_s, u"b"_s});
     setObjectTag(segments->findChildren<QAbstractButton *>().constLast(), 31);
     expectFound({
         {"the tab view itself", 20, tabs},
@@ -163,17 +164,17 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     QWidget *const content = open(1)->contentView();
     Window *const window = CUI_WindowWithTag(1);
     const QSize before = content->size();
-    QWidget *const accessory = named<QFrame>(nullptr, u"40"_qs);
+    QWidget *const accessory = named<QFrame>(nullptr, u"40"_s);
     accessory->setFixedSize(30, 20);
     CUI_WindowAddTitlebarAccessoryView(window, accessory);
     QWidget *const inAccessory = tagged(accessory, 41);
     CUI_Toolbar(50);
     QToolBar *const toolbar = CUI_WindowToolbar(window);
-    QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_qs);
+    QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_s);
     auto *const view = new QSlider;
     CUI_ToolbarAddViewItem(50, 43, view);
-    CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_qs);
-    CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_qs);
+    CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_s);
+    CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_s);
     QWidget *const inContent = tagged(content, 42);
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return toolbar->isVisible() && toolbar->height() >= view->height(); }));
@@ -190,35 +191,35 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     CUI_OutputWindowSetTag(0);
     EXPECT_EQ(TitlebarAccessoryViewWithTag(40), nullptr) << "the output window's only";
     EXPECT_EQ(CUI_ViewWithTag(43), view) << "the front window's tool bar";
-    EXPECT_EQ(alertsOf([] { CUI_ToolbarAddItem(51, 1, {}); }), u"Tag error.|Can't find tool bar 51 in window 1."_qs);
+    EXPECT_EQ(alertsOf([] { CUI_ToolbarAddItem(51, 1, {}); }), u"Tag error.|Can't find tool bar 51 in window 1."_s);
 }
 
 TEST_F(Lookup, TellsWhatIsWrong)
 {
     QWidget *const content = open(1)->contentView();
-    QWidget *const plain = named(content, u"5"_qs);
+    QWidget *const plain = named(content, u"5"_s);
     QWidget *const button = tagged(content, 6);
     QAction action;
     const auto hex = [](const QObject *object) -> QString {
-        return u"0x"_qs + QString::number(tagFromObject(object), 16);
+        return u"0x"_s + QString::number(tagFromObject(object), 16);
     };
     const Table<Tag, QString, QWidget *, QString> rows = {
-        {"a control", 6, u"NSControl"_qs, button, {}},
-        {"its own class", 6, u"NSButton"_qs, button, {}},
-        {"a control as an object", tagFromObject(button), u"NSControl"_qs, button, {}},
-        {"content view", contentViewTag, u"NSView"_qs, content, {}},
-        {"tag 0", 0, u"NSControl"_qs, nullptr, u"Tag error.|Can't find view 0 in window 1."_qs},
-        {"unknown", -4, u"NSControl"_qs, nullptr, u"Tag error.|Can't find view -4 in window 1."_qs},
-        {"plain view", 5, u"NSControl"_qs, nullptr,
-         u"Class error.|View 5 (NSView), in window 1, cannot respond to NSControl messages."_qs},
-        {"other control", 6, u"NSSlider"_qs, nullptr,
-         u"Class error.|View 6 (NSButton), in window 1, cannot respond to NSSlider messages."_qs},
-        {"content view", contentViewTag, u"NSControl"_qs, nullptr,
-         u"Class error.|View -1437226411 (ContentViewSC), in window 1, cannot respond to NSControl messages."_qs},
-        {"object", tagFromObject(plain), u"NSControl"_qs, nullptr,
-         u"Class error.|View <NSView: %1> cannot respond to NSControl messages."_qs.arg(hex(plain))},
-        {"object that is no view", tagFromObject(&action), u"NSView"_qs, nullptr,
-         u"Class error.|View <NSToolbarItem: %1> cannot respond to NSView messages."_qs.arg(hex(&action))},
+        {"a control", 6, u"NSControl"_s, button, {}},
+        {"its own class", 6, u"NSButton"_s, button, {}},
+        {"a control as an object", tagFromObject(button), u"NSControl"_s, button, {}},
+        {"content view", contentViewTag, u"NSView"_s, content, {}},
+        {"tag 0", 0, u"NSControl"_s, nullptr, u"Tag error.|Can't find view 0 in window 1."_s},
+        {"unknown", -4, u"NSControl"_s, nullptr, u"Tag error.|Can't find view -4 in window 1."_s},
+        {"plain view", 5, u"NSControl"_s, nullptr,
+         u"Class error.|View 5 (NSView), in window 1, cannot respond to NSControl messages."_s},
+        {"other control", 6, u"NSSlider"_s, nullptr,
+         u"Class error.|View 6 (NSButton), in window 1, cannot respond to NSSlider messages."_s},
+        {"content view", contentViewTag, u"NSControl"_s, nullptr,
+         u"Class error.|View -1437226411 (ContentViewSC), in window 1, cannot respond to NSControl messages."_s},
+        {"object", tagFromObject(plain), u"NSControl"_s, nullptr,
+         u"Class error.|View <NSView: %1> cannot respond to NSControl messages."_s.arg(hex(plain))},
+        {"object that is no view", tagFromObject(&action), u"NSView"_s, nullptr,
+         u"Class error.|View <NSToolbarItem: %1> cannot respond to NSView messages."_s.arg(hex(&action))},
     };
     for (const auto &[name, argument, className, expected, alert] : rows) {
         SCOPED_TRACE(name);
@@ -231,8 +232,8 @@ TEST_F(Lookup, TellsWhatIsWrong)
 TEST_F(Lookup, TellsWhenThereIsNoWindowUnlessGivenTheObject)
 {
     QPushButton loose;
-    EXPECT_EQ(alertsOf([] { EXPECT_FALSE(ControlWithTag(3)); }), u"Error.|Can't find any windows."_qs);
-    EXPECT_EQ(alertsOf([] { CUI_Button(3, u"x"_qs, {}); }), u"Error.|Can't find any windows."_qs);
+    EXPECT_EQ(alertsOf([] { EXPECT_FALSE(ControlWithTag(3)); }), u"Error.|Can't find any windows."_s);
+    EXPECT_EQ(alertsOf([] { CUI_Button(3, u"x"_s, {}); }), u"Error.|Can't find any windows."_s);
     EXPECT_EQ(alertsOf([&] { EXPECT_EQ(ControlWithTag(tagFromObject(&loose)), &loose); }), QString());
 }
 

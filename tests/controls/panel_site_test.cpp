@@ -13,6 +13,7 @@
 #include <QToolBar>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,13 +40,13 @@ TEST_F(PopoverSite, TellsWhenItShowsAndCloses)
 {
     const Popover *const popover = makePopover();
     show();
-    EXPECT_EQ(takeSiteCalls(), u"1302 9 9, 1303 9 9"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1302 9 9, 1303 9 9"_s);
     PopoverClose(9);
-    EXPECT_EQ(takeSiteCalls(), u"1301 9 9"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1301 9 9"_s);
     EXPECT_TRUE(popover->isVisible()) << "the preset answer is no";
     atEvent = [](qint64 event) { answer(event == popoverEventShouldClose); };
     PopoverClose(9);
-    EXPECT_EQ(takeSiteCalls(), u"1301 9 9, 1304 9 9, 1305 9 9"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1301 9 9, 1304 9 9, 1305 9 9"_s);
     EXPECT_FALSE(popover->isVisible());
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
 }
@@ -53,9 +54,9 @@ TEST_F(PopoverSite, TellsWhenItShowsAndCloses)
 TEST_F(PopoverSite, IsDraggedOffAsAWindowOrGivesWayToOne)
 {
     QWidget window;
-    const Table<bool, QWidget *, QString> rows = {{"refused", false, nullptr, u"1307 9 9"_qs},
-                                                  {"another window", true, &window, u"1307 9 9, 1300 9 9, 1306 9 9"_qs},
-                                                  {"itself", true, nullptr, u"1307 9 9, 1300 9 9, 1306 9 9"_qs}};
+    const Table<bool, QWidget *, QString> rows = {{"refused", false, nullptr, u"1307 9 9"_s},
+                                                  {"another window", true, &window, u"1307 9 9, 1300 9 9, 1306 9 9"_s},
+                                                  {"itself", true, nullptr, u"1307 9 9, 1300 9 9, 1306 9 9"_s}};
     for (const auto &[name, lets, other, calls] : rows) {
         SCOPED_TRACE(name);
         Popover *const popover = makePopover();
@@ -94,22 +95,22 @@ using ToolbarSite = SiteTest;
 TEST_F(ToolbarSite, ClicksAreToldAndItemsValidatedWhenAsked)
 {
     QToolBar *const toolbar = CUI_Toolbar(3);
-    QAction *const item = CUI_ToolbarAddItem(3, 8, u"Go"_qs);
+    QAction *const item = CUI_ToolbarAddItem(3, 8, u"Go"_s);
     takeSiteCalls();
     QTest::mouseClick(toolbar->widgetForAction(item), Qt::LeftButton);
-    EXPECT_EQ(takeSiteCalls(), u"1900 8 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1900 8 7"_s);
     EXPECT_EQ(lastObject, tagFromObject(item));
     for (const bool enabled : {true, false}) {
         atEvent = [enabled](qint64 event) { answer(event == toolbarEventValidateItem && enabled); };
         setToolbarItemValidates(item, true);
         QTest::mouseClick(m_content, Qt::LeftButton);
-        EXPECT_TRUE(takeSiteCalls().startsWith(u"1901 8 7"_qs));
+        EXPECT_TRUE(takeSiteCalls().startsWith(u"1901 8 7"_s));
         EXPECT_EQ(item->isEnabled(), enabled);
     }
     const auto yes = [](qint64) { answer(true); };
     const auto make = [yes] {
         atEvent = yes;
-        QAction *const fresh = CUI_ToolbarAddItem(3, 9, u"Go"_qs);
+        QAction *const fresh = CUI_ToolbarAddItem(3, 9, u"Go"_s);
         setToolbarItemValidates(fresh, true);
         takeSiteCalls();
         return fresh;
@@ -129,7 +130,7 @@ TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
     QColorDialog *const colors = CUI_ColorPanel(Qt::red);
     takeSiteCalls();
     colors->setCurrentColor(Qt::blue);
-    EXPECT_EQ(takeSiteCalls(), u"2600 0 7 #0000ff"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2600 0 7 #0000ff"_s);
     EXPECT_EQ(lastObject, tagFromObject(colors));
     expectSurvival<QColorDialog>({2600}, [] { return CUI_ColorPanel(Qt::red); },
                                  {[](QColorDialog *dialog) { dialog->setCurrentColor(Qt::green); }});
@@ -140,7 +141,7 @@ TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
     takeSiteCalls();
     font.setPointSize(14);
     fonts->setCurrentFont(font);
-    EXPECT_TRUE(takeSiteCalls().endsWith(u"2200 0 7 14"_qs));
+    EXPECT_TRUE(takeSiteCalls().endsWith(u"2200 0 7 14"_s));
     fonts->hide();
 }
 

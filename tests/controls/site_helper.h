@@ -10,6 +10,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 /// Answers every alert with its first button, as long as it lives, and keeps the texts as "title|text".
 class AlertAnswerer
 {
@@ -39,10 +41,10 @@ QString alertsOf(Statement statement)
     AlertAnswerer answerer;
     statement();
     EXPECT_TRUE(answerer.shown.isEmpty()) << "alerts appear in the next modal loop";
-    CUI_ShowAlert(alertStyleWarning, u"(end)"_qs, QString());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return answerer.shown.contains(u"(end)|"_qs); }));
-    answerer.shown.removeAll(u"(end)|"_qs);
-    return answerer.shown.join(u", "_qs);
+    CUI_ShowAlert(alertStyleWarning, u"(end)"_s, QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return answerer.shown.contains(u"(end)|"_s); }));
+    answerer.shown.removeAll(u"(end)|"_s);
+    return answerer.shown.join(u", "_s);
 }
 
 /// A dialog function that keeps all calls but those of windows and alerts themselves.
@@ -65,13 +67,13 @@ inline QString takeSiteCalls()
                                               splitViewEventDrawDivider, tableViewEventDrawRow};
         return drawing.contains(call.section(u' ', 0, 0).toLongLong());
     });
-    return calls.join(u", "_qs);
+    return calls.join(u", "_s);
 }
 
 /// The same by their codes only.
 inline QString takeSiteCodes()
 {
-    return codesOf(takeSiteCalls().split(u", "_qs, Qt::SkipEmptyParts));
+    return codesOf(takeSiteCalls().split(u", "_s, Qt::SkipEmptyParts));
 }
 
 inline void answer(bool yes)

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -45,7 +46,7 @@ TEST_F(SplitSite, ADragAsksForBoundsAndPositionThenMovesAndTells)
         return asksForPlace ? QString::number(CUI_DialogEventObj()->floatVal) : QString();
     };
     drag(20);
-    EXPECT_EQ(takeSiteCalls(), u"1509 3 7 40, 1508 3 7 160, 1510 3 7 120, 1501 3 7, 1502 3 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1509 3 7 40, 1508 3 7 160, 1510 3 7 120, 1501 3 7, 1502 3 7"_s);
     EXPECT_EQ(m_split->position(0), 120);
 }
 
@@ -96,7 +97,7 @@ TEST_F(SplitSite, AResizeChangesOnlyTheSubviewsThatMay)
             }
         };
         m_split->resize(245, 80);
-        EXPECT_EQ(takeSiteCodes(), u"1501 1504 1504 1502"_qs);
+        EXPECT_EQ(takeSiteCodes(), u"1501 1504 1504 1502"_s);
         EXPECT_NEAR(m_split->position(0), expected, 1);
     }
 }

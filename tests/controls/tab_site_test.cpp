@@ -4,6 +4,7 @@
 #include <QWheelEvent>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,7 +23,7 @@ protected:
 
     TabView *makeTabs()
     {
-        CUI_TabView(4, {u"A"_qs, u"B & C"_qs, u"D"_qs}, QRectF(0, 0, 280, 150));
+        CUI_TabView(4, {u"A"_s, u"B & C"_s, u"D"_s}, QRectF(0, 0, 280, 150));
         return settled<TabView>(4);
     }
     static void press(TabView *tabs)
@@ -50,19 +51,19 @@ TEST_F(TabSite, EveryWayOfSelectingIsAskedAboutAndTold)
     for (const auto &[name, select] : rows) {
         SCOPED_TRACE(name);
         select(tabs);
-        EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C, 1601 4 7 1 B & C, 1602 4 7 1 B & C"_qs);
+        EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C, 1601 4 7 1 B & C, 1602 4 7 1 B & C"_s);
         EXPECT_EQ(lastObject, tagFromObject(TabViewPage(4, 1)));
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         TabViewSelectIndex(4, 0);
-        EXPECT_EQ(takeSiteCalls(), u"1602 4 7 0 A"_qs) << "the program's own selection is not asked about";
+        EXPECT_EQ(takeSiteCalls(), u"1602 4 7 0 A"_s) << "the program's own selection is not asked about";
         atEvent = [](qint64) { answer(true); };
         select(tabs);
-        EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C"_qs) << "refused";
+        EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C"_s) << "refused";
         EXPECT_EQ(TabViewSelectedIndex(4), 0);
         atEvent = nullptr;
     }
     tabs->removeTab(2);
-    EXPECT_EQ(takeSiteCalls(), u"1603 4 7 2"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1603 4 7 2"_s);
 }
 
 TEST_F(TabSite, SurvivesBeingDeletedOrLosingThePage)

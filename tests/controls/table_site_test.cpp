@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,7 +54,7 @@ protected:
     TableView *makeTable()
     {
         atEvent = fillTable;
-        CUI_TableView(3, {u"A"_qs, u"B"_qs}, QRectF(0, 0, 260, 180));
+        CUI_TableView(3, {u"A"_s, u"B"_s}, QRectF(0, 0, 260, 180));
         return settled<TableView>(3);
     }
 
@@ -63,7 +64,7 @@ protected:
 TEST_F(TableSite, ShowsWhatTheProgramAnswers)
 {
     ASSERT_EQ(m_table->rowCount(), 3);
-    EXPECT_EQ(m_table->item(2, 1)->text(), u"2.1"_qs);
+    EXPECT_EQ(m_table->item(2, 1)->text(), u"2.1"_s);
     EXPECT_EQ(m_table->rowHeight(1), 41);
     EXPECT_FALSE(m_table->item(0, 0)->flags() & Qt::ItemIsEditable);
     EXPECT_TRUE(m_table->item(0, 1)->flags() & Qt::ItemIsEditable);
@@ -85,15 +86,15 @@ TEST_F(TableSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
 {
     m_table->setFocus();
     pressRow(m_table, 1);
-    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 1, 1707 3 7 1"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 1, 1707 3 7 1"_s);
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
     QTest::keyClick(m_table, Qt::Key_Down);
-    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 2, 1707 3 7 2"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 2, 1707 3 7 2"_s);
     atEvent = [](qint64) { answer(true); };
     pressRow(m_table, 0);
     QTest::keyClick(m_table, Qt::Key_Home);
     QTest::keyClick(m_table, Qt::Key_Up);
-    EXPECT_EQ(takeSiteCodes(), u"1706 1706"_qs);
+    EXPECT_EQ(takeSiteCodes(), u"1706 1706"_s);
     EXPECT_EQ(TableViewSelectedRow(3), 2) << "refused";
 }
 
@@ -104,12 +105,12 @@ TEST_F(TableSite, EditsAndColumnClicksAreTold)
     takeSiteCalls();
     auto *const editor = m_table->findChild<QLineEdit *>();
     ASSERT_TRUE(editor);
-    editor->setText(u"new"_qs);
+    editor->setText(u"new"_s);
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_EQ(takeSiteCalls(), u"1705 3 7 1.1=new"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1705 3 7 1.1=new"_s);
     QHeaderView *const header = m_table->horizontalHeader();
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 10, 5));
-    EXPECT_TRUE(takeSiteCalls().contains(u"1708 3 7 1"_qs));
+    EXPECT_TRUE(takeSiteCalls().contains(u"1708 3 7 1"_s));
 }
 
 TEST_F(TableSite, SurvivesBeingDeletedOrReloadedAtEveryQuestion)
@@ -133,7 +134,7 @@ void fillOutline(qint64 event)
     } else if (event == outlineViewEventChild) {
         record.object = QString(path + u'/' + QString::number(record.longVal));
     } else if (event == outlineViewEventText) {
-        record.stringObj = record.tableColumnObj == 0 ? path : u"kind"_qs;
+        record.stringObj = record.tableColumnObj == 0 ? path : u"kind"_s;
     }
 }
 
@@ -149,7 +150,7 @@ protected:
     OutlineView *makeOutline()
     {
         atEvent = fillOutline;
-        CUI_OutlineView(5, {u"Name"_qs, u"Kind"_qs}, QRectF(0, 0, 280, 180));
+        CUI_OutlineView(5, {u"Name"_s, u"Kind"_s}, QRectF(0, 0, 280, 180));
         valuesOf = [](qint64) { return CUI_DialogEventObj()->object.toString(); };
         return settled<OutlineView>(5);
     }
@@ -160,17 +161,17 @@ TEST_F(OutlineSite, AsksForChildrenWhenTheirParentIsOpenedFirst)
     const OutlineView *const outline = makeOutline();
     ASSERT_EQ(outline->topLevelItemCount(), 2);
     QTreeWidgetItem *const item = outline->topLevelItem(1);
-    EXPECT_EQ(item->text(0), u"/1"_qs);
-    EXPECT_EQ(item->text(1), u"kind"_qs);
+    EXPECT_EQ(item->text(0), u"/1"_s);
+    EXPECT_EQ(item->text(1), u"kind"_s);
     EXPECT_EQ(item->childCount(), 0);
     item->setExpanded(true);
-    EXPECT_TRUE(takeSiteCalls().endsWith(u"1803 5 7 /1"_qs));
+    EXPECT_TRUE(takeSiteCalls().endsWith(u"1803 5 7 /1"_s));
     ASSERT_EQ(item->childCount(), 2);
-    EXPECT_EQ(item->child(0)->text(0), u"/1/0"_qs);
+    EXPECT_EQ(item->child(0)->text(0), u"/1/0"_s);
     item->setExpanded(false);
-    EXPECT_EQ(takeSiteCalls(), u"1804 5 7 /1"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1804 5 7 /1"_s);
     item->setExpanded(true);
-    EXPECT_EQ(takeSiteCalls(), u"1803 5 7 /1"_qs) << "the children are there already";
+    EXPECT_EQ(takeSiteCalls(), u"1803 5 7 /1"_s) << "the children are there already";
 }
 
 TEST_F(OutlineSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
@@ -178,14 +179,14 @@ TEST_F(OutlineSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
     OutlineView *const outline = makeOutline();
     outline->setFocus();
     pressFirst(outline);
-    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1806 5 7 /0"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1806 5 7 /0"_s);
     QTest::keyClick(outline, Qt::Key_Down);
-    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /1, 1806 5 7 /1"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /1, 1806 5 7 /1"_s);
     atEvent = [](qint64) { answer(true); };
     QTest::keyClick(outline, Qt::Key_Up);
     pressFirst(outline);
-    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1805 5 7 /0"_qs);
-    EXPECT_EQ(outline->selectedObject(), u"/1"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1805 5 7 /0"_s);
+    EXPECT_EQ(outline->selectedObject(), u"/1"_s);
 }
 
 TEST_F(OutlineSite, SurvivesBeingDeletedOrReloadedAtEveryQuestion)

@@ -4,6 +4,7 @@
 #include <QClipboard>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,10 +22,10 @@ protected:
     /// Text view 6 with "one two", a part of it selected.
     TextView *makeText(int from = 3, int to = 3)
     {
-        CUI_TextView(6, u"one two"_qs, QRectF(0, 0, 200, 100));
+        CUI_TextView(6, u"one two"_s, QRectF(0, 0, 200, 100));
         auto *const text = settled<TextView>(6);
         text->setFocus();
-        text->setPlainText(u"one two"_qs);
+        text->setPlainText(u"one two"_s);
         select(text, from, to);
         takeSiteCalls();
         valuesOf = [](qint64 event) {
@@ -44,18 +45,18 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
     const auto key = [](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) -> Act {
         return [code, modifiers](TextView *view) { QTest::keyClick(view, code, modifiers); };
     };
-    const Act typing = [](TextView *view) { QTest::keyClicks(view, u"x"_qs); };
-    QGuiApplication::clipboard()->setText(u"ab"_qs);
+    const Act typing = [](TextView *view) { QTest::keyClicks(view, u"x"_s); };
+    QGuiApplication::clipboard()->setText(u"ab"_s);
     const Table<int, int, Act, QString, QString> rows = {
-        {"typing", 3, 3, typing, u"3+0=x"_qs, u"onex two"_qs},
-        {"over a selection", 0, 3, typing, u"0+3=x"_qs, u"x two"_qs},
-        {"Return", 3, 3, key(Qt::Key_Return), u"3+0=\n"_qs, u"one\n two"_qs},
-        {"Backspace", 3, 3, key(Qt::Key_Backspace), u"2+1="_qs, u"on two"_qs},
-        {"Delete", 3, 3, key(Qt::Key_Delete), u"3+1="_qs, u"onetwo"_qs},
-        {"Delete of a selection", 0, 4, key(Qt::Key_Delete), u"0+4="_qs, u"two"_qs},
-        {"word before", 3, 3, key(Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_qs, u" two"_qs},
-        {"Paste", 3, 3, key(Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_qs, u"oneab two"_qs},
-        {"Cut key", 0, 3, key(Qt::Key_X, Qt::ControlModifier), u"0+3="_qs, u" two"_qs},
+        {"typing", 3, 3, typing, u"3+0=x"_s, u"onex two"_s},
+        {"over a selection", 0, 3, typing, u"0+3=x"_s, u"x two"_s},
+        {"Return", 3, 3, key(Qt::Key_Return), u"3+0=\n"_s, u"one\n two"_s},
+        {"Backspace", 3, 3, key(Qt::Key_Backspace), u"2+1="_s, u"on two"_s},
+        {"Delete", 3, 3, key(Qt::Key_Delete), u"3+1="_s, u"onetwo"_s},
+        {"Delete of a selection", 0, 4, key(Qt::Key_Delete), u"0+4="_s, u"two"_s},
+        {"word before", 3, 3, key(Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_s, u" two"_s},
+        {"Paste", 3, 3, key(Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_s, u"oneab two"_s},
+        {"Cut key", 0, 3, key(Qt::Key_X, Qt::ControlModifier), u"0+3="_s, u" two"_s},
     };
     for (const auto &[name, from, to, act, question, result] : rows) {
         SCOPED_TRACE(name);
@@ -63,9 +64,9 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
             TextView *const text = makeText(from, to);
             atEvent = [refuses](qint64 event) { answer(refuses && event == textViewEventRefuseChange); };
             act(text);
-            EXPECT_EQ(dialogCalls.value(0), u"2100 6 7 "_qs + question);
-            EXPECT_EQ(TextViewString(6), refuses ? u"one two"_qs : result);
-            EXPECT_EQ(takeSiteCodes().contains(u"2101"_qs), !refuses);
+            EXPECT_EQ(dialogCalls.value(0), u"2100 6 7 "_s + question);
+            EXPECT_EQ(TextViewString(6), refuses ? u"one two"_s : result);
+            EXPECT_EQ(takeSiteCodes().contains(u"2101"_s), !refuses);
         }
     }
 }
@@ -74,13 +75,13 @@ TEST_F(TextSite, SelectionAndEditingAreTold)
 {
     TextView *const text = makeText();
     select(text, 0, 3);
-    EXPECT_EQ(takeSiteCalls(), u"2102 6 7 0+3"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2102 6 7 0+3"_s);
     QTest::keyClick(text, Qt::Key_Right);
-    EXPECT_EQ(takeSiteCalls(), u"2102 6 7 3+0"_qs) << "moving changes nothing";
+    EXPECT_EQ(takeSiteCalls(), u"2102 6 7 3+0"_s) << "moving changes nothing";
     text->clearFocus();
-    EXPECT_EQ(takeSiteCalls(), u"2104 6 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2104 6 7"_s);
     text->setFocus();
-    EXPECT_EQ(takeSiteCalls(), u"2103 6 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2103 6 7"_s);
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
 }
 

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +26,7 @@ protected:
 
     TokenField *makeField()
     {
-        CUI_TokenField(6, {u"a"_qs, u"b"_qs}, QRectF(0, 0, 200, 30));
+        CUI_TokenField(6, {u"a"_s, u"b"_s}, QRectF(0, 0, 200, 30));
         auto *const field = settled<TokenField>(6);
         field->setFocus();
         takeSiteCalls();
@@ -36,27 +37,27 @@ protected:
 TEST_F(TokenSite, AWordIsAskedAboutWhenItEndsAndTheFieldTold)
 {
     TokenField *const field = makeField();
-    QTest::keyClicks(field, u"c,"_qs);
-    EXPECT_EQ(takeSiteCalls(), u"2301 6 7 c, 2302 6 7 a|b|c"_qs);
-    EXPECT_EQ(field->text(), u"a, b, c, "_qs);
-    QTest::keyClicks(field, u"d"_qs);
+    QTest::keyClicks(field, u"c,"_s);
+    EXPECT_EQ(takeSiteCalls(), u"2301 6 7 c, 2302 6 7 a|b|c"_s);
+    EXPECT_EQ(field->text(), u"a, b, c, "_s);
+    QTest::keyClicks(field, u"d"_s);
     QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(takeSiteCalls(), u"2300 6 7 d, 2301 6 7 d, 2302 6 7 a|b|c|d, 1 6 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2300 6 7 d, 2301 6 7 d, 2302 6 7 a|b|c|d, 1 6 7"_s);
     atEvent = [](qint64) { CUI_DialogEventObj()->arrayObj.clear(); };
-    QTest::keyClicks(field, u"e"_qs);
+    QTest::keyClicks(field, u"e"_s);
     field->clearFocus();
-    EXPECT_EQ(takeSiteCodes(), u"2300 2301"_qs);
-    EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|c|d"_qs) << "refused";
+    EXPECT_EQ(takeSiteCodes(), u"2300 2301"_s);
+    EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|c|d"_s) << "refused";
 }
 
 TEST_F(TokenSite, OffersTheProgramsCompletions)
 {
     atEvent = [](qint64 event) {
         if (event == tokenFieldEventCompletions) {
-            CUI_DialogEventObj()->arrayObj = {u"candle"_qs, u"cat"_qs};
+            CUI_DialogEventObj()->arrayObj = {u"candle"_s, u"cat"_s};
         }
     };
-    QTest::keyClicks(makeField(), u"c"_qs);
+    QTest::keyClicks(makeField(), u"c"_s);
     takeSiteCalls();
     QWidget *const list = QApplication::activePopupWidget();
     ASSERT_TRUE(list);
@@ -64,7 +65,7 @@ TEST_F(TokenSite, OffersTheProgramsCompletions)
         QTest::keyClick(list, key);
     }
     takeSiteCalls();
-    EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|cat"_qs);
+    EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|cat"_s);
 }
 
 TEST_F(TokenSite, SurvivesBeingDeletedAtEveryEvent)

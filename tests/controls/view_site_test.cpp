@@ -9,6 +9,7 @@
 #include <QPainter>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,7 +41,7 @@ Happening mouse(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons butt
 Happening key(QEvent::Type type, Qt::Key code)
 {
     return [=](ViewSC *view) {
-        QKeyEvent event(type, code, Qt::NoModifier, QStringLiteral("x"));
+        QKeyEvent event(type, code, Qt::NoModifier, u"x"_s);
         QApplication::sendEvent(view, &event);
     };
 }
@@ -86,7 +87,7 @@ TEST_F(ViewSite, EveryEventCarriesItsCodeTagsAndPlatformEventAndMayDeleteTheView
         };
         CUI_OutputWindowSetTag(0);
         happen(m_view);
-        EXPECT_EQ(takeSiteCalls(), QString::number(code) + u" 5 7"_qs);
+        EXPECT_EQ(takeSiteCalls(), QString::number(code) + u" 5 7"_s);
         EXPECT_TRUE(isCurrent);
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         EXPECT_FALSE(CUI_EventEvent());
@@ -133,7 +134,7 @@ TEST_F(ViewSite, TellsThatTheMouseCameAndWentWhenItMayBeDeleted)
             EXPECT_EQ(static_cast<QEnterEvent *>(CUI_EventEvent())->position(), QPointF(3, 4));
         }
     };
-    EXPECT_EQ(takeSiteCalls(), u"2006 5 7, 2007 5 7"_qs);
+    EXPECT_EQ(takeSiteCalls(), u"2006 5 7, 2007 5 7"_s);
     EXPECT_FALSE(m_view);
 }
 
@@ -154,7 +155,7 @@ TEST_F(ViewSite, DrawsTheDirtyPartOrUpdatesItsLayer)
     takeSiteCalls();
     wantsLayer = true;
     m_view->repaint();
-    EXPECT_EQ(codesOf(dialogCalls), u"2027 2028"_qs);
+    EXPECT_EQ(codesOf(dialogCalls), u"2027 2028"_s);
 }
 
 TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
@@ -163,11 +164,11 @@ TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
         atEvent = [lets](qint64 event) { answer(lets && event == viewEventAcceptsFirstResponder); };
         QTest::mouseClick(m_view, Qt::LeftButton);
         EXPECT_EQ(m_view->hasFocus(), lets);
-        EXPECT_EQ(takeSiteCodes(), u"2001 2002 2004"_qs);
+        EXPECT_EQ(takeSiteCodes(), u"2001 2002 2004"_s);
     }
     m_view->clearFocus();
     const ViewSC *const second = makeView(6);
-    atEvent = [](qint64) { answer(dialogCalls.constLast() == u"2001 6 7"_qs); };
+    atEvent = [](qint64) { answer(dialogCalls.constLast() == u"2001 6 7"_s); };
     m_view->setFocus(Qt::TabFocusReason);
     takeSiteCalls();
     EXPECT_TRUE(second->hasFocus()) << "Tab passes by views that refuse";
@@ -177,7 +178,7 @@ TEST_F(ViewSite, PopsUpTheMenuThatTheProgramLeavesInTheRecord)
 {
     QMenu own;
     QMenu other;
-    other.addAction(u"b"_qs);
+    other.addAction(u"b"_s);
     m_view->setMenu(&own);
     for (const bool isHandled : {true, false}) {
         atEvent = [&, isHandled](qint64) {
@@ -193,15 +194,15 @@ TEST_F(ViewSite, PopsUpTheMenuThatTheProgramLeavesInTheRecord)
 TEST_F(ViewSite, DragsAreReportedThatOfferAnAskedForType)
 {
     QMimeData text;
-    text.setText(u"t"_qs);
+    text.setText(u"t"_s);
     QMimeData files;
-    files.setUrls({QUrl(u"file:///a"_qs)});
-    m_view->setDraggedTypes({u"text/uri-list"_qs});
+    files.setUrls({QUrl(u"file:///a"_s)});
+    m_view->setDraggedTypes({u"text/uri-list"_s});
     valuesOf = [](qint64) { return QVariant(CUI_DialogEventObj()->arrayObj).toStringList().join(u'|'); };
     const Table<const QMimeData *, bool, QString> rows = {
         {"another type", &text, true, {}},
-        {"refused", &files, false, u"2016 5 7 file:///a, 2022 5 7 file:///a"_qs},
-        {"taken", &files, true, u"2016 5 7 file:///a, 2022 5 7 file:///a"_qs},
+        {"refused", &files, false, u"2016 5 7 file:///a, 2022 5 7 file:///a"_s},
+        {"taken", &files, true, u"2016 5 7 file:///a, 2022 5 7 file:///a"_s},
     };
     for (const auto &[name, data, takes, calls] : rows) {
         SCOPED_TRACE(name);

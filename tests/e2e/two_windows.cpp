@@ -10,23 +10,24 @@
 #include <QCoreApplication>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 static void askUntilOther()
 {
     QString answer;
-    while (answer != QStringLiteral("other")) {
-        answer = ZRInput(10, 60, QStringLiteral("Which?"), QString(), notGiven, notGiven, notGiven);
+    while (answer != u"other"_s) {
+        answer = ZRInput(10, 60, u"Which?"_s, QString(), notGiven, notGiven, notGiven);
         CUI_PrintToWindowPrintStatement({answer});
     }
 }
 
 int main()
 {
-    QCoreApplication::setApplicationName(QStringLiteral("Windows"));
+    QCoreApplication::setApplicationName(u"Windows"_s);
     CocoaInit();
     CUI_EditMenu(1);
-    CUI_Window(1, QStringLiteral("First"), notGiven, QRectF(100, 100, 400, 150));
-    CUI_Window(2, QStringLiteral("Second"), notGiven, QRectF(600, 300, 400, 150));
+    CUI_Window(1, u"First"_s, notGiven, QRectF(100, 100, 400, 150));
+    CUI_Window(2, u"Second"_s, notGiven, QRectF(600, 300, 400, 150));
     askUntilOther();
     CUI_Window(1, QString(), notGiven, QRectF());
     askUntilOther();

@@ -7,6 +7,7 @@
 #include <QApplication>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 using namespace tetrad::fuzz;
 
 namespace {
@@ -152,7 +153,7 @@ void archive(const View &view)
     require(items.size() == view.items().size(), "every item is archived", view.dump());
     for (const QVariant &item : items) {
         const QVariantMap map = item.toMap();
-        require(map.size() >= 10 && map.contains(QStringLiteral("type")), "an item has its ten keys", view.dump());
+        require(map.size() >= 10 && map.contains(u"type"_s), "an item has its ten keys", view.dump());
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QVariantMap>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 using namespace tetrad::fuzz;
 
 namespace {
@@ -53,7 +54,7 @@ void compareWithPrintf(const QString &text, const FormatDirective &directive, qi
 
 void survive(const QString &format, qint64 integer, double real, const QString &text)
 {
-    const QVariantMap map = {{text, integer}, {QStringLiteral("list"), QVariantList{real, text, QVariant()}}};
+    const QVariantMap map = {{text, integer}, {u"list"_s, QVariantList{real, text, QVariant()}}};
     StringWithFormat(format, integer, real, text, map);
     StringWithFormat(format, real, text, integer);
     StringWithFormat(format, text, qUtf8Printable(text), QVariant(), true);

@@ -6,6 +6,7 @@
 #include "tests/table.h"
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -67,13 +68,13 @@ TEST(Answer, IsJudgedInTheOrderOfTheChecks)
 TEST(Answer, HasATextOfItsValue)
 {
     const Table<QString, const char *> rows = {
-        {"whole", QStringLiteral("6*4"), "24"},
-        {"x multiplies", QStringLiteral("6x2X2"), "24"},
-        {"integers divide as decimals", QStringLiteral("7/2+.5/2"), "3.750"},
-        {"rounded to whole", QStringLiteral("24-1/9999"), "24"},
-        {"more than a float's bits", QStringLiteral("16777217"), "16777217.000"},
-        {"infinite", QStringLiteral("-1/0"), "-inf"},
-        {"none", QStringLiteral("2+"), "missing operand after '+' at position 4"},
+        {"whole", u"6*4"_s, "24"},
+        {"x multiplies", u"6x2X2"_s, "24"},
+        {"integers divide as decimals", u"7/2+.5/2"_s, "3.750"},
+        {"rounded to whole", u"24-1/9999"_s, "24"},
+        {"more than a float's bits", u"16777217"_s, "16777217.000"},
+        {"infinite", u"-1/0"_s, "-inf"},
+        {"none", u"2+"_s, "missing operand after '+' at position 4"},
     };
     for (const auto &[name, answer, text] : rows) {
         EXPECT_EQ(EvaluateMath(answer).toStdString(), text) << name;
@@ -82,14 +83,14 @@ TEST(Answer, HasATextOfItsValue)
 
 TEST(Answer, OfAnyLengthIsJudged)
 {
-    const PuzzleNumbers numbers = numbersOf(QStringLiteral("1 3 4 6"));
+    const PuzzleNumbers numbers = numbersOf(u"1 3 4 6"_s);
     EXPECT_EQ(judgeAnswer(QString(), numbers), Outcome::nothingTyped);
     // The digits of an answer without a length-prefixed form are not counted.
-    EXPECT_EQ(judgeAnswer(parenthesised(123, QStringLiteral("1+3+4+6+8")), numbers), Outcome::extraNumbers);
-    EXPECT_EQ(judgeAnswer(parenthesised(124, QStringLiteral("1+3+4+6+8")), numbers), Outcome::incorrect);
-    EXPECT_EQ(judgeAnswer(QStringLiteral("1+3+4+6+8あ"), numbers), Outcome::incorrect);
-    EXPECT_EQ(judgeAnswer(parenthesised(100000, QStringLiteral("6/(1-3/4)")), numbers), Outcome::correct);
-    EXPECT_EQ(judgeAnswer(QString(QStringLiteral("1+").repeated(100000) + u"346"), numbers), Outcome::incorrect);
+    EXPECT_EQ(judgeAnswer(parenthesised(123, u"1+3+4+6+8"_s), numbers), Outcome::extraNumbers);
+    EXPECT_EQ(judgeAnswer(parenthesised(124, u"1+3+4+6+8"_s), numbers), Outcome::incorrect);
+    EXPECT_EQ(judgeAnswer(u"1+3+4+6+8あ"_s, numbers), Outcome::incorrect);
+    EXPECT_EQ(judgeAnswer(parenthesised(100000, u"6/(1-3/4)"_s), numbers), Outcome::correct);
+    EXPECT_EQ(judgeAnswer(QString(u"1+"_s.repeated(100000) + u"346"), numbers), Outcome::incorrect);
     EXPECT_EQ(judgeAnswer(QString(200000, u'1'), numbers), Outcome::wrongNumbers);
 }
 

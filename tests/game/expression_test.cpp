@@ -4,6 +4,7 @@
 #include "tests/table.h"
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -47,31 +48,29 @@ TEST(Expression, AnyDepthOfParentheses)
     const QString opened(depth, u'(');
     const QString closed(depth, u')');
     EXPECT_EQ(outcomeOf(QString(depth, u'-') + u'7'), "7");
-    EXPECT_EQ(outcomeOf(QStringLiteral("1+(").repeated(depth) + u'1' + closed), "1000001");
+    EXPECT_EQ(outcomeOf(u"1+("_s.repeated(depth) + u'1' + closed), "1000001");
     EXPECT_EQ(outcomeOf(opened + closed), "empty parentheses at position 1000000");
     EXPECT_EQ(outcomeOf(opened + u'1'), "'(' without ')' at position 1000000");
 }
 
 TEST(Expression, IsMadeFromAFormat)
 {
-    const Expression plain = ExpressionWithFormat(QStringLiteral("9/2"));
+    const Expression plain = ExpressionWithFormat(u"9/2"_s);
     EXPECT_EQ(ExpressionValueWithObject(plain, QVariant(), QVariant()).toDouble(), 4.5);
-    EXPECT_EQ(ExpressionWithFormat(QStringLiteral("%@*%d"), QStringLiteral("2"), 3).value(), 6.0);
-    EXPECT_THROW(ExpressionWithFormat(QStringLiteral("5%@")), ExpressionError);
+    EXPECT_EQ(ExpressionWithFormat(u"%@*%d"_s, u"2"_s, 3).value(), 6.0);
+    EXPECT_THROW(ExpressionWithFormat(u"5%@"_s), ExpressionError);
 }
 
 TEST(Pattern, MatchesWithinTheRangeInOrder)
 {
     ErrorObject error;
-    EXPECT_FALSE(
-        RegularExpressionWithPattern(QStringLiteral("[0-9"), QRegularExpression::NoPatternOption, &error).isValid());
+    EXPECT_FALSE(RegularExpressionWithPattern(u"[0-9"_s, QRegularExpression::NoPatternOption, &error).isValid());
     EXPECT_TRUE(error.description.contains(u"\"[0-9\"")) << error.description.toStdString();
 
-    const auto letters =
-        RegularExpressionWithPattern(QStringLiteral("[a-c]+"), QRegularExpression::CaseInsensitiveOption, nullptr);
+    const auto letters = RegularExpressionWithPattern(u"[a-c]+"_s, QRegularExpression::CaseInsensitiveOption, nullptr);
     QList<TextRange> found;
     for (const auto &match :
-         RegularExpressionMatches(letters, QStringLiteral("aa1Bc2cccc"), QRegularExpression::NoMatchOption, 1, 7)) {
+         RegularExpressionMatches(letters, u"aa1Bc2cccc"_s, QRegularExpression::NoMatchOption, 1, 7)) {
         found.append(TextCheckingResultRange(match));
     }
     EXPECT_EQ(found, (QList<TextRange>{{1, 1}, {3, 2}, {6, 2}}));

@@ -9,6 +9,7 @@
 #include <vector>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +19,7 @@ std::map<quint32, std::set<Access>> accessesByLine;
 
 quint32 recordAccess(quint32 index, quint32 bound, quint32 line, const QString &file)
 {
-    EXPECT_EQ(file, QStringLiteral("Tetrad Game.zr"));
+    EXPECT_EQ(file, u"Tetrad Game.zr"_s);
     EXPECT_LE(index, bound);
     accessesByLine[line].insert({index, bound});
     return index;
@@ -52,15 +53,15 @@ TEST_F(History, RepeatIsDrawnAgainAndTheAcceptedDrawIsGraded)
 {
     const RandomSource source = replay({10, 10, 10, 70, 70, 10, 40});
     EXPECT_EQ(choosePuzzle(history, numbers, source), Level::easy);
-    EXPECT_EQ(textOf(numbers), QStringLiteral("2 2 3 9"));
+    EXPECT_EQ(textOf(numbers), u"2 2 3 9"_s);
     EXPECT_EQ(choosePuzzle(history, numbers, source), Level::hard);
-    EXPECT_EQ(textOf(numbers), QStringLiteral("4 4 5 7"));
+    EXPECT_EQ(textOf(numbers), u"4 4 5 7"_s);
     EXPECT_EQ(choosePuzzle(history, numbers, source), Level::medium);
     EXPECT_EQ(gPosition, 40);
     EXPECT_EQ(history.count(), 3);
-    QString key = QStringLiteral("2 2 3 9 ");
+    QString key = u"2 2 3 9 "_s;
     EXPECT_TRUE(history.holds(key));
-    EXPECT_EQ(key, QStringLiteral("2 5 5 8 ")) << "a repeat becomes the newest key";
+    EXPECT_EQ(key, u"2 5 5 8 "_s) << "a repeat becomes the newest key";
 }
 
 TEST_F(History, CycleShows96DifferentPuzzlesThenStartsAgain)

@@ -30,6 +30,7 @@
 int gameMain(int argc, char **argv);
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,7 +54,7 @@ struct Holding
 std::array holdings = {
     Holding{"windows", [] { return qint64(QApplication::topLevelWidgets().size()); }},
     Holding{"widgets", [] { return qint64(QApplication::allWidgets().size()); }},
-    Holding{"open files", [] { return qint64(QDir(QStringLiteral("/proc/self/fd")).entryList().size()); }},
+    Holding{"open files", [] { return qint64(QDir(u"/proc/self/fd"_s).entryList().size()); }},
     // Two bytes for each of 10,000 puzzles, less than any object, timer or connection takes; what the game has shown of
     // a cycle takes some kilobytes.
     Holding{"heap bytes", heapInUse_bytes, 20'000},
@@ -84,12 +85,12 @@ void require(bool holds, const char *what)
 
 // Every puzzle takes one of four ways: solved at once, solved after wrong answers, skipped, or left unanswered for a
 // while. The solution is none here, and Escape is the answer that cancels.
-const QString cancelled = QStringLiteral("\x1b");
+const QString cancelled = u"\x1b"_s;
 const QList<QStringList> ways = {
     {QString()},
-    {QStringLiteral("1+2+3+4+5"), QStringLiteral("9"), QStringLiteral("(((1"), QString()},
-    {QStringLiteral("s")},
-    {QStringLiteral(""), cancelled, QString()},
+    {u"1+2+3+4+5"_s, u"9"_s, u"(((1"_s, QString()},
+    {u"s"_s},
+    {u""_s, cancelled, QString()},
 };
 
 QString solutionOf(const QString &puzzle)
@@ -105,7 +106,7 @@ QString solutionOf(const QString &puzzle)
 QString puzzleOnScreen()
 {
     static const QRegularExpression pattern(
-        QStringLiteral("\\n[\\s\\x08]*(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]*\\n"));
+        u"\\n[\\s\\x08]*(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]*\\n"_s);
     const auto match = pattern.match(CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->textString());
     require(match.hasMatch(), "a puzzle is on the screen");
     return match.capturedTexts().mid(1).join(u' ');

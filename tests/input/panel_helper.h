@@ -8,6 +8,8 @@
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 /// Types what an input method composed.
 inline void compose(QWidget *target, const QString &text)
 {
@@ -19,7 +21,7 @@ inline void compose(QWidget *target, const QString &text)
 /// One repetition of a key that was already down before the panel came.
 inline void repeatHeldKey(QWidget *target, Qt::Key key)
 {
-    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"), true);
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, u"\r"_s, true);
     QCoreApplication::sendEvent(target, &held);
 }
 

@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,13 +17,13 @@ namespace {
 void check()
 {
     EXPECT_EQ(CopyDblToString(1.5), u" 1.5");
-    EXPECT_EQ(StringWithFormat(u"%.3f %g %e"_qs, 1234.5, 0.5, 0.5), u"1234.500 0.5 5.000000e-01");
-    EXPECT_EQ(StringWithFormat(u"%'d %@"_qs, 1234567, 1.5), u"1234567 1.5");
-    EXPECT_EQ(StringDoubleValue(u"1.5"_qs), 1.5);
-    EXPECT_EQ(StringDoubleValue(u"1,5"_qs), 1);
-    EXPECT_EQ(UcaseCFString(u"quit"_qs), u"QUIT");
-    EXPECT_EQ(LcaseCFString(u"QUIT"_qs), u"quit");
-    EXPECT_EQ(InString(0, u"QUIT"_qs, u"i"_qs, searchCaseInsensitive), 2);
+    EXPECT_EQ(StringWithFormat(u"%.3f %g %e"_s, 1234.5, 0.5, 0.5), u"1234.500 0.5 5.000000e-01");
+    EXPECT_EQ(StringWithFormat(u"%'d %@"_s, 1234567, 1.5), u"1234567 1.5");
+    EXPECT_EQ(StringDoubleValue(u"1.5"_s), 1.5);
+    EXPECT_EQ(StringDoubleValue(u"1,5"_s), 1);
+    EXPECT_EQ(UcaseCFString(u"quit"_s), u"QUIT");
+    EXPECT_EQ(LcaseCFString(u"QUIT"_s), u"quit");
+    EXPECT_EQ(InString(0, u"QUIT"_s, u"i"_s, searchCaseInsensitive), 2);
 }
 
 TEST(Locales, changeNeitherNumbersNorTheCaseOfAscii)

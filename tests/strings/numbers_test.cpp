@@ -10,6 +10,7 @@
 #include <utility>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -56,27 +57,27 @@ TEST(NumberReader, readsTheLeadingNumber)
 {
     const Table<QString, double, qint64> rows = {
         {"none", {}, 0, 0},
-        {"negative", u"-23.5"_qs, -23.5, -23},
-        {"plus sign", u"+7"_qs, 7, 7},
-        {"two signs", u"+-7"_qs, 0, 0},
-        {"blanks first", u" \t\n 8.5"_qs, 8.5, 8},
-        {"junk after", u"12 puzzles"_qs, 12, 12},
-        {"junk first", u"about 12"_qs, 0, 0},
-        {"no digit before the point", u".5"_qs, 0.5, 0},
-        {"no digit after the point", u"5."_qs, 5, 5},
-        {"point alone", u"."_qs, 0, 0},
-        {"exponent", u"1.5e3"_qs, 1500, 1},
-        {"exponent without digits", u"2e+"_qs, 2, 2},
-        {"hexadecimal", u"0x10"_qs, 0, 0},
-        {"named numbers", u"inf"_qs, 0, 0},
-        {"digits of another script", u"\u0664"_qs, 0, 0},
-        {"largest integer", u"9223372036854775807"_qs, 9223372036854775807.0, largest},
-        {"above it", u"9223372036854775808"_qs, 9223372036854775808.0, largest},
-        {"below the smallest", u"-9223372036854775809"_qs, -9223372036854775809.0, smallest},
-        {"too large for a double", u"1e400"_qs, infinity, 1},
-        {"exponent beyond 64 bits", u"1e99999999999999999999"_qs, infinity, 1},
-        {"large by exponent only", u"0.0001e+400"_qs, infinity, 0},
-        {"too small", u"1e-400"_qs, 0, 1},
+        {"negative", u"-23.5"_s, -23.5, -23},
+        {"plus sign", u"+7"_s, 7, 7},
+        {"two signs", u"+-7"_s, 0, 0},
+        {"blanks first", u" \t\n 8.5"_s, 8.5, 8},
+        {"junk after", u"12 puzzles"_s, 12, 12},
+        {"junk first", u"about 12"_s, 0, 0},
+        {"no digit before the point", u".5"_s, 0.5, 0},
+        {"no digit after the point", u"5."_s, 5, 5},
+        {"point alone", u"."_s, 0, 0},
+        {"exponent", u"1.5e3"_s, 1500, 1},
+        {"exponent without digits", u"2e+"_s, 2, 2},
+        {"hexadecimal", u"0x10"_s, 0, 0},
+        {"named numbers", u"inf"_s, 0, 0},
+        {"digits of another script", u"\u0664"_s, 0, 0},
+        {"largest integer", u"9223372036854775807"_s, 9223372036854775807.0, largest},
+        {"above it", u"9223372036854775808"_s, 9223372036854775808.0, largest},
+        {"below the smallest", u"-9223372036854775809"_s, -9223372036854775809.0, smallest},
+        {"too large for a double", u"1e400"_s, infinity, 1},
+        {"exponent beyond 64 bits", u"1e99999999999999999999"_s, infinity, 1},
+        {"large by exponent only", u"0.0001e+400"_s, infinity, 0},
+        {"too small", u"1e-400"_s, 0, 1},
         {"small by many zeros", QString(u"0." + QString(400, u'0') + u'1'), 0, 0},
     };
     for (const auto &[name, text, asDouble, asInteger] : rows) {
@@ -91,8 +92,8 @@ TEST(NumberReader, takesTheValueOfNumbersAndTextsOnly)
     EXPECT_EQ(ZRDblVal(-3), -3);
     EXPECT_EQ(ZRDblVal(true), 1);
     EXPECT_EQ(ZRDblVal(QVariant::fromValue(7L)), 7);
-    EXPECT_EQ(ZRDblVal(u" 4.5 apples"_qs), 4.5);
-    EXPECT_EQ(ZRDblVal(QStringList{u"4"_qs}), 0);
+    EXPECT_EQ(ZRDblVal(u" 4.5 apples"_s), 4.5);
+    EXPECT_EQ(ZRDblVal(QStringList{u"4"_s}), 0);
     EXPECT_EQ(ZRDblVal(QVariant()), 0);
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -62,7 +63,7 @@ TEST(PascalStrings, shareOneResult)
 {
     const unsigned char *first = PSmid(pushed("first"), 1, 5);
     EXPECT_EQ(first, gReturnedString);
-    EXPECT_EQ(StringPascalString(u"second"_qs), first);
+    EXPECT_EQ(StringPascalString(u"second"_s), first);
     EXPECT_EQ(charactersOf(PSmid(gReturnedString, 2, 3)), "eco") << "a result is its own next source";
     unsigned char buffer[300] = {3, 2, 'a', 'b'};
     EXPECT_EQ(charactersOf(PSstrcpy(buffer + 1, buffer)), "\2ab") << "a copy may overlap";
@@ -72,15 +73,15 @@ TEST(PascalStrings, convertFromTexts)
 {
     const Table<QString, std::string> rows = {
         {"none", {}, ""},
-        {"Mac Roman", u"6/Ä€\uF8FFˇ"_qs, "6/\x80\xDB\xF0\xFF"},
-        {"accent of its own", u"e\u0301"_qs, "\x8E"},
+        {"Mac Roman", u"6/Ä€\uF8FFˇ"_s, "6/\x80\xDB\xF0\xFF"},
+        {"accent of its own", u"e\u0301"_s, "\x8E"},
         {"255 characters", QString(255, u'é'), std::string(255, '\x8E')},
         {"256 characters give none", QString(256, u'x'), ""},
-        {"as does a character outside the basic plane", u"hard 🟡"_qs, ""},
+        {"as does a character outside the basic plane", u"hard 🟡"_s, ""},
         {"zero", QString(u"a" + QString(1, QChar(0)) + u"b"), std::string("a\0b", 3)},
     };
     for (const auto &[name, text, bytes] : rows) {
-        StringPascalString(u"what was there before"_qs);
+        StringPascalString(u"what was there before"_s);
         EXPECT_EQ(charactersOf(StringPascalString(text)), bytes) << name;
     }
     EXPECT_FALSE(StringWithPascalString(pushed("")).isNull()) << "empty, not none";

@@ -8,6 +8,7 @@
 #include <limits>
 
 using namespace tetrad;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,63 +25,62 @@ void expectAll(const Table<QString, const char *> &rows)
 TEST(TextFormat, printsNumbersGivenAsAnotherType)
 {
     expectAll({
-        {"width from arguments", StringWithFormat(u"[%*d|%*d]"_qs, 3, 7, -3, 7), "[  7|7  ]"},
-        {"precision from an argument", StringWithFormat(u"%.*f %.*f"_qs, 1, 0.25, -1, 0.25), "0.2 0.250000"},
+        {"width from arguments", StringWithFormat(u"[%*d|%*d]"_s, 3, 7, -3, 7), "[  7|7  ]"},
+        {"precision from an argument", StringWithFormat(u"%.*f %.*f"_s, 1, 0.25, -1, 0.25), "0.2 0.250000"},
         {"extremes",
-         StringWithFormat(u"%ld %lu"_qs, std::numeric_limits<qint64>::min(), std::numeric_limits<quint64>::max()),
+         StringWithFormat(u"%ld %lu"_s, std::numeric_limits<qint64>::min(), std::numeric_limits<quint64>::max()),
          "-9223372036854775808 18446744073709551615"},
-        {"cut to size", StringWithFormat(u"%hhd %hu %d %u"_qs, 300, 65537, 4294967295U, -1), "44 1 -1 4294967295"},
-        {"64-bit sizes", StringWithFormat(u"%ld %lld %qd %zd %td %jd"_qs, 1LL << 40, 1, 2, 3, 4, 5),
+        {"cut to size", StringWithFormat(u"%hhd %hu %d %u"_s, 300, 65537, 4294967295U, -1), "44 1 -1 4294967295"},
+        {"64-bit sizes", StringWithFormat(u"%ld %lld %qd %zd %td %jd"_s, 1LL << 40, 1, 2, 3, 4, 5),
          "1099511627776 1 2 3 4 5"},
-        {"doubles saturate", StringWithFormat(u"%d %d %d %u"_qs, -2.9, 1e20, infinity, -1.0),
+        {"doubles saturate", StringWithFormat(u"%d %d %d %u"_s, -2.9, 1e20, infinity, -1.0),
          "-2 2147483647 2147483647 0"},
-        {"a text's value", StringWithFormat(u"%d %.1f"_qs, u"12 puzzles"_qs, u"2.5 kg"_qs), "12 2.5"},
-        {"not finite", StringWithFormat(u"%f %05F %e"_qs, -infinity, infinity, std::nan("")), "-inf   INF nan"},
+        {"a text's value", StringWithFormat(u"%d %.1f"_s, u"12 puzzles"_s, u"2.5 kg"_s), "12 2.5"},
+        {"not finite", StringWithFormat(u"%f %05F %e"_s, -infinity, infinity, std::nan("")), "-inf   INF nan"},
     });
 }
 
 TEST(TextFormat, printsTextsAndObjects)
 {
-    const QVariant error = QVariant::fromValue(ErrorObject{u"Math"_qs, 3, u"No operand at 2"_qs});
+    const QVariant error = QVariant::fromValue(ErrorObject{u"Math"_s, 3, u"No operand at 2"_s});
     expectAll({
-        {"text", StringWithFormat(u"About %@!"_qs, u"Ärger"_qs), "About Ärger!"},
-        {"no text", StringWithFormat(u"%@ %@ %s"_qs, QString(), QVariant(), static_cast<const char *>(nullptr)),
+        {"text", StringWithFormat(u"About %@!"_s, u"Ärger"_s), "About Ärger!"},
+        {"no text", StringWithFormat(u"%@ %@ %s"_s, QString(), QVariant(), static_cast<const char *>(nullptr)),
          "(null) (null) (null)"},
-        {"a directive in an argument is text", StringWithFormat(u"%@"_qs, u"%d"_qs), "%d"},
-        {"width and precision", StringWithFormat(u"[%5@|%-5@|%.2@]"_qs, u"ab"_qs, u"ab"_qs, u"abc"_qs),
-         "[   ab|ab   |ab]"},
-        {"C string", StringWithFormat(u"[%s|%5.2s|%.*s]"_qs, "abc", "abc", 1, "abc"), "[abc|   ab|a]"},
-        {"C string is Mac Roman", StringWithFormat(u"%s %@ %c"_qs, "\x80", "\x80", 0x80), "Ä Ä Ä"},
-        {"bytes up to a zero", StringWithFormat(u"%s"_qs, QByteArray("a\0b", 3)), "a"},
-        {"numbers", StringWithFormat(u"%@ %@ %@ %@"_qs, 24, 0.1, 0.1F, -7LL), "24 0.1 0.1 -7"},
-        {"error object", StringWithFormat(u"%@"_qs, error), "No operand at 2"},
-        {"list", StringWithFormat(u"%@"_qs, QStringList{u"a"_qs, u"b"_qs}), "(a, b)"},
-        {"map", StringWithFormat(u"%@"_qs, QVariantMap{{u"a"_qs, 1}, {u"b"_qs, QVariantList{2}}}), "{a = 1; b = (2)}"},
-        {"address", StringWithFormat(u"%p %@"_qs, reinterpret_cast<void *>(0xbeef), reinterpret_cast<void *>(0xbeef)),
+        {"a directive in an argument is text", StringWithFormat(u"%@"_s, u"%d"_s), "%d"},
+        {"width and precision", StringWithFormat(u"[%5@|%-5@|%.2@]"_s, u"ab"_s, u"ab"_s, u"abc"_s), "[   ab|ab   |ab]"},
+        {"C string", StringWithFormat(u"[%s|%5.2s|%.*s]"_s, "abc", "abc", 1, "abc"), "[abc|   ab|a]"},
+        {"C string is Mac Roman", StringWithFormat(u"%s %@ %c"_s, "\x80", "\x80", 0x80), "Ä Ä Ä"},
+        {"bytes up to a zero", StringWithFormat(u"%s"_s, QByteArray("a\0b", 3)), "a"},
+        {"numbers", StringWithFormat(u"%@ %@ %@ %@"_s, 24, 0.1, 0.1F, -7LL), "24 0.1 0.1 -7"},
+        {"error object", StringWithFormat(u"%@"_s, error), "No operand at 2"},
+        {"list", StringWithFormat(u"%@"_s, QStringList{u"a"_s, u"b"_s}), "(a, b)"},
+        {"map", StringWithFormat(u"%@"_s, QVariantMap{{u"a"_s, 1}, {u"b"_s, QVariantList{2}}}), "{a = 1; b = (2)}"},
+        {"address", StringWithFormat(u"%p %@"_s, reinterpret_cast<void *>(0xbeef), reinterpret_cast<void *>(0xbeef)),
          "0xbeef 0xbeef"},
-        {"count of characters is not written", StringWithFormat(u"a%nb%d"_qs, 1, 2), "ab2"},
+        {"count of characters is not written", StringWithFormat(u"a%nb%d"_s, 1, 2), "ab2"},
     });
 }
 
 TEST(TextFormat, survivesWhatIsMissingOrMalformed)
 {
     expectAll({
-        {"order", StringWithFormat(u"%2$@ of %1$d"_qs, 3, u"b"_qs), "b of 3"},
-        {"no such place", StringWithFormat(u"%9$d %9$@ %99999999999$d"_qs, 1), "0 (null) 0"},
-        {"missing", StringWithFormat(u"%d %@ %f %s %p"_qs), "0 (null) 0.000000 (null) 0x0"},
+        {"order", StringWithFormat(u"%2$@ of %1$d"_s, 3, u"b"_s), "b of 3"},
+        {"no such place", StringWithFormat(u"%9$d %9$@ %99999999999$d"_s, 1), "0 (null) 0"},
+        {"missing", StringWithFormat(u"%d %@ %f %s %p"_s), "0 (null) 0.000000 (null) 0x0"},
         {"none", StringWithFormat({}, 1), ""},
-        {"percent sign", StringWithFormat(u"100%% of %d"_qs, 1), "100% of 1"},
-        {"unknown letter", StringWithFormat(u"%y %d"_qs, 1), "%y 1"},
-        {"ends in the middle", StringWithFormat(u"%-08.3l"_qs, 1), "%-08.3l"},
-        {"point without digits", StringWithFormat(u"%.f %.@"_qs, 2.5, u"x"_qs), "2 "},
+        {"percent sign", StringWithFormat(u"100%% of %d"_s, 1), "100% of 1"},
+        {"unknown letter", StringWithFormat(u"%y %d"_s, 1), "%y 1"},
+        {"ends in the middle", StringWithFormat(u"%-08.3l"_s, 1), "%-08.3l"},
+        {"point without digits", StringWithFormat(u"%.f %.@"_s, 2.5, u"x"_s), "2 "},
     });
 }
 
 TEST(TextFormat, limitsWidthAndPrecision)
 {
-    EXPECT_EQ(StringWithFormat(u"%99999999999999999999d"_qs, 1).size(), 10000);
-    EXPECT_EQ(StringWithFormat(u"%.99999999f"_qs, 1.0).size(), 10002);
-    EXPECT_EQ(StringWithFormat(u"%.*f"_qs, infinity, 1e308).size(), 309 + 10001);
+    EXPECT_EQ(StringWithFormat(u"%99999999999999999999d"_s, 1).size(), 10000);
+    EXPECT_EQ(StringWithFormat(u"%.99999999f"_s, 1.0).size(), 10002);
+    EXPECT_EQ(StringWithFormat(u"%.*f"_s, infinity, 1e308).size(), 309 + 10001);
 }
 
 } // namespace
