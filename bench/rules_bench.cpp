@@ -1,8 +1,8 @@
 // The evaluator beside other expression parsers, an answer's whole way through the checks, and how drawing puzzles
 // grows dearer.
-#include "game/answer.h"
-#include "game/expression.h"
-#include "game/puzzle_history.h"
+#include "game/rules/answer.h"
+#include "game/rules/expression.h"
+#include "game/rules/puzzle_history.h"
 
 #include <benchmark/benchmark.h>
 #include <fparser.hh>

@@ -1,12 +1,11 @@
-# Installs the runtime for other projects: find_package(Tetrad) gives Tetrad::Runtime. The headers keep
-# their in-tree names, "runtime/app/windows.h", under include/tetrad, which the target brings along.
+# Installs the runtime for other projects: find_package(Tetrad) gives Tetrad::Runtime. The headers have
+# the same paths as in the tree: <tetrad/tetrad.h>, <tetrad/app/windows.h>.
 
 include(CMakePackageConfigHelpers)
 
 # Called once every layer is defined.
 #   tetrad_install_runtime(tetrad_runtime tetrad_strings ...)
 function(tetrad_install_runtime)
-    set(include_folder "${CMAKE_INSTALL_INCLUDEDIR}/tetrad")
     set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Tetrad")
     foreach(target IN LISTS ARGN)
         string(REGEX REPLACE "^tetrad_" "" name ${target})
@@ -16,8 +15,8 @@ function(tetrad_install_runtime)
 
     install(TARGETS ${ARGN} EXPORT TetradTargets
         ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
-        FILE_SET HEADERS DESTINATION "${include_folder}" COMPONENT development
-        INCLUDES DESTINATION "${include_folder}")
+        FILE_SET HEADERS DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
+        INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
     install(EXPORT TetradTargets NAMESPACE Tetrad::
         DESTINATION "${config_folder}" COMPONENT development)
 

@@ -29,15 +29,15 @@ function(tetrad_target_defaults target)
     endif()
 endfunction()
 
-# A layer of the runtime: a static library whose headers are included from the repository's root,
-# as in "runtime/app/windows.h".
+# A layer of the runtime: a static library. Its public headers are in include/, as in <tetrad/app/windows.h>; private ones
+# stay beside their sources and are included from the repository's root, as in "runtime/app/menus/menu_keys.h".
 #   tetrad_add_layer(tetrad_app SOURCES a.cpp b.cpp LINKS tetrad_strings Qt6::Widgets)
 # Everything in LINKS is public: a layer's headers name the types of the layers below.
 function(tetrad_add_layer target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
     add_library(${target} STATIC ${arg_SOURCES})
     tetrad_target_defaults(${target})
-    target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
+    target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>")
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_link_libraries(${target} PUBLIC ${arg_LINKS})
     set_target_properties(${target} PROPERTIES AUTOMOC ON POSITION_INDEPENDENT_CODE ON)

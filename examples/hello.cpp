@@ -1,12 +1,12 @@
 // Prints, asks for a line, and answers it.
 
-#include "runtime/app/application.h"
-#include "runtime/app/menus.h"
-#include "runtime/app/windows.h"
-#include "runtime/console/console_statements.h"
-#include "runtime/input/key_input.h"
-#include "runtime/input/line_input.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/application.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/console/console_statements.h>
+#include <tetrad/input/key_input.h>
+#include <tetrad/input/line_input.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QCoreApplication>
 

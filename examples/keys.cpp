@@ -1,13 +1,13 @@
 // Single keys drive a dot over the console. The program asks for a key, moves, draws anew, and asks again.
 
-#include "runtime/app/application.h"
-#include "runtime/app/menus.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
-#include "runtime/console/console_statements.h"
-#include "runtime/console/console_view.h"
-#include "runtime/input/input_format.h"
-#include "runtime/input/key_input.h"
+#include <tetrad/app/application.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/console/console_statements.h>
+#include <tetrad/console/console_view.h>
+#include <tetrad/input/input_format.h>
+#include <tetrad/input/key_input.h>
 
 #include <QCoreApplication>
 

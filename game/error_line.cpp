@@ -1,7 +1,7 @@
 #include "game/error_line.h"
 
-#include "runtime/console/colors.h"
-#include "runtime/console/console_statements.h"
+#include <tetrad/console/colors.h>
+#include <tetrad/console/console_statements.h>
 
 namespace tetrad {
 

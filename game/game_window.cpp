@@ -1,10 +1,10 @@
 #include "game/game_window.h"
 
-#include "runtime/app/alerts.h"
-#include "runtime/app/application.h"
-#include "runtime/app/windows.h"
-#include "runtime/console/colors.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/alerts.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/console/colors.h>
+#include <tetrad/strings/not_given.h>
 
 namespace tetrad {
 

@@ -1,18 +1,18 @@
-#include "game/answer.h"
 #include "game/error_line.h"
 #include "game/game_window.h"
-#include "game/puzzle_history.h"
-#include "runtime/app/application.h"
-#include "runtime/app/menus.h"
-#include "runtime/app/run_time_stop.h"
-#include "runtime/console/colors.h"
-#include "runtime/console/console_statements.h"
-#include "runtime/input/line_input.h"
-#include "runtime/strings/case_tables.h"
-#include "runtime/strings/not_given.h"
-#include "runtime/strings/number_printer.h"
-#include "runtime/strings/pascal_strings.h"
-#include "runtime/strings/string_stack.h"
+#include "game/rules/answer.h"
+#include "game/rules/puzzle_history.h"
+#include <tetrad/app/application.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/app/run_time_stop.h>
+#include <tetrad/console/colors.h>
+#include <tetrad/console/console_statements.h>
+#include <tetrad/input/line_input.h>
+#include <tetrad/strings/case_tables.h>
+#include <tetrad/strings/not_given.h>
+#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/pascal_strings.h>
+#include <tetrad/strings/string_stack.h>
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "runtime/app/menus.h"
-#include "runtime/app/modal.h"
-#include "runtime/app/output_window.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
-#include "runtime/controls/dialog_event.h"
-#include "runtime/strings/not_given.h"
 #include "tests/table.h"
+#include <tetrad/app/menus.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/app/output_window.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/events/dialog_event.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QApplication>
 #include <QMenu>

@@ -1,4 +1,4 @@
-#include "runtime/console/colors.h"
+#include <tetrad/console/colors.h>
 
 namespace tetrad {
 

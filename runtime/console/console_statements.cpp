@@ -1,10 +1,10 @@
-#include "runtime/console/console_statements.h"
+#include <tetrad/console/console_statements.h>
 
-#include "runtime/app/output_window.h"
-#include "runtime/app/windows.h"
-#include "runtime/console/console_scroll_view.h"
-#include "runtime/console/console_view.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/output_window.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/console/console_scroll_view.h>
+#include <tetrad/console/console_view.h>
+#include <tetrad/strings/not_given.h>
 
 namespace tetrad {
 

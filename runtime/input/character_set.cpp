@@ -1,4 +1,4 @@
-#include "runtime/input/character_set.h"
+#include <tetrad/input/character_set.h>
 
 namespace tetrad {
 

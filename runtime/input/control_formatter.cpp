@@ -1,8 +1,8 @@
-#include "runtime/input/control_formatter.h"
+#include <tetrad/input/control_formatter.h>
 
-#include "runtime/app/output_window.h"
 #include "runtime/input/field_formatter.h"
-#include "runtime/input/input_format.h"
+#include <tetrad/app/output_window.h>
+#include <tetrad/input/input_format.h>
 
 #include <QLineEdit>
 

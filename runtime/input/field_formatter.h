@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/input/control_formatter.h"
+#include <tetrad/input/control_formatter.h>
 
 #include <QString>
 

@@ -1,11 +1,11 @@
-#include "runtime/input/floating_panel.h"
+#include <tetrad/input/floating_panel.h>
 
-#include "runtime/app/modal.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
 #include "runtime/input/panel_backdrop.h"
 #include "runtime/input/panel_layout.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/modal.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QApplication>
 #include <QEvent>

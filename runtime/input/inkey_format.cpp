@@ -1,6 +1,6 @@
-#include "runtime/input/inkey_format.h"
+#include <tetrad/input/inkey_format.h>
 
-#include "runtime/strings/not_given.h"
+#include <tetrad/strings/not_given.h>
 
 #include <optional>
 

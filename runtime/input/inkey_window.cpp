@@ -1,11 +1,11 @@
-#include "runtime/input/inkey_window.h"
+#include <tetrad/input/inkey_window.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/current_event.h"
-#include "runtime/app/modal.h"
-#include "runtime/input/inkey_format.h"
-#include "runtime/input/input_format.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/events/current_event.h>
+#include <tetrad/input/inkey_format.h>
+#include <tetrad/input/input_format.h>
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>

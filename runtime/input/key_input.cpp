@@ -1,10 +1,10 @@
-#include "runtime/input/key_input.h"
+#include <tetrad/input/key_input.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/modal.h"
-#include "runtime/input/inkey_format.h"
-#include "runtime/input/inkey_window.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/input/inkey_format.h>
+#include <tetrad/input/inkey_window.h>
 
 #include <QPointer>
 

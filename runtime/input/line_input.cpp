@@ -1,11 +1,11 @@
-#include "runtime/input/line_input.h"
+#include <tetrad/input/line_input.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/modal.h"
-#include "runtime/input/control_formatter.h"
-#include "runtime/input/input_format.h"
-#include "runtime/input/line_input_window.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/input/control_formatter.h>
+#include <tetrad/input/input_format.h>
+#include <tetrad/input/line_input_window.h>
 
 #include <QLineEdit>
 #include <QPointer>

@@ -1,9 +1,9 @@
-#include "runtime/input/line_input_window.h"
+#include <tetrad/input/line_input_window.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/current_event.h"
-#include "runtime/app/modal.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/events/current_event.h>
 
 #include <QFontMetrics>
 #include <QInputMethodEvent>

@@ -1,6 +1,6 @@
 #include "runtime/input/panel_layout.h"
 
-#include "runtime/strings/not_given.h"
+#include <tetrad/strings/not_given.h>
 
 #include <algorithm>
 

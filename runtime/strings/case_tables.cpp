@@ -1,4 +1,4 @@
-#include "runtime/strings/case_tables.h"
+#include <tetrad/strings/case_tables.h>
 
 #include <cctype>
 #include <cstdlib>

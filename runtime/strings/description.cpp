@@ -1,7 +1,7 @@
 #include "runtime/strings/description.h"
 
-#include "runtime/strings/error_object.h"
-#include "runtime/strings/mac_roman.h"
+#include <tetrad/strings/error_object.h>
+#include <tetrad/strings/mac_roman.h>
 
 #include <QObject>
 #include <QStringList>

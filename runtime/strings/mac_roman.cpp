@@ -1,4 +1,4 @@
-#include "runtime/strings/mac_roman.h"
+#include <tetrad/strings/mac_roman.h>
 
 #include <algorithm>
 #include <array>

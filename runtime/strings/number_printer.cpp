@@ -1,4 +1,4 @@
-#include "runtime/strings/number_printer.h"
+#include <tetrad/strings/number_printer.h>
 
 #include "runtime/strings/format_number.h"
 #include "runtime/strings/saturate.h"

@@ -1,4 +1,4 @@
-#include "runtime/strings/number_reader.h"
+#include <tetrad/strings/number_reader.h>
 
 #include <QByteArray>
 #include <QVariant>

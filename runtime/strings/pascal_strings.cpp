@@ -1,6 +1,6 @@
-#include "runtime/strings/pascal_strings.h"
+#include <tetrad/strings/pascal_strings.h>
 
-#include "runtime/strings/mac_roman.h"
+#include <tetrad/strings/mac_roman.h>
 
 #include <algorithm>
 #include <cstring>

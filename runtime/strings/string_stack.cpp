@@ -1,4 +1,4 @@
-#include "runtime/strings/string_stack.h"
+#include <tetrad/strings/string_stack.h>
 
 #include <algorithm>
 #include <cstdio>

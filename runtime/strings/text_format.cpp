@@ -1,11 +1,11 @@
-#include "runtime/strings/text_format.h"
+#include <tetrad/strings/text_format.h>
 
 #include "runtime/strings/description.h"
 #include "runtime/strings/format_directive.h"
 #include "runtime/strings/format_number.h"
-#include "runtime/strings/mac_roman.h"
-#include "runtime/strings/number_reader.h"
 #include "runtime/strings/saturate.h"
+#include <tetrad/strings/mac_roman.h>
+#include <tetrad/strings/number_reader.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "runtime/strings/text_functions.h"
+#include <tetrad/strings/text_functions.h>
 
 #include <QVariant>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/app/alert.h"
 #include "tests/windows.h"
+#include <tetrad/app/alert.h>
 
 #include <QPushButton>
 

@@ -1,11 +1,11 @@
-#include "runtime/app/alerts.h"
+#include <tetrad/app/alerts.h>
 
-#include "runtime/app/alert.h"
-#include "runtime/app/alert_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/menus.h"
-#include "runtime/strings/error_object.h"
 #include "tests/app/alert_helper.h"
+#include <tetrad/app/alert.h>
+#include <tetrad/app/alert_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/strings/error_object.h>
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,9 +1,9 @@
-#include "runtime/app/application.h"
+#include <tetrad/app/application.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/app_events.h"
-#include "runtime/app/menus.h"
-#include "runtime/app/modal.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/app_events.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/app/modal.h>
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,6 +1,6 @@
-#include "runtime/app/alerts.h"
-#include "runtime/app/application.h"
 #include "tests/app/alert_helper.h"
+#include <tetrad/app/alerts.h>
+#include <tetrad/app/application.h>
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "runtime/app/menus.h"
+#include <tetrad/app/menus.h>
 
-#include "runtime/app/application.h"
 #include "tests/windows.h"
+#include <tetrad/app/application.h>
 
 #include <QClipboard>
 #include <QLabel>

@@ -1,8 +1,8 @@
-#include "runtime/app/modal.h"
+#include <tetrad/app/modal.h>
 
-#include "runtime/app/application.h"
-#include "runtime/app/menus.h"
 #include "tests/windows.h"
+#include <tetrad/app/application.h>
+#include <tetrad/app/menus.h>
 
 #include <QLineEdit>
 #include <QMenu>

@@ -1,8 +1,8 @@
-#include "runtime/app/output_window.h"
+#include <tetrad/app/output_window.h>
 
-#include "runtime/app/content_view.h"
-#include "runtime/app/popover.h"
 #include "tests/app/alert_helper.h"
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/popover.h>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;

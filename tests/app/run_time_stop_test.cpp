@@ -1,9 +1,9 @@
-#include "runtime/app/run_time_stop.h"
+#include <tetrad/app/run_time_stop.h>
 
-#include "runtime/app/alerts.h"
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
 #include "tests/app/alert_helper.h"
+#include <tetrad/app/alerts.h>
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
 
 #include <QTranslator>
 

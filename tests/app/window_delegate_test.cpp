@@ -1,11 +1,11 @@
-#include "runtime/app/window_delegate.h"
+#include <tetrad/app/window_delegate.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/content_view.h"
-#include "runtime/app/current_event.h"
-#include "runtime/controls/view_events.h"
 #include "tests/windows.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/content_view.h>
+#include <tetrad/events/current_event.h>
+#include <tetrad/events/view_events.h>
 
 #include <QScreen>
 #include <QWindow>

@@ -1,11 +1,11 @@
-#include "runtime/app/windows.h"
+#include <tetrad/app/windows.h>
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/app/application.h"
-#include "runtime/app/menus.h"
-#include "runtime/app/window_controller.h"
-#include "runtime/app/window_delegate.h"
 #include "tests/windows.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/app/window_controller.h>
+#include <tetrad/app/window_delegate.h>
 
 #include <QLineEdit>
 #include <QMenuBar>

@@ -1,8 +1,8 @@
-#include "runtime/app/content_view.h"
-#include "runtime/console/console_scroll_view.h"
-#include "runtime/console/emoji_runs.h"
+#include "runtime/console/document/emoji_runs.h"
 #include "tests/console/printing.h"
 #include "tests/console/whole_list.h"
+#include <tetrad/app/content_view.h>
+#include <tetrad/console/console_scroll_view.h>
 
 #include <QBackingStore>
 #include <QCoreApplication>

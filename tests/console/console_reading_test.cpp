@@ -1,5 +1,5 @@
-#include "runtime/console/console_scroll_view.h"
 #include "tests/console/printing.h"
+#include <tetrad/console/console_scroll_view.h>
 
 #include <QAccessible>
 #include <QApplication>

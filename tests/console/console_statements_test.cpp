@@ -1,14 +1,14 @@
-#include "runtime/console/console_statements.h"
+#include <tetrad/console/console_statements.h>
 
-#include "runtime/app/content_view.h"
-#include "runtime/app/output_window.h"
-#include "runtime/app/popover.h"
-#include "runtime/app/window.h"
-#include "runtime/app/windows.h"
-#include "runtime/console/colors.h"
-#include "runtime/console/console_scroll_view.h"
-#include "runtime/strings/not_given.h"
 #include "tests/console/printing.h"
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/output_window.h>
+#include <tetrad/app/popover.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/console/colors.h>
+#include <tetrad/console/console_scroll_view.h>
+#include <tetrad/strings/not_given.h>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;

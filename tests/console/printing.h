@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/console/console_view.h"
 #include "tests/table.h"
+#include <tetrad/console/console_view.h>
 
 #include <QImage>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/console/console_view.h"
+#include <tetrad/console/console_view.h>
 
 #include <QImage>
 #include <QPainter>

@@ -1,7 +1,7 @@
-#include "runtime/controls/control_statements.h"
-#include "runtime/controls/control_target.h"
-#include "runtime/controls/segmented_control.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/control_statements.h>
+#include <tetrad/controls/control_target.h>
+#include <tetrad/controls/segmented_control.h>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;

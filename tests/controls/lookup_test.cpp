@@ -1,14 +1,14 @@
-#include "runtime/app/content_view.h"
-#include "runtime/app/popover.h"
-#include "runtime/controls/control_statements.h"
-#include "runtime/controls/popover_statements.h"
-#include "runtime/controls/segmented_control.h"
-#include "runtime/controls/titlebar_accessory.h"
-#include "runtime/controls/toolbar.h"
-#include "runtime/controls/view_lookup.h"
-#include "runtime/controls/view_tag.h"
-#include "runtime/controls/visual_effect_view.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/popover.h>
+#include <tetrad/controls/control_statements.h>
+#include <tetrad/controls/popover_statements.h>
+#include <tetrad/controls/segmented_control.h>
+#include <tetrad/controls/titlebar_accessory.h>
+#include <tetrad/controls/toolbar.h>
+#include <tetrad/controls/view_lookup.h>
+#include <tetrad/controls/view_tag.h>
+#include <tetrad/controls/visual_effect_view.h>
 
 #include <QAction>
 #include <QFrame>

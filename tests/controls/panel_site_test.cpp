@@ -1,11 +1,11 @@
-#include "runtime/app/content_view.h"
-#include "runtime/app/popover.h"
-#include "runtime/controls/panels.h"
-#include "runtime/controls/popover_events.h"
-#include "runtime/controls/popover_statements.h"
-#include "runtime/controls/toolbar.h"
-#include "runtime/controls/toolbar_events.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/popover.h>
+#include <tetrad/controls/panels.h>
+#include <tetrad/controls/popover_events.h>
+#include <tetrad/controls/popover_statements.h>
+#include <tetrad/controls/toolbar.h>
+#include <tetrad/controls/toolbar_events.h>
 
 #include <QAction>
 #include <QColorDialog>

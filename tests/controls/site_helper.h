@@ -1,9 +1,9 @@
 #pragma once
 
-#include "runtime/app/alerts.h"
-#include "runtime/controls/event_codes.h"
-#include "runtime/controls/view_lookup.h"
 #include "tests/windows.h"
+#include <tetrad/app/alerts.h>
+#include <tetrad/controls/view_lookup.h>
+#include <tetrad/events/event_codes.h>
 
 #include <QMessageBox>
 #include <QPushButton>

@@ -1,6 +1,6 @@
-#include "runtime/controls/control_statements.h"
-#include "runtime/controls/split_view.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/control_statements.h>
+#include <tetrad/controls/split_view.h>
 
 #include <QPainter>
 

@@ -1,5 +1,5 @@
-#include "runtime/controls/tab_view.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/tab_view.h>
 
 #include <QWheelEvent>
 

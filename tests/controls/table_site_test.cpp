@@ -1,6 +1,6 @@
-#include "runtime/controls/outline_view.h"
-#include "runtime/controls/table_view.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/outline_view.h>
+#include <tetrad/controls/table_view.h>
 
 #include <QHeaderView>
 #include <QLineEdit>

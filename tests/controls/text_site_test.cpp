@@ -1,5 +1,5 @@
-#include "runtime/controls/text_view.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/text_view.h>
 
 #include <QClipboard>
 

@@ -1,6 +1,6 @@
-#include "runtime/controls/event_site.h"
-#include "runtime/controls/token_field.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/event_site.h>
+#include <tetrad/controls/token_field.h>
 
 #include <QAbstractItemView>
 

@@ -2,11 +2,11 @@
 
 #include "tests/fuzz/fuzz_input.h"
 
-#include "game/answer.h"
-#include "game/expression.h"
-#include "game/puzzle_deck.h"
-#include "runtime/strings/number_reader.h"
-#include "runtime/strings/string_stack.h"
+#include "game/rules/answer.h"
+#include "game/rules/expression.h"
+#include "game/rules/puzzle_deck.h"
+#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/string_stack.h>
 
 #include <cmath>
 #include <optional>

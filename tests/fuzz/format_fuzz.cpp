@@ -4,7 +4,7 @@
 #include "tests/fuzz/fuzz_input.h"
 
 #include "runtime/strings/format_directive.h"
-#include "runtime/strings/text_format.h"
+#include <tetrad/strings/text_format.h>
 
 #include <QVariantMap>
 

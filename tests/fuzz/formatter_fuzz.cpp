@@ -3,8 +3,8 @@
 
 #include "tests/fuzz/fuzz_input.h"
 
-#include "runtime/input/control_formatter.h"
-#include "runtime/input/input_format.h"
+#include <tetrad/input/control_formatter.h>
+#include <tetrad/input/input_format.h>
 
 using namespace tetrad;
 using namespace tetrad::fuzz;

@@ -3,10 +3,10 @@
 
 #include "tests/fuzz/fuzz_input.h"
 
-#include "runtime/strings/mac_roman.h"
-#include "runtime/strings/number_printer.h"
-#include "runtime/strings/number_reader.h"
-#include "runtime/strings/pascal_strings.h"
+#include <tetrad/strings/mac_roman.h>
+#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/pascal_strings.h>
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
-#include "game/answer.h"
+#include "game/rules/answer.h"
 
-#include "game/puzzle_deck.h"
-#include "runtime/strings/string_stack.h"
+#include "game/rules/puzzle_deck.h"
 #include "solutions.h"
 #include "tests/table.h"
+#include <tetrad/strings/string_stack.h>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "game/puzzle_deck.h"
+#include "game/rules/puzzle_deck.h"
 
 #include "tests/table.h"
 

@@ -1,6 +1,6 @@
 // Evaluates each line of standard input for evaluator_against_python.py: the value in hexadecimal, or "error".
 
-#include "game/expression.h"
+#include "game/rules/expression.h"
 
 #include <iostream>
 #include <string>

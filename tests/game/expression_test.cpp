@@ -1,6 +1,6 @@
-#include "game/expression.h"
+#include "game/rules/expression.h"
 
-#include "game/pattern.h"
+#include "game/rules/pattern.h"
 #include "tests/table.h"
 
 using namespace tetrad;

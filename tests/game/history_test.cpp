@@ -1,4 +1,4 @@
-#include "game/puzzle_history.h"
+#include "game/rules/puzzle_history.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

@@ -5,13 +5,13 @@
 
 #include "solutions.h"
 
-#include "runtime/app/alert.h"
-#include "runtime/app/application.h"
-#include "runtime/app/modal.h"
-#include "runtime/console/console_statements.h"
-#include "runtime/console/console_view.h"
-#include "runtime/input/line_input_window.h"
-#include "runtime/strings/string_stack.h"
+#include <tetrad/app/alert.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/console/console_statements.h>
+#include <tetrad/console/console_view.h>
+#include <tetrad/input/line_input_window.h>
+#include <tetrad/strings/string_stack.h>
 
 #include <QApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "panel_helper.h"
 
-#include "runtime/app/output_window.h"
-#include "runtime/input/control_formatter.h"
-#include "runtime/input/input_format.h"
+#include <tetrad/app/output_window.h>
+#include <tetrad/input/control_formatter.h>
+#include <tetrad/input/input_format.h>
 
 #include <QClipboard>
 #include <QLineEdit>

@@ -1,11 +1,11 @@
 #include "panel_helper.h"
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/input/inkey_format.h"
-#include "runtime/input/inkey_window.h"
-#include "runtime/input/input_format.h"
-#include "runtime/input/key_input.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/input/inkey_format.h>
+#include <tetrad/input/inkey_window.h>
+#include <tetrad/input/input_format.h>
+#include <tetrad/input/key_input.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QLabel>
 

@@ -1,10 +1,10 @@
 #include "panel_helper.h"
 
-#include "runtime/app/app_delegate.h"
-#include "runtime/input/input_format.h"
-#include "runtime/input/line_input.h"
-#include "runtime/input/line_input_window.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/input/input_format.h>
+#include <tetrad/input/line_input.h>
+#include <tetrad/input/line_input_window.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QClipboard>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/app/application.h"
 #include "tests/windows.h"
+#include <tetrad/app/application.h>
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>

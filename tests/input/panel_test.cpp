@@ -1,7 +1,7 @@
 #include "panel_helper.h"
 
-#include "runtime/input/line_input_window.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/input/line_input_window.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,9 +1,9 @@
-#include "runtime/strings/case_tables.h"
-#include "runtime/strings/number_printer.h"
-#include "runtime/strings/number_reader.h"
-#include "runtime/strings/text_format.h"
-#include "runtime/strings/text_functions.h"
 #include "tests/table.h"
+#include <tetrad/strings/case_tables.h>
+#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/text_format.h>
+#include <tetrad/strings/text_functions.h>
 
 #include <clocale>
 #include <cstdlib>

@@ -1,6 +1,6 @@
-#include "runtime/strings/number_printer.h"
-#include "runtime/strings/number_reader.h"
 #include "tests/table.h"
+#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/number_reader.h>
 
 #include <QStringList>
 #include <QVariant>

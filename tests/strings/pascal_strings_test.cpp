@@ -1,5 +1,5 @@
-#include "runtime/strings/pascal_strings.h"
 #include "tests/table.h"
+#include <tetrad/strings/pascal_strings.h>
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
-#include "runtime/strings/error_object.h"
-#include "runtime/strings/text_format.h"
 #include "tests/table.h"
+#include <tetrad/strings/error_object.h>
+#include <tetrad/strings/text_format.h>
 
 #include <QStringList>
 

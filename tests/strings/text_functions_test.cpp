@@ -1,5 +1,5 @@
-#include "runtime/strings/text_functions.h"
 #include "tests/table.h"
+#include <tetrad/strings/text_functions.h>
 
 #include <QSet>
 #include <QVariant>

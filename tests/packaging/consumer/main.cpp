@@ -1,10 +1,10 @@
-#include "runtime/app/application.h"
-#include "runtime/app/dump.h"
-#include "runtime/app/run_time_stop.h"
-#include "runtime/app/windows.h"
-#include "runtime/console/console_statements.h"
-#include "runtime/input/line_input.h"
-#include "runtime/strings/not_given.h"
+#include <tetrad/app/application.h>
+#include <tetrad/app/dump.h>
+#include <tetrad/app/run_time_stop.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/console/console_statements.h>
+#include <tetrad/input/line_input.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QCoreApplication>
 #include <QTimer>

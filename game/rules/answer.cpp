@@ -1,0 +1,131 @@
+#include "game/rules/answer.h"
+
+#include "game/rules/expression.h"
+#include "game/rules/pattern.h"
+#include <tetrad/strings/not_given.h>
+#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/pascal_strings.h>
+#include <tetrad/strings/string_stack.h>
+#include <tetrad/strings/text_functions.h>
+
+#include <cmath>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 targetValue = 24;
+
+bool occursIn(const QString &answer, qint16 number)
+{
+    const QString digit = RightString(CopyDblToString(number), 1);
+    // One search from the start finds whatever a search from any later position would.
+    return InString(0, answer, digit, notGiven) != notFound;
+}
+
+// "9/2" becomes "9.0/2.0". The pieces between the matches are appended once, so that a long answer
+// takes time in proportion to its length.
+QString withDecimalPoints(const QString &text)
+{
+    // Compiled once: that takes longer than all the rest of judging an answer.
+    static const QRegularExpression literal =
+        RegularExpressionWithPattern(u"[0-9.]+"_s, QRegularExpression::CaseInsensitiveOption, nullptr);
+    QString decimals;
+    qint64 copiedTo = 0;
+    const auto matches = RegularExpressionMatches(literal, text, QRegularExpression::NoMatchOption, 0, LenCF(text));
+    for (const QRegularExpressionMatch &match : matches) {
+        const TextRange range = TextCheckingResultRange(match);
+        const QString number = StringSubstringWithRange(text, range.location, range.length);
+        decimals += QStringView(text).mid(copiedTo, range.location - copiedTo);
+        decimals += StringContainsString(number, u"."_s) ? number : StringWithFormat(u"%@.0"_s, number);
+        copiedTo = range.location + range.length;
+    }
+    return decimals + QStringView(text).mid(copiedTo);
+}
+
+QString withoutZeroDecimals(const QString &result)
+{
+    const double value = StringDoubleValue(result);
+    // Deliberately compared in single precision: a whole value with more than 24 bits keeps its ".000" unless a
+    // float holds it exactly. The leading integer, which is what the game looks at, is the same.
+    if (value != static_cast<double>(std::floor(static_cast<float>(value)))) {
+        return result;
+    }
+    return StringComponentsSeparatedByString(result, u"."_s).first();
+}
+
+Outcome judgeValue(const QString &answer)
+{
+    if (EvaluateMath(answer).isNull()) {
+        return Outcome::noSequence;
+    }
+    // Deliberately evaluated a second time: the first evaluation is only the test of validity. Comparing the
+    // leading integer alone lets 24.5 pass, and so is a failure, whose description begins with no number, wrong.
+    return StringIntegerValue(EvaluateMath(answer)) == targetValue ? Outcome::correct : Outcome::incorrect;
+}
+
+} // namespace
+
+bool passesDigitCount(const QString &answer)
+{
+    PascalString text;
+    PSstrcpy(text, StringPascalString(answer));
+    const int length = PSlen(PSstrcpy(STACK_PUSH(), text));
+    int digits = 0;
+    for (int i = 1; i <= length; ++i) {
+        const auto *character = PSmid(PSstrcpy(STACK_PUSH(), text), static_cast<qint16>(i), 1);
+        const int code = PSasc(PSstrcpy(STACK_PUSH(), character));
+        if (code > 48 && code < 58) {
+            ++digits;
+        }
+    }
+    return digits <= numbersPerPuzzle;
+}
+
+bool passesNumberCheck(const QString &answer, const PuzzleNumbers &numbers)
+{
+    int found = 0;
+    for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
+        if (occursIn(answer, numbers.at(i, 272))) {
+            ++found;
+        }
+    }
+    return found >= numbersPerPuzzle;
+}
+
+QString EvaluateMath(const QString &answer)
+{
+    const QString text = withDecimalPoints(StringByReplacingOccurrencesOfString(LcaseCFString(answer), u"x"_s, u"*"_s));
+    const auto expression = ExpressionWithFormat(std::nothrow, text);
+    if (const auto *failure = std::get_if<ExpressionFailure>(&expression)) {
+        return StringWithFormat(u"%@"_s, failure->description(text));
+    }
+    const QVariant value = ExpressionValueWithObject(std::get<Expression>(expression), QVariant(), QVariant());
+    return withoutZeroDecimals(StringWithFormat(u"%.3f"_s, ZRDblVal(value)));
+}
+
+Outcome judgeAnswer(const QString &answer, const PuzzleNumbers &numbers)
+{
+    if (answer.isEmpty()) {
+        return Outcome::nothingTyped;
+    }
+    const QString command = UcaseCFString(answer);
+    if (StringIsEqual(command, u"Q"_s)) {
+        return Outcome::quit;
+    }
+    if (StringIsEqual(command, u"S"_s)) {
+        return Outcome::skip;
+    }
+    if (!passesDigitCount(answer)) {
+        return Outcome::extraNumbers;
+    }
+    if (!passesNumberCheck(answer, numbers)) {
+        return Outcome::wrongNumbers;
+    }
+    return judgeValue(answer);
+}
+
+} // namespace tetrad

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace tetrad {
+
+class ContentViewSC;
+class CUI_WindowController;
+class CUI_WindowDelegate;
+class WindowTranslator;
+
+/// Bits of a window's style mask.
+enum WindowStyle : qint64 {
+    windowStyleBorderless = 0,
+    windowStyleTitled = 1,
+    windowStyleClosable = 2,
+    windowStyleMiniaturizable = 4,
+    windowStyleResizable = 8,
+    windowStyleDefault = 15,
+};
+
+/// What a per-window callback is called with: the window's tag, the event code, and the user data
+/// that was set beside it.
+using WindowCallback = void (*)(Tag wndTag, qint64 event, void *userData);
+
+/// A window of the runtime. Its central widget is the content view; every rectangle the runtime
+/// speaks of is the content's, menu bar and frame excluded, in device-independent pixels with the
+/// origin at the top left of the main screen.
+class Window : public QMainWindow
+{
+    Q_OBJECT
+    Q_PROPERTY(bool releasedWhenClosed READ isReleasedWhenClosed WRITE setReleasedWhenClosed)
+
+public:
+    explicit Window(const QRectF &contentRect);
+    ~Window() override;
+
+    Tag tag() const;
+    void setTag(Tag tag);
+
+    WindowCallback cuiWindowCallback() const;
+    void setCuiWindowCallback(WindowCallback callback);
+    void *cuiWindowUserData() const;
+    void setCuiWindowUserData(void *userData);
+
+    /// The content rectangle now. Setting it fixes the size of the content whatever height the menu
+    /// bar takes.
+    QRectF contentRect() const;
+    void setContentRect(const QRectF &rect);
+
+    /// WindowStyle bits.
+    qint64 styleMask() const;
+    void setStyleMask(qint64 mask);
+
+    /// Centres the window, frame included, on its screen.
+    void center();
+
+    /// Colours the content view only, never the menu bar.
+    void setBackgroundColor(const QColor &color);
+    QColor backgroundColor() const;
+
+    QWidget *contentView() const;
+
+    /// Whether closing forgets the window and deletes it, as soon as control is back in an event loop;
+    /// true at first. Otherwise closing only hides it.
+    bool isReleasedWhenClosed() const;
+    void setReleasedWhenClosed(bool released);
+
+    /// Whether Tab goes through the controls by their places, row by row, instead of in the order in
+    /// which they were made; false at first.
+    bool autorecalculatesKeyViewLoop() const { return m_autorecalculatesKeyViewLoop; }
+    void setAutorecalculatesKeyViewLoop(bool recalculates) { m_autorecalculatesKeyViewLoop = recalculates; }
+
+    /// What the window's events are reported to; null reports nothing. Not owned.
+    CUI_WindowDelegate *delegate() const { return m_delegate; }
+    void setDelegate(CUI_WindowDelegate *delegate) { m_delegate = delegate; }
+
+    CUI_WindowController *windowController() const;
+
+    /// Shows the window in front of all others and gives it the keyboard.
+    void makeKeyAndOrderFront();
+
+    /// One line for the text dump of what is on the screen.
+    Q_INVOKABLE QString dump() const;
+
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    QMargins frameMargins() const;
+    QSize measuredChrome();
+    void keepContentSize();
+    void fixSizeUnlessResizable();
+    void recalculateKeyViewLoop();
+
+    ContentViewSC *m_contentView = nullptr;
+    CUI_WindowDelegate *m_delegate = nullptr;
+    std::unique_ptr<WindowTranslator> m_translator;
+    qint64 m_styleMask = windowStyleDefault;
+    // What the menu bar and the like take of the window beside the content.
+    QSize m_chrome;
+    bool m_closed = false;
+    bool m_autorecalculatesKeyViewLoop = false;
+};
+
+/// The window class made while the subclass flag is set; a program derives from it.
+class WindowSC : public Window
+{
+    Q_OBJECT
+
+public:
+    using Window::Window;
+};
+
+/// A panel that was loaded from an interface file. Whoever loads it calls awakeFromNib once its tag
+/// is set.
+class PanelSC : public Window
+{
+    Q_OBJECT
+
+public:
+    explicit PanelSC(const QRectF &contentRect);
+    virtual void awakeFromNib();
+};
+
+} // namespace tetrad

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+
+class QWidget;
+
+namespace tetrad {
+
+class Window;
+
+/// Creates a window, not shown yet. An empty rectangle stands for 550 x 400 at (0, 0); an origin of
+/// exactly (0, 0) means centred. The tag is stored as given and not checked against other windows.
+/// The window deletes itself when closed.
+Window *WindowInit(Tag tag, const QRectF &contentRect);
+
+/// The window statement: opens, reconfigures, shows (tag > 0) or hides (tag <= 0) the window |tag| and
+/// makes it the output window. A null title, a style of notGiven and an empty rectangle leave what
+/// is there or take the default. A tag that a popover has shows an alert and does nothing else.
+void CUI_Window(Tag tag, const QString &title, qint64 style, const QRectF &contentRect);
+
+/// The window with the tag |tag|, or null; 0 gives null. A value above largestTag is taken to be the
+/// window itself.
+Window *CUI_WindowWithTag(Tag tag);
+
+/// Both do nothing when the tag is unknown.
+void WindowSetBackgroundColor(Tag tag, const QColor &color);
+void WindowCenter(Tag tag);
+
+/// All runtime windows, front to back: the order in which they were last active or shown.
+QList<Window *> orderedWindows();
+
+/// The frontmost visible window of the application, or null.
+Window *CUI_FrontWindow();
+
+/// One-shot: the next WindowInit makes a WindowSC. Reading clears it.
+void CUI_SetSubclassFlag(bool flag);
+bool CUI_IsSubclassFlag();
+
+/// For windows that were loaded from an interface file: makes the window the output window and
+/// reports dialog event 10059.
+void CUI_WindowSubclassAwakeFromNib(Window *window);
+
+} // namespace tetrad

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <tetrad/console/text_attributes.h>
+
+#include <QColor>
+#include <QList>
+#include <QPointF>
+#include <QRectF>
+#include <QSharedDataPointer>
+#include <QString>
+
+namespace tetrad {
+
+/// How a line or an outline is stroked. Lengths are device-independent pixels, whatever the width.
+struct LineStyle
+{
+    /// 0 is the thinnest line there is; negative: not stroked.
+    double lineWidth = 1.0;
+    /// 1 round, 2 square; 0 leaves the default, which ends flush with the line's end.
+    quint32 lineCapStyle = 0;
+    /// Lengths drawn and left out in turn; empty: solid.
+    QList<double> lineDashPattern = {};
+    double lineDashPhase = 0;
+    /// Invalid: black.
+    QColor strokeColor = Qt::black;
+
+    bool operator==(const LineStyle &) const = default;
+};
+
+/// One entry of the console's display list: a line of text, a line segment, a rectangle or an oval. A value; what only
+/// shapes have is shared until changed and costs a text nothing.
+class CUI_PrintToWindowItem
+{
+public:
+    enum Type : quint32 { text = 0, line = 1, rectangle = 2, oval = 3 };
+
+    CUI_PrintToWindowItem();
+    CUI_PrintToWindowItem(const CUI_PrintToWindowItem &);
+    CUI_PrintToWindowItem(CUI_PrintToWindowItem &&) noexcept;
+    CUI_PrintToWindowItem &operator=(const CUI_PrintToWindowItem &);
+    CUI_PrintToWindowItem &operator=(CUI_PrintToWindowItem &&) noexcept;
+    ~CUI_PrintToWindowItem();
+
+    static CUI_PrintToWindowItem itemWithString(const QString &string, QPointF pt, const TextAttributes &attributes);
+    static CUI_PrintToWindowItem itemWithLinePoint1(QPointF linePt1, QPointF linePt2);
+    /// An unknown type is drawn as a text, and so not at all.
+    static CUI_PrintToWindowItem itemWithType(quint32 type, const QRectF &rect, const QColor &strokeColor,
+                                              const QColor &fillColor);
+
+    quint32 type() const { return m_type; }
+    /// Whether it is a line, a rectangle or an oval; anything else is drawn as a text.
+    bool isShape() const { return m_type >= line && m_type <= oval; }
+    /// A text's top left.
+    QPointF pt() const { return m_pt; }
+    const QString &string() const { return m_string; }
+    const TextAttributes &attributes() const { return m_attributes; }
+
+    QPointF linePt1() const;
+    QPointF linePt2() const;
+    QRectF rect() const;
+
+    /// Width 0 and no colour until it is set, as every text's stays.
+    const LineStyle &lineStyle() const;
+    void setLineStyle(const LineStyle &style);
+
+    /// The colours alone, over whatever the line style said.
+    void setColors(const QColor &strokeColor, const QColor &fillColor);
+    /// Invalid: no fill.
+    QColor fillColor() const;
+
+    /// Carried and archived but deliberately never consulted when drawing: an item is stroked by its width and filled
+    /// by its colour, and archives are read by programs that expect the two keys.
+    bool strokeFlag() const;
+    void setStrokeFlag(bool flag);
+    bool fillFlag() const;
+    void setFillFlag(bool flag);
+
+private:
+    struct Shape;
+    static const Shape &noShape();
+    const Shape &shape() const { return m_shape ? *m_shape : noShape(); }
+    Shape &editShape();
+
+    quint32 m_type = text;
+    QPointF m_pt;
+    QString m_string;
+    TextAttributes m_attributes;
+    QSharedDataPointer<Shape> m_shape;
+};
+
+} // namespace tetrad

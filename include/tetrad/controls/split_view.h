@@ -1,0 +1,66 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QColor>
+#include <QRectF>
+#include <QSplitter>
+
+namespace tetrad {
+
+/// A view that divides its room among its subviews. It asks the dialog function (codes 1501 to 1513) about every
+/// movement of a divider, tells of it, and lets the program colour, thicken and draw the dividers. A divider's index is
+/// that of the subview before it, from 0; positions are in pixels from the left or top edge and pass
+/// through single precision.
+class SplitView : public QSplitter
+{
+    Q_OBJECT
+
+public:
+    explicit SplitView(QWidget *parent = nullptr);
+
+    /// Moves a divider as dragging would: within the constraints that the program answers, and past half of a
+    /// subview's smallest size only when that subview can collapse. The view may be gone afterwards.
+    void setPosition(int position, int divider);
+    int position(int divider) const;
+
+    /// Asks the program for the dividers' colour and thickness and which of them to hide, and uses the answers; this
+    /// happens by itself when the view is shown or has moved its dividers.
+    void askAboutDividers();
+    /// Invalid: the style's own dividers.
+    QColor dividerColor() const { return m_dividerColor; }
+
+protected:
+    QSplitterHandle *createHandle() override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    struct Target
+    {
+        int position = 0;
+        // The subview that loses all its room there, or -1.
+        int collapsing = -1;
+    };
+
+    void layOut();
+    Target constrained(int position, int divider);
+    Target collapsedOr(int position, int divider, int least, int most);
+    void move(const Target &target, int divider);
+    int edgeBefore(int divider) const;
+    int edgeAfter(int divider) const;
+    void hideDividers();
+
+    QColor m_dividerColor;
+    bool m_layOutIsQueued = false;
+};
+
+/// The split view statement. Subviews are put in by SplitViewAddSubview.
+void CUI_SplitView(Tag tag, Qt::Orientation orientation, const QRectF &rect);
+
+/// Both tell the user about a view that is missing and do nothing then. A view moved into a split view takes the room
+/// behind those already there.
+void SplitViewAddSubview(Tag tag, Tag subview);
+void SplitViewSetPosition(Tag tag, qint64 position, qint64 divider);
+
+} // namespace tetrad

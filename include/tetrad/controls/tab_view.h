@@ -1,0 +1,83 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QRectF>
+#include <QStringList>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace tetrad {
+
+/// Pages of which one is seen, each with a tab. A page is a plain view, and what lies in it is found by tag whichever
+/// page is selected. Before a press, the wheel or a key selects another page the dialog function may refuse it; a
+/// selection by the program is told but not asked about.
+class TabView : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TabView(QWidget *parent = nullptr);
+
+    /// Selects a page if the program does not refuse it (event 1600); then 1601 comes before the page
+    /// changes. Nothing happens for an index outside the tabs and for the page that is selected already. The view
+    /// may be gone afterwards.
+    void selectIfAllowed(int index);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
+
+private:
+    void reportSelection(int index);
+};
+
+/// The tabs of a tab view, where the user selects.
+class TabViewBar : public QTabBar
+{
+    Q_OBJECT
+
+public:
+    explicit TabViewBar(TabView *tabView);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    int nextEnabled(int step) const;
+
+    TabView *m_tabView = nullptr;
+};
+
+/// Reports what happens to tab views, always to the dialog function.
+class CUI_TabViewDelegate
+{
+public:
+    void callUserDefinedOnDialogFunctionWithEvent(TabView *tabView, qint64 event, Tag object);
+
+    bool tabViewShouldSelectTabViewItem(TabView *tabView, int index);
+    void tabViewWillSelectTabViewItem(TabView *tabView, int index);
+    void tabViewDidSelectTabViewItem(TabView *tabView, int index);
+    void tabViewDidChangeNumberOfTabViewItems(TabView *tabView);
+
+private:
+    void callWithItem(TabView *tabView, qint64 event, int index);
+};
+
+/// The delegate of every tab view; it lives to the end of the program.
+CUI_TabViewDelegate *CUI_TabViewDelegateObj();
+
+/// The tab view statement. Tabs beyond those there are added, tabs there get the labels; a null list leaves them.
+void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect);
+
+/// The page of a tab, to put views into with ViewAddSubview; null, after an alert when the tab view is missing.
+QWidget *TabViewPage(Tag tag, qint64 index);
+
+/// 0-based; -1 without tabs or, after an alert, without the view.
+qint64 TabViewSelectedIndex(Tag tag);
+void TabViewSelectIndex(Tag tag, qint64 index);
+
+} // namespace tetrad

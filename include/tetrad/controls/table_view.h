@@ -1,0 +1,88 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QRectF>
+#include <QStringList>
+#include <QTableWidget>
+
+namespace tetrad {
+
+/// A table whose contents the program answers: reloadData asks (codes 1700 to 1709, and 4200 and 4300 for the
+/// headers) how many rows there are and what stands in each cell, and keeps the answers until the next time. The
+/// columns come from the statement. A view with a delegate callback tells that one instead of the dialog function.
+class TableView : public QTableWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TableView(QWidget *parent = nullptr);
+
+    /// Asks for everything anew. The view may be gone afterwards.
+    void reloadData();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+
+private:
+    void reloadHeader(int column);
+    void reloadRow(int row);
+    bool maySelect(int row);
+    void reportEdit(int row, int column);
+
+    bool m_isReloading = false;
+};
+
+/// Reports what happens to tables, and asks for their contents: to the view's delegate callback, else to the
+/// dialog function.
+class CUI_TableViewDelegate
+{
+public:
+    qint64 forwardEvent(TableView *tableView, qint64 event, Tag object);
+
+    int numberOfRowsInTableView(TableView *tableView);
+    QVariant tableViewObjectValue(TableView *tableView, int row, int column);
+    bool tableViewShouldEdit(TableView *tableView, int row, int column);
+    /// A view for the cell, which the table then owns, or null.
+    QWidget *tableViewViewForCell(TableView *tableView, int row, int column);
+    double tableViewHeightOfRow(TableView *tableView, int row);
+    bool tableViewShouldSelectRow(TableView *tableView, int row);
+    void tableViewSetObjectValue(TableView *tableView, const QVariant &value, int row, int column);
+    void tableViewSelectionDidChange(TableView *tableView);
+    void tableViewDidClickTableColumn(TableView *tableView, int column);
+    QFont tableHeaderFont(TableView *tableView, int column);
+    QColor tableHeaderTextColor(TableView *tableView, int column);
+};
+
+/// The delegate of every table; it lives to the end of the program.
+CUI_TableViewDelegate *CUI_TableViewDelegateObj();
+
+/// One row of a table while it draws; its events carry the table's tag.
+class TableRowViewSC
+{
+public:
+    TableRowViewSC(TableView *tableView, int row) : m_tableView(tableView), m_row(row) {}
+
+    qint64 forwardEvent(qint64 event);
+
+    /// Lets the program draw behind the row's cells.
+    void drawBackground();
+
+private:
+    TableView *m_tableView = nullptr;
+    int m_row = 0;
+};
+
+/// The table statement. An empty list leaves the columns there; the contents are asked for as soon as control is back
+/// in the event loop.
+void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect);
+
+/// Both tell the user about a table that is missing.
+void TableViewReloadData(Tag tag);
+/// 0-based; -1 for none.
+qint64 TableViewSelectedRow(Tag tag);
+
+} // namespace tetrad

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QPlainTextEdit>
+#include <QRectF>
+#include <QString>
+
+namespace tetrad {
+
+/// A text of many lines that the user edits. The dialog function may refuse a change (code 2100) before the user's
+/// typing, deleting, pasting, cutting or dropping makes it; what an input method composes is asked about when it is
+/// committed. Undo and redo are not asked about. Changes and selections are told (2101 to 2104).
+class TextView : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit TextView(QWidget *parent = nullptr);
+
+public Q_SLOTS:
+    /// Named as the base's own, so that the Edit menu, which goes by name, asks too.
+    void cut();
+    void del();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void insertFromMimeData(const QMimeData *source) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    bool mayReplace(const QTextCursor &replaced, const QString &text);
+    void tellSoon(qint64 event);
+};
+
+/// Reports what happens to text views, always to the dialog function.
+class CUI_TextViewDelegate
+{
+public:
+    void callUserDefinedOnDialogFunctionWithEvent(TextView *textView, qint64 event, Tag object);
+
+    bool textViewShouldChangeText(TextView *textView, int location, int length, const QString &replacement);
+    void textViewDidChangeSelection(TextView *textView);
+};
+
+/// The delegate of every text view; it lives to the end of the program.
+CUI_TextViewDelegate *CUI_TextViewDelegateObj();
+
+/// The text view statement. A null text leaves the text there.
+void CUI_TextView(Tag tag, const QString &text, const QRectF &rect);
+
+/// Null, after an alert, when the view is missing.
+QString TextViewString(Tag tag);
+
+} // namespace tetrad

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QLineEdit>
+#include <QRectF>
+#include <QStringList>
+
+class QCompleter;
+class QStringListModel;
+
+namespace tetrad {
+
+/// A field of words separated by commas. While a word is typed the program is asked for completions of it (code
+/// 2300); when a comma, Return or the loss of the keyboard ends it, which words to keep (2301), and it is
+/// told what the field then holds (2302). Return also sends the field's action. A view with a delegate
+/// callback tells that one instead of the dialog function.
+class TokenField : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit TokenField(QWidget *parent = nullptr);
+
+    /// The finished words, without blanks around them. Setting them asks nothing.
+    const QStringList &tokens() const { return m_tokens; }
+    void setTokens(const QStringList &tokens);
+
+protected:
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void textWasEdited();
+    void finishEditing();
+    void finishTokens();
+    void offerCompletions();
+    void complete(const QString &completion);
+    QString wordBeingTyped() const;
+
+    QStringList m_tokens;
+    QStringListModel *m_completions = nullptr;
+    QCompleter *m_completer = nullptr;
+};
+
+/// Reports what happens to token fields: to the view's delegate callback, else to the dialog function.
+class CUI_TokenFieldDelegate
+{
+public:
+    qint64 forwardEvent(TokenField *tokenField, qint64 event, Tag object);
+
+    QStringList tokenFieldCompletionsForSubstring(TokenField *tokenField, const QString &substring);
+    QStringList tokenFieldShouldAddTokens(TokenField *tokenField, const QStringList &tokens);
+    void tokenFieldDidChange(TokenField *tokenField);
+};
+
+/// The delegate of every token field; it lives to the end of the program.
+CUI_TokenFieldDelegate *CUI_TokenFieldDelegateObj();
+
+/// The token field statement. An empty list leaves the words there.
+void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect);
+
+/// Empty, after an alert, when the field is missing.
+QStringList TokenFieldTokens(Tag tag);
+
+} // namespace tetrad

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+
+#include <QString>
+
+class QWidget;
+
+namespace tetrad {
+
+/// The view with this tag: in the popover now shown, else in the content view of the output window (of the
+/// frontmost window when there is none), its title bar's accessories and its tool bar. 0 gives null,
+/// contentViewTag the content view itself, a value above largestTag the view whose address it is.
+QWidget *CUI_ViewWithTag(Tag tagOrView);
+
+/// The first view with this tag below a view, each view before what lies in it, or null. Tab views are
+/// searched into in the order of their tabs, whichever is selected; segmented controls never.
+QWidget *CUI_ViewSubviewWithTag(QWidget *view, Tag tag);
+
+/// The view with this tag among the title bar's accessories of the output window, or null.
+QWidget *TitlebarAccessoryViewWithTag(Tag tag);
+
+/// The view, if it is of the class or of one derived from it (see class_names.h), else null after telling
+/// the user what is wrong.
+QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className);
+
+/// CUI_ValidateViewKindOfClass with "NSControl".
+QWidget *ControlWithTag(Tag tagOrControl);
+
+} // namespace tetrad

@@ -1,0 +1,187 @@
+#pragma once
+
+// The table of event codes: every code the dialog function can be called with, family by family. The
+// families that the layers below send live in their own headers and are gathered here.
+#include <tetrad/events/alert_events.h>
+#include <tetrad/events/view_events.h>
+#include <tetrad/events/window_events.h>
+
+namespace tetrad {
+
+enum ControlEvent : qint64 {
+    controlEventAction = 1, ///< object: the control; sent by the shared control target
+};
+
+enum PopoverEvent : qint64 {
+    popoverEventDetachableWindow = 1300, ///< viewObj: a window to show in its place; null makes the popover one
+    popoverEventShouldClose = 1301,      ///< boolVal: the answer; see setPopoverAsks
+    popoverEventWillShow = 1302,
+    popoverEventDidShow = 1303,
+    popoverEventWillClose = 1304,
+    popoverEventDidClose = 1305,
+    popoverEventDidDetach = 1306,
+    popoverEventShouldDetach = 1307, ///< boolVal: the answer; see setPopoverAsks
+};
+
+/// Coordinates are pixels from the split view's left or top edge. They travel in floatVal, so in single
+/// precision; indices count from 0 and travel in longVal.
+enum SplitViewEvent : qint64 {
+    splitViewEventWillResizeSubviews = 1501,
+    splitViewEventDidResizeSubviews = 1502,
+    splitViewEventCanCollapseSubview = 1503,        ///< longVal: subview; boolVal: the answer
+    splitViewEventShouldAdjustSizeOfSubview = 1504, ///< longVal: subview; boolVal: the answer
+    splitViewEventShouldHideDivider = 1506,         ///< longVal: divider; boolVal: the answer
+    splitViewEventConstrainMaxCoordinate = 1508,    ///< longVal: divider; floatVal: proposal and answer
+    splitViewEventConstrainMinCoordinate = 1509,    ///< longVal: divider; floatVal: proposal and answer
+    splitViewEventConstrainSplitPosition = 1510,    ///< longVal: divider; floatVal: proposal and answer
+    splitViewEventDividerColor = 1511,              ///< colorObj: the answer
+    splitViewEventDividerThickness = 1512,          ///< floatVal: the answer
+    splitViewEventDrawDivider =
+        1513, ///< longVal: divider; viewObj: what to draw on; rectVal: its part; boolVal: whether drawn
+};
+
+/// Questions of the families from here to the token fields that could keep something from working ask whether to refuse
+/// it: with boolVal preset to false, a program that does not know an event stands in nobody's way. An object
+/// named is passed as the event's object too.
+enum TabViewEvent : qint64 {
+    tabViewEventRefuseSelect = 1600,   ///< longVal: tab; stringObj: its label; object: its page; boolVal: the answer
+    tabViewEventWillSelect = 1601,     ///< the same fields
+    tabViewEventDidSelect = 1602,      ///< the same fields
+    tabViewEventDidChangeCount = 1603, ///< longVal: how many tabs
+};
+
+/// Rows and columns count from 0. A column is also in tableColumnObj.
+enum TableViewEvent : qint64 {
+    tableViewEventRowCount = 1700,         ///< longVal: the answer
+    tableViewEventValue = 1701,            ///< longVal: row; tableColumnObj: column; object: the answer
+    tableViewEventShouldEdit = 1702,       ///< longVal: row; tableColumnObj: column; boolVal: the answer
+    tableViewEventViewForCell = 1703,      ///< longVal: row; tableColumnObj: column; viewObj: the answer
+    tableViewEventRowHeight = 1704,        ///< longVal: row; doubleVal: pixels, in and out
+    tableViewEventDidEdit = 1705,          ///< longVal: row; tableColumnObj: column; object: the new value
+    tableViewEventRefuseSelectRow = 1706,  ///< longVal: row; boolVal: the answer
+    tableViewEventSelectionChanged = 1707, ///< longVal: the current row, -1 for none
+    tableViewEventColumnClicked = 1708,    ///< tableColumnObj: column
+    tableViewEventDrawRow = 1709,          ///< longVal: row; viewObj: what to draw on; rectVal: its part
+};
+
+/// An item is whatever value the program gave for it, an invalid one for the root, and is in `object`.
+enum OutlineViewEvent : qint64 {
+    outlineViewEventChildCount = 1800,       ///< object: item; longVal: the answer
+    outlineViewEventChild = 1801,            ///< object: parent in, child out; longVal: index
+    outlineViewEventText = 1802,             ///< object: item; tableColumnObj: column; stringObj: the answer
+    outlineViewEventDidExpand = 1803,        ///< object: item
+    outlineViewEventDidCollapse = 1804,      ///< object: item
+    outlineViewEventRefuseSelectItem = 1805, ///< object: item; boolVal: the answer
+    outlineViewEventSelectionChanged = 1806, ///< object: the current item, invalid for none
+    outlineViewEventColumnClicked = 1807,    ///< tableColumnObj: column
+};
+
+enum ToolbarEvent : qint64 {
+    toolbarEventItemAction = 1900,
+    toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled; see setToolbarItemValidates
+};
+
+/// Ranges are in UTF-16 units.
+enum TextViewEvent : qint64 {
+    textViewEventRefuseChange = 2100, ///< rangeVal: what is replaced; stringObj: by what; boolVal: the answer
+    textViewEventDidChange = 2101,
+    textViewEventSelectionChanged = 2102, ///< rangeVal: the selection
+    textViewEventDidBeginEditing = 2103,
+    textViewEventDidEndEditing = 2104,
+};
+
+enum FontPanelEvent : qint64 {
+    fontPanelEventChanged = 2200, ///< fontObj: the font chosen
+};
+
+enum TokenFieldEvent : qint64 {
+    tokenFieldEventCompletions = 2300, ///< stringObj: what is being typed; arrayObj: the answer
+    tokenFieldEventAddTokens = 2301,   ///< arrayObj: new tokens in, those to keep out
+    tokenFieldEventDidChange = 2302,   ///< arrayObj: all tokens
+};
+
+/// Named only: nothing on this platform asks a program before a file is moved, copied or removed.
+enum FileManagerEvent : qint64 {
+    fileManagerEventShouldMove = 2400,
+    fileManagerEventProceedAfterMoveError = 2401,
+    fileManagerEventShouldCopy = 2402,
+    fileManagerEventProceedAfterCopyError = 2403,
+    fileManagerEventShouldRemove = 2404,
+};
+
+enum ColorPanelEvent : qint64 {
+    colorPanelEventAction = 2600, ///< colorObj: the colour chosen
+};
+
+/// Named only: no statement attaches a gesture recogniser.
+enum GestureEvent : qint64 {
+    gestureEventAction = 2700,
+};
+
+/// Named only: no statement shows an open or save panel.
+enum FilePanelEvent : qint64 {
+    filePanelEventUserEnteredName = 2901,
+    filePanelEventSelectionChanged = 2902,
+    filePanelEventDirectoryChanged = 2903,
+    filePanelEventWillExpand = 2904,
+    filePanelEventShouldEnableUrl = 2905, ///< urlObj: the file; boolVal: the answer
+    filePanelEventValidateUrl = 2906,     ///< urlObj: the file; boolVal: the answer
+};
+
+/// Named only: the runtime has no network sessions.
+enum UrlSessionEvent : qint64 {
+    urlSessionEventBecameInvalid = 3600,
+    urlSessionEventFinishedBackgroundEvents = 3601,
+    urlSessionEventDownloadFinished = 3604,
+    urlSessionEventDownloadResumed = 3605,
+    urlSessionEventDownloadWroteData = 3606,
+    urlSessionEventTaskCompleted = 3607,
+    urlSessionEventTaskSentBodyData = 3609,
+    urlSessionEventTaskWaitingForConnectivity = 3613,
+    urlSessionEventTaskFinishedCollectingMetrics = 3614,
+    urlSessionEventDataTaskReceivedData = 3618,
+    urlSessionEventBetterRouteDiscovered = 3620,
+    urlSessionEventBecameStreams = 3621,
+    urlSessionEventReadClosed = 3622,
+    urlSessionEventWriteClosed = 3623,
+};
+
+/// Named only: the runtime plays no sounds.
+enum SoundEvent : qint64 {
+    soundEventFinished = 3700,
+};
+
+enum TableHeaderEvent : qint64 {
+    tableHeaderEventFont = 4200,
+    tableHeaderEventTextColor = 4300,
+};
+
+/// Named only: nothing detaches a view from its stack by itself here.
+enum StackViewEvent : qint64 {
+    stackViewEventReattached = 4500,
+    stackViewEventWillDetach = 4501,
+};
+
+/// Named only: there is no preview panel to fill.
+enum PreviewPanelEvent : qint64 {
+    previewPanelEventItemCount = 4700,
+    previewPanelEventItemAtIndex = 4701,
+};
+
+/// Named only: errors are presented as alerts, whose end is alertEndedEvent.
+enum ErrorEvent : qint64 {
+    errorEventPresentedWithRecovery = 4900,
+};
+
+/// Named only: no statement prints on paper.
+enum PrintEvent : qint64 {
+    printEventDidRun = 5200,
+};
+
+/// Named only: there is no sharing service.
+enum SharingEvent : qint64 {
+    sharingEventServicesForItems = 5700,
+    sharingEventServiceChosen = 5701,
+};
+
+} // namespace tetrad

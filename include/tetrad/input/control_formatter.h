@@ -1,0 +1,45 @@
+#pragma once
+
+#include <tetrad/events/tag.h>
+#include <tetrad/input/character_set.h>
+
+#include <QValidator>
+
+namespace tetrad {
+
+/// Judges every proposed edit of a text: one longer than the limit is refused outright, refused
+/// characters are taken out of any other, and the case option is applied to what is left.
+/// With the list "123qs", pass true and case option 0 the proposal "1 Q0" becomes "1Q".
+class CUI_ControlFormatter : public QValidator
+{
+    Q_OBJECT
+
+public:
+    /// characters and pass: the list and whether it names the allowed or the refused characters;
+    /// unless caseOption is caseSensitiveList its upper and lower forms belong to it too. length: in
+    /// characters, 0 means no limit.
+    CUI_ControlFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption,
+                         QObject *parent = nullptr);
+
+    /// The proposal without its refused characters, in the case asked for; the limit is not looked at.
+    QString formatted(const QString &proposal) const;
+
+    /// Invalid when the proposal is too long; else Acceptable, with input and pos replaced by the
+    /// formatted text and the cursor's place in it.
+    State validate(QString &input, int &pos) const override;
+
+private:
+    QString withoutRefused(const QString &proposal) const;
+    void takeBackRefusedPair(QString &accepted) const;
+
+    CharacterSet m_refused;
+    quint64 m_length = 0;
+    qint64 m_caseOption = 0;
+};
+
+/// Attaches a formatter with these settings to a line-edit control in place of the one it has, and
+/// lifts the control's own length limit. The control is given as its object or by the tag it has in
+/// the output window, else in the frontmost one; nothing happens when there is none.
+void ControlSetFormat(Tag control, const QString &characters, bool pass, quint64 length, qint64 caseOption);
+
+} // namespace tetrad

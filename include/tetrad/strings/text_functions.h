@@ -1,0 +1,62 @@
+#pragma once
+
+#include <tetrad/strings/not_given.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <limits>
+
+class QVariant;
+
+namespace tetrad {
+
+// Positions and lengths count UTF-16 units, positions from 0. A null text is no text: it equals,
+// contains and yields nothing.
+
+/// The location of a search that failed.
+inline constexpr qint64 notFound = std::numeric_limits<qint64>::max();
+
+/// Search options, to be added up.
+inline constexpr qint64 searchCaseInsensitive = 1;
+inline constexpr qint64 searchLiteral = 2;
+inline constexpr qint64 searchBackwards = 4;
+
+/// Where the needle stands in the haystack, or notFound. A forward search begins at start; a backward
+/// one finds the last match that ends at start or before it, and searches everything if start is
+/// outside the haystack. Without options the search is literal, which every search here is.
+qint64 InString(qint32 start, const QString &haystack, const QString &needle, qint64 options = notGiven);
+
+/// The last count characters; empty for a count below 1, everything for one too large.
+QString RightString(const QString &text, qint64 count);
+
+QString LcaseCFString(const QString &text);
+QString UcaseCFString(const QString &text);
+
+/// The number of elements of a list or a map, the length of a text or of bytes, 0 for anything else.
+qint64 LenCF(const QVariant &object);
+
+QString StringWithString(const QString &text);
+
+/// 1 or 0, literally. No text equals nothing, not even no text.
+int StringIsEqual(const QString &left, const QString &right);
+
+QString StringByAppendingString(const QString &text, const QString &tail);
+
+/// The text as the only part if the separator is empty or does not occur.
+QStringList StringComponentsSeparatedByString(const QString &text, const QString &separator);
+
+/// A range that reaches outside the text is cut to it.
+QString StringSubstringWithRange(const QString &text, qint64 location, qint64 length);
+
+/// 1 or 0. The empty text is contained in none.
+int StringContainsString(const QString &text, const QString &part);
+
+/// An empty target occurs nowhere.
+QString StringByReplacingOccurrencesOfString(const QString &text, const QString &target, const QString &replacement);
+
+/// A range that reaches outside the text is cut to it, so one beyond the end appends.
+QString StringByReplacingCharactersInRange(const QString &text, qint64 location, qint64 length,
+                                           const QString &replacement);
+
+} // namespace tetrad

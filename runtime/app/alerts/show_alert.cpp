@@ -1,0 +1,74 @@
+#include <tetrad/app/alert.h>
+#include <tetrad/app/alerts.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/output_window.h>
+
+#include <QCoreApplication>
+#include <QQueue>
+
+#include <cstdio>
+
+namespace tetrad {
+
+namespace {
+
+struct Warning
+{
+    qint64 style = alertStyleWarning;
+    QString message;
+    QString informative;
+};
+
+// Used on the main thread only.
+QQueue<Warning> &waitingWarnings()
+{
+    static QQueue<Warning> warnings;
+    return warnings;
+}
+
+void showWarning(const Warning &warning)
+{
+    const QPointer<Alert> alert = new Alert;
+    alert->setStyle(warning.style);
+    alert->setMessageText(warning.message);
+    alert->setInformative(warning.informative);
+    alert->addAlertButton(Alert::tr("OK"));
+    alert->addAlertButton(Alert::tr("Quit"));
+    Tag targetTag = 0;
+    const bool quit = alert->runModal(CUI_TargetWindow(&targetTag)) == alertSecondButton;
+    delete alert.data();
+    if (quit) {
+        AppTerminate();
+    }
+}
+
+// A warning's own modal loop serves the queue too: what arrives meanwhile waits for its turn.
+void enqueue(const Warning &warning)
+{
+    static bool isShowing = false;
+    waitingWarnings().enqueue(warning);
+    if (isShowing) {
+        return;
+    }
+    isShowing = true;
+    while (!waitingWarnings().isEmpty()) {
+        showWarning(waitingWarnings().dequeue());
+    }
+    isShowing = false;
+}
+
+} // namespace
+
+void CUI_ShowAlert(qint64 style, const QString &message, const QString &informative)
+{
+    QCoreApplication *const application = QCoreApplication::instance();
+    if (!application) {
+        std::fprintf(stderr, "%s %s\n", qUtf8Printable(message), qUtf8Printable(informative));
+        return;
+    }
+    const Warning warning{style, message, informative};
+    QMetaObject::invokeMethod(
+        application, [warning] { enqueue(warning); }, Qt::QueuedConnection);
+}
+
+} // namespace tetrad

@@ -1,0 +1,166 @@
+#include "runtime/app/menus/edit_actions.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QVariant>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct EditAction
+{
+    const char *title;
+    const char *slot;
+    const char *property;
+    QKeySequence shortcut;
+    bool startsGroup = false;
+    bool (*lineEditCan)(const QLineEdit &) = nullptr;
+};
+
+bool hasClipboardText()
+{
+    return !QGuiApplication::clipboard()->text().isEmpty();
+}
+
+bool canTakeSelection(const QLineEdit &field)
+{
+    return !field.isReadOnly() && field.hasSelectedText();
+}
+
+bool canCutText(const QLineEdit &field)
+{
+    return canTakeSelection(field) && field.echoMode() == QLineEdit::Normal;
+}
+
+const QList<EditAction> &editActions()
+{
+    static const QList<EditAction> actions = {
+        {"Undo", "undo", "canUndo", Qt::CTRL | Qt::Key_Z, false,
+         [](const QLineEdit &field) { return field.isUndoAvailable(); }},
+        {"Redo", "redo", "canRedo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z, false,
+         [](const QLineEdit &field) { return field.isRedoAvailable(); }},
+        {"Cut", "cut", "canCut", Qt::CTRL | Qt::Key_X, true, canCutText},
+        {"Copy", "copy", "canCopy", Qt::CTRL | Qt::Key_C, false,
+         [](const QLineEdit &field) { return field.hasSelectedText() && field.echoMode() == QLineEdit::Normal; }},
+        {"Paste", "paste", "canPaste", Qt::CTRL | Qt::Key_V, false,
+         [](const QLineEdit &field) { return !field.isReadOnly() && hasClipboardText(); }},
+        {"Delete", "del", "canDelete", {}, false, canTakeSelection},
+        {"Select All", "selectAll", "canSelectAll", Qt::CTRL | Qt::Key_A, false,
+         [](const QLineEdit &field) { return !field.text().isEmpty(); }},
+    };
+    return actions;
+}
+
+// QLineEdit's del() is a plain function, not a slot.
+bool isLineEditDelete(const QWidget *widget, const EditAction &action)
+{
+    return qstrcmp(action.slot, "del") == 0 && qobject_cast<const QLineEdit *>(widget) != nullptr;
+}
+
+bool answersTo(const QWidget *widget, const EditAction &action)
+{
+    const QByteArray signature = QByteArray(action.slot) + "()";
+    return widget->metaObject()->indexOfMethod(signature) >= 0 || isLineEditDelete(widget, action);
+}
+
+QWidget *responderFor(const EditAction &action)
+{
+    for (QWidget *each = firstResponder(); each != nullptr; each = each->isWindow() ? nullptr : each->parentWidget()) {
+        if (answersTo(each, action)) {
+            return each;
+        }
+    }
+    return nullptr;
+}
+
+bool wouldAct(const EditAction &action)
+{
+    const QWidget *responder = responderFor(action);
+    if (responder == nullptr || !responder->isEnabled()) {
+        return false;
+    }
+    if (const QVariant can = responder->property(action.property); can.isValid()) {
+        return can.toBool();
+    }
+    const auto *field = qobject_cast<const QLineEdit *>(responder);
+    return field == nullptr || action.lineEditCan(*field);
+}
+
+// Asks again, since a shortcut comes without the menu having been opened.
+void perform(const EditAction &action)
+{
+    if (!wouldAct(action)) {
+        return;
+    }
+    QWidget *responder = responderFor(action);
+    if (isLineEditDelete(responder, action)) {
+        static_cast<QLineEdit *>(responder)->del();
+    } else {
+        QMetaObject::invokeMethod(responder, action.slot);
+    }
+}
+
+QAction *addEditItem(QMenu *menu, const EditAction &action)
+{
+    if (action.startsGroup) {
+        menu->addSeparator();
+    }
+    QAction *item = menu->addAction(QString::fromLatin1(action.title));
+    item->setShortcut(action.shortcut);
+    item->setShortcutContext(Qt::ApplicationShortcut);
+    QObject::connect(item, &QAction::triggered, menu, [&action] { perform(action); });
+    QObject::connect(menu, &QMenu::aboutToShow, item, [item, &action] { item->setEnabled(wouldAct(action)); });
+    // A disabled item has no shortcut, and nobody would enable it again.
+    QObject::connect(menu, &QMenu::aboutToHide, item, [item] { item->setEnabled(true); });
+    return item;
+}
+
+QPointer<QWidget> &lastResponder()
+{
+    static QPointer<QWidget> last;
+    return last;
+}
+
+bool isMenu(const QWidget *widget)
+{
+    return qobject_cast<const QMenu *>(widget) != nullptr || qobject_cast<const QMenuBar *>(widget) != nullptr;
+}
+
+void followFocus()
+{
+    lastResponder() = QApplication::focusWidget();
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget *, QWidget *now) {
+        if (now != nullptr && !isMenu(now)) {
+            lastResponder() = now;
+        }
+    });
+}
+
+} // namespace
+
+QMenu *makeEditMenu()
+{
+    static const bool follows = (followFocus(), true);
+    Q_UNUSED(follows)
+    auto *menu = new QMenu(u"Edit"_s);
+    for (const EditAction &action : editActions()) {
+        addEditItem(menu, action);
+    }
+    return menu;
+}
+
+QWidget *firstResponder()
+{
+    QWidget *focus = QApplication::focusWidget();
+    const bool menuIsOpen = QApplication::activePopupWidget() != nullptr;
+    return isMenu(focus) || (focus == nullptr && menuIsOpen) ? lastResponder().data() : focus;
+}
+
+} // namespace tetrad

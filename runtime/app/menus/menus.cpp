@@ -1,0 +1,150 @@
+#include <tetrad/app/menus.h>
+
+#include "runtime/app/menus/edit_actions.h"
+#include "runtime/app/menus/menu_keys.h"
+#include <tetrad/app/application.h>
+
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+
+#include <utility>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+MainMenu *theMainMenu = nullptr;
+QList<QPointer<QMenuBar>> bars;
+
+// A name's own "&" must not become an underlined letter.
+QString verbatim(QString title)
+{
+    return title.replace(u'&', u"&&"_s);
+}
+
+MainMenu *takeMainMenu()
+{
+    if (theMainMenu == nullptr) {
+        theMainMenu = new MainMenu{u"MainMenu"_s, {}};
+#ifdef Q_OS_MACOS
+        showMainMenuIn(new QMenuBar(nullptr));
+#endif
+    }
+    return theMainMenu;
+}
+
+QAction *addItem(QMenu *menu, const QString &title, QAction::MenuRole role)
+{
+    QAction *item = menu->addAction(title);
+    item->setMenuRole(role);
+    return item;
+}
+
+// It holds a place in the bar. Shown it would be a gap that opens an empty menu, so it waits for a title.
+QMenu *makeUntitledMenu()
+{
+    auto *menu = new QMenu;
+    QAction *item = menu->menuAction();
+    item->setVisible(false);
+    QObject::connect(item, &QAction::changed, item, [item] { item->setVisible(!item->text().isEmpty()); });
+    return menu;
+}
+
+template <typename Function>
+void forEachShortcut(Function function)
+{
+    const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
+    for (const QMenu *menu : menus) {
+        for (QAction *action : menu->actions()) {
+            if (!action->shortcut().isEmpty()) {
+                function(action);
+            }
+        }
+    }
+}
+
+} // namespace
+
+MainMenu *mainMenu()
+{
+    return theMainMenu;
+}
+
+void CUI_BuildMinimalMenu()
+{
+    const QString name = applicationName();
+    auto *menu = new QMenu(verbatim(name));
+    QAction *about = addItem(menu, verbatim(u"About %1"_s.arg(name)), QAction::AboutRole);
+    // The panel runs modally; it must not do so inside the menu that is still closing.
+    QObject::connect(about, &QAction::triggered, qApp, &orderFrontStandardAboutPanel, Qt::QueuedConnection);
+    menu->addSeparator();
+    QAction *quit = addItem(menu, verbatim(u"Quit %1"_s.arg(name)), QAction::QuitRole);
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setShortcutContext(Qt::ApplicationShortcut);
+    QObject::connect(quit, &QAction::triggered, qApp, &AppTerminate);
+    appendMenu(takeMainMenu(), menu);
+}
+
+void CUI_EditMenu(qint64 index)
+{
+    if (theMainMenu == nullptr) {
+        CUI_BuildMinimalMenu();
+    }
+    if (index < theMainMenu->menus.size()) {
+        return;
+    }
+    CUI_MenuPadItemsToIndex(theMainMenu, index);
+    appendMenu(theMainMenu, makeEditMenu());
+}
+
+void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index)
+{
+    // Position 1 is deliberately never padded: the bar always begins with the application menu.
+    if (index < 2) {
+        return;
+    }
+    while (menu->menus.size() < index) {
+        appendMenu(menu, makeUntitledMenu());
+    }
+}
+
+void appendMenu(MainMenu *menu, QMenu *added)
+{
+    menu->menus.append(added);
+    leaveBarWithEscape(added);
+    if (menu != theMainMenu) {
+        return;
+    }
+    for (const auto &bar : std::as_const(bars)) {
+        if (bar != nullptr) {
+            bar->addMenu(added);
+        }
+    }
+}
+
+void showMainMenuIn(QMenuBar *bar)
+{
+    bars.removeAll(nullptr);
+    bars.append(bar);
+    openWithF10(bar);
+    const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
+    for (QMenu *menu : menus) {
+        bar->addMenu(menu);
+    }
+}
+
+void addMenuShortcutsTo(QWidget *widget)
+{
+    forEachShortcut([widget](QAction *action) { widget->addAction(action); });
+}
+
+void removeMenuShortcutsFrom(QWidget *widget)
+{
+    forEachShortcut([widget](QAction *action) { widget->removeAction(action); });
+}
+
+} // namespace tetrad

@@ -1,0 +1,187 @@
+#include <tetrad/app/modal.h>
+
+#include "runtime/app/modal/modal_filter.h"
+#include "runtime/app/process/platform_events.h"
+#include <tetrad/app/dump.h>
+#include <tetrad/app/menus.h>
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QPointer>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace tetrad {
+
+namespace {
+
+struct ModalRun
+{
+    QPointer<QWidget> widget;
+    QPointer<QWidget> focusBefore;
+    QEventLoop loop;
+    qint64 code = modalAborted;
+    bool ended = false;
+};
+
+// Newest last. The runs themselves live on the stack of their runModalForWindow.
+QList<ModalRun *> runs;
+
+ModalFilter &filter()
+{
+    static auto *const theFilter = new ModalFilter;
+    return *theFilter;
+}
+
+// The first end counts: a second one can only come from an event that was on its way already.
+void endRun(ModalRun &run, qint64 code)
+{
+    if (run.ended) {
+        return;
+    }
+    run.ended = true;
+    run.code = code;
+    run.loop.exit();
+    if (&run != runs.last()) {
+        return;
+    }
+    filter().setWidget(nullptr);
+    // An open menu has a loop of its own above this one.
+    while (QWidget *popup = QApplication::activePopupWidget()) {
+        popup->close();
+        if (QApplication::activePopupWidget() == popup) {
+            break;
+        }
+    }
+}
+
+void endIfGone(ModalRun &run)
+{
+    if (run.widget == nullptr || !run.widget->isVisible()) {
+        endRun(run, modalAborted);
+    }
+}
+
+// A widget may be hidden only to be shown again at once, with other window flags for example.
+void watch(ModalRun &run)
+{
+    QObject::connect(run.widget, &QObject::destroyed, &run.loop, [&run] { endRun(run, modalAborted); });
+    QObject::connect(&filter(), &ModalFilter::hidden, &run.loop, [&run](const QWidget *hidden) {
+        if (hidden == run.widget) {
+            QMetaObject::invokeMethod(
+                &run.loop, [&run] { endIfGone(run); }, Qt::QueuedConnection);
+        }
+    });
+}
+
+// Without a window manager a child gets no keys before its window was activated, hence this order.
+void present(QWidget *widget)
+{
+    if (!widget->isWindow()) {
+        widget->window()->activateWindow();
+    }
+    widget->show();
+    widget->raise();
+    if (widget->isWindow()) {
+        widget->activateWindow();
+    }
+    filter().focusInside();
+}
+
+void begin(ModalRun &run)
+{
+    if (runs.isEmpty()) {
+        filter().install();
+    }
+    runs.append(&run);
+    filter().setWidget(run.widget);
+    watch(run);
+    addMenuShortcutsTo(run.widget);
+}
+
+void returnTo(ModalRun &outer, QWidget *focusBefore)
+{
+    filter().setWidget(outer.ended ? nullptr : outer.widget.data());
+    if (outer.ended || outer.widget == nullptr) {
+        return;
+    }
+    outer.widget->window()->activateWindow();
+    if (focusBefore != nullptr) {
+        focusBefore->setFocus(Qt::OtherFocusReason);
+    } else {
+        filter().focusInside();
+    }
+}
+
+void finish(const ModalRun &run)
+{
+    runs.removeLast();
+    if (run.widget != nullptr) {
+        removeMenuShortcutsFrom(run.widget);
+    }
+    if (runs.isEmpty()) {
+        filter().setWidget(nullptr);
+        filter().remove();
+    } else {
+        returnTo(*runs.last(), run.focusBefore);
+    }
+}
+
+} // namespace
+
+qint64 runModalForWindow(QWidget *window)
+{
+    if (window == nullptr) {
+        return modalAborted;
+    }
+    announceLaunch();
+    ModalRun run;
+    run.widget = window;
+    run.focusBefore = QApplication::focusWidget();
+    begin(run);
+    present(window);
+    dumpIfWanted();
+    endIfGone(run);
+    filter().deliverKeptKeys();
+    if (!run.ended) {
+        run.loop.exec();
+    }
+    finish(run);
+    return run.code;
+}
+
+void stopModalWithCode(qint64 code)
+{
+    if (!runs.isEmpty()) {
+        endRun(*runs.last(), code);
+    }
+}
+
+void abortModal()
+{
+    stopModalWithCode(modalAborted);
+}
+
+QWidget *modalWindow()
+{
+    return runs.isEmpty() ? nullptr : runs.last()->widget.data();
+}
+
+bool closeMeansQuit(const QWidget *window)
+{
+    if (runs.isEmpty()) {
+        return false;
+    }
+    for (const QWidget *each = modalWindow(); each != nullptr; each = each->parentWidget()) {
+        if (each == window) {
+            return true;
+        }
+    }
+    const QWidgetList all = QApplication::topLevelWidgets();
+    return std::ranges::none_of(all, [window](const QWidget *other) {
+        return other != window && other->isVisible() && other->inherits("tetrad::Window");
+    });
+}
+
+} // namespace tetrad

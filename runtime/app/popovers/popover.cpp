@@ -1,0 +1,149 @@
+#include <tetrad/app/popover.h>
+
+#include <tetrad/app/content_view.h>
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tetrad {
+
+namespace {
+
+// The one shown last comes first.
+QList<Popover *> &popovers()
+{
+    static auto *const list = new QList<Popover *>;
+    return *list;
+}
+
+QPoint placeAtEdge(const QRect &anchor, const QSize &size, Qt::Edge edge)
+{
+    QRect place(QPoint(), size);
+    place.moveCenter(anchor.center());
+    switch (edge) {
+    case Qt::TopEdge:
+        place.moveBottom(anchor.top() - 1);
+        break;
+    case Qt::LeftEdge:
+        place.moveRight(anchor.left() - 1);
+        break;
+    case Qt::RightEdge:
+        place.moveLeft(anchor.right() + 1);
+        break;
+    case Qt::BottomEdge:
+        place.moveTop(anchor.bottom() + 1);
+        break;
+    }
+    return place.topLeft();
+}
+
+Qt::Edge oppositeEdge(Qt::Edge edge)
+{
+    switch (edge) {
+    case Qt::TopEdge:
+        return Qt::BottomEdge;
+    case Qt::LeftEdge:
+        return Qt::RightEdge;
+    case Qt::RightEdge:
+        return Qt::LeftEdge;
+    case Qt::BottomEdge:
+        break;
+    }
+    return Qt::TopEdge;
+}
+
+} // namespace
+
+Popover::Popover(Tag tag, const QSize &contentSize) : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint)
+{
+    m_contentView = new ContentViewSC(this);
+    auto *const box = new QVBoxLayout(this);
+    box->setContentsMargins(1, 1, 1, 1);
+    box->setSizeConstraint(QLayout::SetFixedSize);
+    box->addWidget(m_contentView);
+    m_contentView->setFixedSize(contentSize);
+    setObjectTag(this, tag);
+    popovers().append(this);
+}
+
+Popover::~Popover()
+{
+    popovers().removeOne(this);
+}
+
+Tag Popover::tag() const
+{
+    return objectTag(this);
+}
+
+void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferredEdge)
+{
+    // A popup is what the window system closes on a click outside.
+    setWindowFlags((m_behavior == popoverTransient ? Qt::Popup : Qt::Tool) | Qt::FramelessWindowHint);
+    const QRect local = rect.isEmpty() ? view->rect() : rect;
+    const QRect anchor(view->mapToGlobal(local.topLeft()), local.size());
+    const QRect screenArea = view->screen()->availableGeometry();
+    adjustSize();
+    QPoint place = placeAtEdge(anchor, size(), preferredEdge);
+    if (!screenArea.contains(QRect(place, size()))) {
+        const QPoint other = placeAtEdge(anchor, size(), oppositeEdge(preferredEdge));
+        place = screenArea.contains(QRect(other, size())) ? other : place;
+    }
+    const QPointer<Popover> guard(this);
+    Q_EMIT willShow();
+    if (!guard) {
+        return;
+    }
+    popovers().removeOne(this);
+    popovers().prepend(this);
+    move(place);
+    show();
+    Q_EMIT didShow();
+}
+
+void Popover::closeEvent(QCloseEvent *event)
+{
+    const QPointer<Popover> guard(this);
+    bool closes = true;
+    Q_EMIT shouldClose(&closes);
+    if (!closes || !guard) {
+        event->setAccepted(closes);
+        return;
+    }
+    Q_EMIT willClose();
+    if (guard) {
+        hide();
+        Q_EMIT didClose();
+    }
+}
+
+void Popover::keyPressEvent(QKeyEvent *event)
+{
+    if (m_behavior == popoverTransient && event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+Popover *CUI_PopoverWithTag(Tag tag)
+{
+    const Tag identity = tagIdentity(tag);
+    const auto hasTag = [identity](const Popover *popover) { return popover->tag() == identity; };
+    const auto found = std::find_if(popovers().begin(), popovers().end(), hasTag);
+    return identity == 0 || found == popovers().end() ? nullptr : *found;
+}
+
+Popover *CUI_PopoverShown()
+{
+    const auto found =
+        std::find_if(popovers().begin(), popovers().end(), [](const Popover *p) { return p->isVisible(); });
+    return found == popovers().end() ? nullptr : *found;
+}
+
+} // namespace tetrad

@@ -1,0 +1,150 @@
+#include "runtime/app/process/platform_application.h"
+
+#include "runtime/app/process/exhaustion.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void endWithoutDisplay(const QString &trouble)
+{
+    const QString sentence = QCoreApplication::applicationName() + u' ' + trouble +
+                             u"; start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY to one.\n";
+    std::fputs(qUtf8Printable(sentence), stderr);
+    std::fflush(nullptr);
+    // Not exit: the application object is half made.
+    std::_Exit(1);
+}
+
+QString requestedPlatform()
+{
+    QStringList requests;
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        if (const QString value = qEnvironmentVariable(name); !value.isEmpty()) {
+            requests << QString::fromLatin1(name) + u'=' + value;
+        }
+    }
+    return requests.join(u' ');
+}
+
+QString cannotOpenDisplay()
+{
+    return u"cannot open the display (" + requestedPlatform() + u')';
+}
+
+void requireDisplaySetting()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    if (requestedPlatform().isEmpty()) {
+        endWithoutDisplay(u"needs a display and there is none"_s);
+    }
+#endif
+}
+
+QtMessageHandler handlerBefore = nullptr;
+
+// The Wayland plugin reports a missing compositor without a category.
+bool isAboutAPlatform(const QMessageLogContext &context, const QString &message)
+{
+    return qstrncmp(context.category, "qt.qpa.", 7) == 0 || message.startsWith(u"Failed to create wl_display");
+}
+
+// Without a usable display the construction aborts with several lines and a core dump. Its lines are
+// one sentence here; those about a platform that was tried in vain before another one worked are
+// of no use to anybody.
+void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtFatalMsg) {
+        endWithoutDisplay(cannotOpenDisplay());
+    }
+    if (handlerBefore != nullptr && !isAboutAPlatform(context, message)) {
+        handlerBefore(type, context, message);
+    }
+}
+
+// A standard stream that the program was started without would be the next descriptor opened: the connection
+// to the display, which a warning must not be written to.
+void fillStandardStreams()
+{
+#ifdef Q_OS_UNIX
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        if (::fcntl(stream, F_GETFD) < 0) {
+            [[maybe_unused]] const int opened = ::open("/dev/null", O_RDWR);
+        }
+    }
+#endif
+}
+
+const char *executableName()
+{
+#ifdef __GLIBC__
+    return program_invocation_name;
+#else
+    return "application";
+#endif
+}
+
+// Only the executable's own name: what the command line says is not for the application object.
+void makeApplication()
+{
+    static QByteArray name = executableName();
+    static char *arguments[] = {name.data(), nullptr};
+    static int count = 1;
+    fillStandardStreams();
+    requireDisplaySetting();
+    endOnExhaustion();
+    handlerBefore = qInstallMessageHandler(&readConstructionMessage);
+    // Deliberately never deleted: the process ends from the depth of a modal loop, with windows open.
+    new QApplication(count, arguments);
+    qInstallMessageHandler(handlerBefore);
+    // By itself it follows only its own translations, which need not be installed.
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
+    // Some platforms go on without.
+    if (QGuiApplication::primaryScreen() == nullptr) {
+        endWithoutDisplay(cannotOpenDisplay());
+    }
+}
+
+// An application object named by nobody has its executable's name.
+bool isNamed()
+{
+    const QString name = QCoreApplication::applicationName();
+    return !name.isEmpty() && (qApp == nullptr || name != QFileInfo(QCoreApplication::arguments().value(0)).fileName());
+}
+
+void giveName()
+{
+    QCoreApplication::setApplicationName(QStringLiteral(TETRAD_APP_NAME));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TETRAD_APP_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral(TETRAD_APP_ID));
+}
+
+} // namespace
+
+void ensurePlatformApplication()
+{
+    // Before the construction: windows get their class from the name.
+    if (!isNamed()) {
+        giveName();
+    }
+    if (qApp == nullptr) {
+        makeApplication();
+    }
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+} // namespace tetrad

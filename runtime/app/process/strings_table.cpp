@@ -1,0 +1,12 @@
+#include <tetrad/app/strings_table.h>
+
+#include <QCoreApplication>
+
+namespace tetrad {
+
+QString runtimeText(const char *english)
+{
+    return QCoreApplication::translate("Runtime", english);
+}
+
+} // namespace tetrad

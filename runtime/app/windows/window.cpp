@@ -1,0 +1,323 @@
+#include <tetrad/app/window.h>
+
+#include "runtime/app/windows/window_order.h"
+#include "runtime/app/windows/window_translator.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/menus.h>
+#include <tetrad/app/modal.h>
+#include <tetrad/app/window_controller.h>
+#include <tetrad/app/window_delegate.h>
+#include <tetrad/app/windows.h>
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char callbackKey[] = "callbackValue";
+constexpr char userDataKey[] = "userDataValue";
+constexpr Qt::WindowStates spreadOut = Qt::WindowMaximized | Qt::WindowFullScreen;
+
+QPoint mainScreenOrigin()
+{
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    return screen ? screen->geometry().topLeft() : QPoint();
+}
+
+Qt::WindowFlags hintsForStyle(qint64 mask)
+{
+    if (!(mask & windowStyleTitled)) {
+        return Qt::FramelessWindowHint;
+    }
+    Qt::WindowFlags hints = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    hints.setFlag(Qt::WindowCloseButtonHint, mask & windowStyleClosable);
+    hints.setFlag(Qt::WindowMinimizeButtonHint, mask & windowStyleMiniaturizable);
+    hints.setFlag(Qt::WindowMaximizeButtonHint, mask & windowStyleResizable);
+    return hints;
+}
+
+} // namespace
+
+Window::Window(const QRectF &contentRect) : m_translator(std::make_unique<WindowTranslator>(this))
+{
+    // Not before all members stand: the new child is an event of this window.
+    m_contentView = new ContentViewSC(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    // Menus follow the language's direction; the places that a program prints and asks at do not.
+    m_contentView->setLayoutDirection(Qt::LeftToRight);
+    setCentralWidget(m_contentView);
+    menuBar()->setAccessibleName(tr("Menu bar"));
+    showMainMenuIn(menuBar());
+    setStyleMask(windowStyleDefault);
+    setContentRect(contentRect);
+    WindowOrder::instance().add(this);
+}
+
+Window::~Window()
+{
+    WindowOrder::instance().remove(this);
+    CUI_AppDelegateRemoveWindow(this);
+}
+
+Tag Window::tag() const
+{
+    return objectTag(this);
+}
+
+void Window::setTag(Tag tag)
+{
+    setObjectTag(this, tag);
+}
+
+WindowCallback Window::cuiWindowCallback() const
+{
+    return property(callbackKey).value<WindowCallback>();
+}
+
+void Window::setCuiWindowCallback(WindowCallback callback)
+{
+    setProperty(callbackKey, QVariant::fromValue(callback));
+}
+
+void *Window::cuiWindowUserData() const
+{
+    return property(userDataKey).value<void *>();
+}
+
+void Window::setCuiWindowUserData(void *userData)
+{
+    setProperty(userDataKey, QVariant::fromValue(userData));
+}
+
+QRectF Window::contentRect() const
+{
+    const QPoint topLeft = m_contentView->mapToGlobal(QPoint()) - mainScreenOrigin();
+    return QRectF(topLeft, m_contentView->size());
+}
+
+void Window::setContentRect(const QRectF &rect)
+{
+    setWindowState(windowState() & ~spreadOut);
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    m_chrome = measuredChrome();
+    const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - QPoint(0, m_chrome.height());
+    setGeometry(QRect(origin, rect.size().toSize() + m_chrome));
+    keepContentSize();
+    fixSizeUnlessResizable();
+}
+
+qint64 Window::styleMask() const
+{
+    return m_styleMask;
+}
+
+void Window::setStyleMask(qint64 mask)
+{
+    m_styleMask = mask;
+    const QRectF place = contentRect();
+    // Not setWindowFlags, which hides the window.
+    overrideWindowFlags((windowFlags() & Qt::WindowType_Mask) | hintsForStyle(mask));
+    if (QWindow *const handle = windowHandle()) {
+        handle->setFlags(windowFlags());
+    }
+    if (!(windowState() & spreadOut)) {
+        setContentRect(place);
+    }
+}
+
+void Window::center()
+{
+    const QRect available = screen()->availableGeometry();
+    const QMargins frame = frameMargins();
+    QRect place = geometry() + frame;
+    place.moveCenter(available.center());
+    // A window larger than the screen keeps its title bar where the pointer can reach it.
+    place.moveLeft(std::max(place.left(), available.left()));
+    place.moveTop(std::max(place.top(), available.top()));
+    setGeometry(place - frame);
+}
+
+void Window::setBackgroundColor(const QColor &color)
+{
+    m_contentView->setBackgroundColor(color);
+}
+
+QColor Window::backgroundColor() const
+{
+    return m_contentView->backgroundColor();
+}
+
+QWidget *Window::contentView() const
+{
+    return m_contentView;
+}
+
+bool Window::isReleasedWhenClosed() const
+{
+    return testAttribute(Qt::WA_DeleteOnClose);
+}
+
+void Window::setReleasedWhenClosed(bool released)
+{
+    setAttribute(Qt::WA_DeleteOnClose, released);
+}
+
+CUI_WindowController *Window::windowController() const
+{
+    return findChild<CUI_WindowController *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void Window::makeKeyAndOrderFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    WindowOrder::instance().bringToFront(this);
+}
+
+QString Window::dump() const
+{
+    const QRectF place = contentRect();
+    QString line = u"content %1x%2 at %3,%4, style %5"_s;
+    line = line.arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y()).arg(m_styleMask);
+    return isActiveWindow() ? line + u", key" : line;
+}
+
+bool Window::event(QEvent *event)
+{
+    if (m_closed && event->type() == QEvent::Close) {
+        return true;
+    }
+    const QPointer<Window> guard(this);
+    const bool handled = QMainWindow::event(event);
+    if (!guard) {
+        return true;
+    }
+    if (event->type() == QEvent::Show || (event->type() == QEvent::LayoutRequest && isVisible())) {
+        keepContentSize();
+    }
+    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) {
+        WindowOrder::instance().bringToFront(this);
+    }
+    const bool closes = event->type() == QEvent::Close && event->isAccepted();
+    m_closed = closes && isReleasedWhenClosed();
+    m_translator->translate(event);
+    if (guard && closes) {
+        // The report may have kept it.
+        m_closed = isReleasedWhenClosed();
+        if (m_closed) {
+            WindowOrder::instance().remove(this);
+        }
+    }
+    return handled;
+}
+
+void Window::closeEvent(QCloseEvent *event)
+{
+    const QPointer<Window> guard(this);
+    if (m_delegate && !m_delegate->windowShouldClose(this)) {
+        event->ignore();
+        return;
+    }
+    if (guard && closeMeansQuit(this)) {
+        AppTerminate();
+        event->ignore();
+    }
+}
+
+bool Window::focusNextPrevChild(bool next)
+{
+    if (m_autorecalculatesKeyViewLoop) {
+        recalculateKeyViewLoop();
+    }
+    return QMainWindow::focusNextPrevChild(next);
+}
+
+// A window manager adds its frame some time after the window was shown. Until then the title bar that
+// a titled window will have is taken to be as high as the style's.
+QMargins Window::frameMargins() const
+{
+    const QMargins known = isVisible() && windowHandle() ? windowHandle()->frameMargins() : QMargins();
+    if (!known.isNull() || !(m_styleMask & windowStyleTitled)) {
+        return known;
+    }
+    return {0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0};
+}
+
+QSize Window::measuredChrome()
+{
+    if (!isVisible()) {
+        // A hidden window lays nothing out by itself when its size changes.
+        layout()->invalidate();
+    }
+    layout()->activate();
+    // The layout of a window too small for any content puts it out of sight, at the size it had.
+    return rect().contains(m_contentView->pos()) ? size() - m_contentView->size() : m_chrome;
+}
+
+// The menu bar's height is known for certain only once it is shown, and it may come and go later: a
+// desktop may take it out of the window, menus may be added.
+void Window::keepContentSize()
+{
+    const QSize grown = measuredChrome() - m_chrome;
+    if (grown.isNull()) {
+        return;
+    }
+    m_chrome += grown;
+    if (windowState() & spreadOut) {
+        return;
+    }
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    resize(size() + grown);
+    fixSizeUnlessResizable();
+}
+
+void Window::fixSizeUnlessResizable()
+{
+    if (!(m_styleMask & windowStyleResizable)) {
+        setFixedSize(size());
+    }
+}
+
+void Window::recalculateKeyViewLoop()
+{
+    QList<QWidget *> views = m_contentView->findChildren<QWidget *>();
+    views.removeIf([](const QWidget *view) { return !(view->focusPolicy() & Qt::TabFocus) || view->focusProxy(); });
+    const auto place = [this](const QWidget *view) { return view->mapTo(m_contentView, QPoint()); };
+    std::stable_sort(views.begin(), views.end(), [&place](const QWidget *a, const QWidget *b) {
+        const QPoint first = place(a);
+        const QPoint second = place(b);
+        return first.y() != second.y() ? first.y() < second.y() : first.x() < second.x();
+    });
+    for (qsizetype i = 1; i < views.size(); ++i) {
+        QWidget::setTabOrder(views[i - 1], views[i]);
+    }
+}
+
+PanelSC::PanelSC(const QRectF &contentRect) : Window(contentRect)
+{
+    overrideWindowFlags(Qt::Tool | (windowFlags() & ~Qt::WindowType_Mask));
+}
+
+void PanelSC::awakeFromNib()
+{
+    CUI_WindowSubclassAwakeFromNib(this);
+}
+
+} // namespace tetrad

@@ -1,0 +1,134 @@
+#include <tetrad/app/windows.h>
+
+#include "runtime/app/windows/window_order.h"
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/output_window.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/window_controller.h>
+#include <tetrad/app/window_delegate.h>
+#include <tetrad/events/dialog_event.h>
+#include <tetrad/strings/not_given.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool subclassFlag = false;
+
+void applyStyleAndTitle(Window *window, qint64 style, const QString &title)
+{
+    if (style != notGiven) {
+        window->setStyleMask(style);
+    }
+    if (!title.isNull()) {
+        window->setWindowTitle(title);
+    }
+}
+
+} // namespace
+
+Window *WindowInit(Tag tag, const QRectF &contentRect)
+{
+    const QRectF rect = contentRect.isEmpty() ? QRectF(0, 0, 550, 400) : contentRect;
+    auto *const window = CUI_IsSubclassFlag() ? new WindowSC(rect) : new Window(rect);
+    (new CUI_WindowController)->setWindow(window);
+    window->setAutorecalculatesKeyViewLoop(true);
+    window->setTag(tag);
+    window->setWindowTitle(u"Untitled"_s);
+    if (rect.topLeft() == QPointF(0, 0)) {
+        window->center();
+    }
+    window->setDelegate(CUI_WindowDelegateObj());
+    CUI_AppDelegateAddWindow(window);
+    return window;
+}
+
+void CUI_Window(Tag tag, const QString &title, qint64 style, const QRectF &contentRect)
+{
+    const Tag wndTag = tagIdentity(tag);
+    if (CUI_ObjectIsPopover(wndTag)) {
+        return;
+    }
+    Window *window = CUI_WindowWithTag(wndTag);
+    if (window) {
+        CUI_SetSubclassFlag(false);
+        if (!contentRect.isEmpty()) {
+            window->setContentRect(contentRect);
+        }
+    } else {
+        window = WindowInit(wndTag, contentRect);
+    }
+    applyStyleAndTitle(window, style, title);
+    if (tag < 1) {
+        window->hide();
+    } else {
+        window->makeKeyAndOrderFront();
+    }
+    CUI_OutputWindowSetTag(wndTag);
+}
+
+Window *CUI_WindowWithTag(Tag tag)
+{
+    const Tag wndTag = tagIdentity(tag);
+    if (wndTag == 0) {
+        return nullptr;
+    }
+    if (isObjectAddress(wndTag)) {
+        // Deliberately unchecked: the caller passed a window where a tag is expected.
+        return static_cast<Window *>(objectFromTag(wndTag));
+    }
+    const QList<Window *> &windows = WindowOrder::instance().byCreation();
+    const auto found = std::find_if(windows.begin(), windows.end(),
+                                    [wndTag](const Window *window) { return window->tag() == wndTag; });
+    return found == windows.end() ? nullptr : *found;
+}
+
+void WindowSetBackgroundColor(Tag tag, const QColor &color)
+{
+    if (Window *const window = CUI_WindowWithTag(tag)) {
+        window->setBackgroundColor(color);
+    }
+}
+
+void WindowCenter(Tag tag)
+{
+    if (Window *const window = CUI_WindowWithTag(tag)) {
+        window->center();
+    }
+}
+
+QList<Window *> orderedWindows()
+{
+    return WindowOrder::instance().frontToBack();
+}
+
+Window *CUI_FrontWindow()
+{
+    const QList<Window *> &windows = WindowOrder::instance().frontToBack();
+    const auto found = std::find_if(windows.begin(), windows.end(), [](const Window *w) { return w->isVisible(); });
+    return found == windows.end() ? nullptr : *found;
+}
+
+void CUI_SetSubclassFlag(bool flag)
+{
+    subclassFlag = flag;
+}
+
+bool CUI_IsSubclassFlag()
+{
+    return std::exchange(subclassFlag, false);
+}
+
+void CUI_WindowSubclassAwakeFromNib(Window *window)
+{
+    const Tag wndTag = window->tag();
+    CUI_OutputWindowSetTag(wndTag);
+    CallUserDefinedOnDialogFunction(windowEventAwakeFromNib, wndTag, wndTag, 0);
+}
+
+} // namespace tetrad

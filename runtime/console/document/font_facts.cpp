@@ -1,0 +1,180 @@
+#include <tetrad/console/font_facts.h>
+
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QHashFunctions>
+#include <QScreen>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct ChoiceHash
+{
+    size_t operator()(const FontChoice &choice) const
+    {
+        return qHashMulti(0, choice.family, choice.size, choice.weight, choice.italic);
+    }
+};
+
+using FactsTable = std::unordered_map<FontChoice, std::shared_ptr<const FontFacts>, ChoiceHash>;
+
+FactsTable &factsTable()
+{
+    static FactsTable table;
+    return table;
+}
+
+QString standardFamily()
+{
+    return QString::fromUtf16(standardFontFamily);
+}
+
+bool isStandardFamily(const QString &family)
+{
+    // The font database does not tell case apart either.
+    return family.compare(standardFamily(), Qt::CaseInsensitive) == 0;
+}
+
+/// NaN counts as the smallest.
+double drawableSize(double size)
+{
+    return size >= 1 ? std::min(size, largestFontSize) : 1;
+}
+
+QString installedFamily(const QString &family)
+{
+    if (!isStandardFamily(family) || QFontDatabase::hasFamily(family)) {
+        return family;
+    }
+    // The same advance (0.602 em) and nearly the same height as the font that it stands for.
+    const QString substitute = u"DejaVu Sans Mono"_s;
+    return QFontDatabase::hasFamily(substitute) ? substitute
+                                                : QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+}
+
+QString emojiFamily()
+{
+    for (const char16_t *name : {u"Noto Color Emoji", u"Apple Color Emoji", u"Segoe UI Emoji"}) {
+        if (QString family = QString::fromUtf16(name); QFontDatabase::hasFamily(family)) {
+            return family;
+        }
+    }
+    return {};
+}
+
+/// Typographic points per device-independent pixel.
+double pointsPerPixel()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return 72.0 / (screen ? std::round(screen->logicalDotsPerInchY()) : 96.0);
+}
+
+void setPixelSize(QFont &font, double size)
+{
+    if (size == std::floor(size)) {
+        font.setPixelSize(static_cast<int>(size));
+    } else {
+        font.setPointSizeF(size * pointsPerPixel());
+    }
+}
+
+QFont drawnFont(const FontChoice &choice)
+{
+    QFont font = fontObject(choice);
+    font.setFamilies({installedFamily(choice.family)});
+    font.setStyleHint(QFont::Monospace);
+    // Advances must not change with the scale factor, or a text would not end where it was measured to.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    font.setKerning(false);
+    return font;
+}
+
+// One layout tells: widths are whole 64ths of a pixel and add up without rounding.
+double plainAdvance(const QFont &font)
+{
+    if (!QFontInfo(font).fixedPitch()) {
+        return 0;
+    }
+    QString probe;
+    for (char16_t c = 0x20; c < 0x7F; ++c) {
+        probe += QChar(c);
+    }
+    probe += u"fi -> != =="_s;
+    QTextLayout layout(probe, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    const double advance = line.cursorToX(1);
+    for (int i = 1; i <= probe.size(); ++i) {
+        if (line.cursorToX(i) != i * advance) {
+            return 0;
+        }
+    }
+    return advance;
+}
+
+std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
+{
+    auto facts = std::make_shared<FontFacts>();
+    facts->font = drawnFont(choice);
+    facts->emojiFont = facts->font;
+    if (const QString emoji = emojiFamily(); !emoji.isEmpty()) {
+        facts->emojiFont.setFamilies({emoji});
+    }
+    const QFontMetricsF metrics(facts->font);
+    facts->ascent = metrics.ascent();
+    facts->lineHeight = metrics.lineSpacing();
+    facts->plainAdvance = plainAdvance(facts->font);
+    return facts;
+}
+
+} // namespace
+
+std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
+{
+    FontChoice key = choice;
+    key.size = drawableSize(choice.size);
+    FactsTable &table = factsTable();
+    if (table.empty()) {
+        // Fonts must not outlive the application object that loaded them.
+        qAddPostRoutine([] { factsTable().clear(); });
+    }
+    std::shared_ptr<const FontFacts> &facts = table[key];
+    if (!facts) {
+        facts = computeFacts(key);
+    }
+    return facts;
+}
+
+FontChoice fontChoice(const QFont &font)
+{
+    const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() / pointsPerPixel();
+    return {.family = font.family(), .size = drawableSize(size), .weight = font.weight(), .italic = font.italic()};
+}
+
+QFont fontObject(const FontChoice &choice)
+{
+    QFont font(choice.family);
+    font.setWeight(static_cast<QFont::Weight>(choice.weight));
+    font.setItalic(choice.italic);
+    setPixelSize(font, choice.size);
+    return font;
+}
+
+bool isKnownFontFamily(const QString &family)
+{
+    return isStandardFamily(family) || QFontDatabase::hasFamily(family);
+}
+
+} // namespace tetrad

@@ -1,0 +1,165 @@
+#include <tetrad/console/text_layout.h>
+
+#include "runtime/console/document/emoji_runs.h"
+#include <tetrad/console/text_attributes.h>
+
+#include <algorithm>
+
+namespace tetrad {
+
+namespace {
+
+constexpr double measuringLimit = 10000;
+
+// No text is wider; the layout engine counts in 64ths of a pixel in 32 bits.
+constexpr double unlimited = 16000000;
+
+bool isControl(QChar c)
+{
+    return c.unicode() < 0x20 || (c.unicode() >= 0x7F && c.unicode() < 0xA0);
+}
+
+bool isPlain(QChar c)
+{
+    return c.unicode() >= 0x20 && c.unicode() < 0x7F;
+}
+
+bool tabsAdvance(const ParagraphStyle &style)
+{
+    return style.defaultTabInterval > 0 || !style.tabStops.isEmpty();
+}
+
+QTextOption textOption(const ParagraphStyle &style, QTextOption::WrapMode wrap)
+{
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    option.setWrapMode(wrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    option.setTabStopDistance(style.defaultTabInterval);
+    if (!style.tabStops.isEmpty()) {
+        QList<QTextOption::Tab> tabs;
+        for (const double stop : style.tabStops) {
+            tabs.append({stop, QTextOption::LeftTab});
+        }
+        option.setTabs(tabs);
+    }
+    return option;
+}
+
+void layOut(QTextLayout &layout, const QString &drawn, const TextAttributes &attributes, double limit)
+{
+    layout.setText(drawn);
+    layout.setFont(attributes.facts().font);
+    QList<QTextLayout::FormatRange> formats;
+    for (const TextRun &run : emojiRuns(drawn)) {
+        QTextLayout::FormatRange range;
+        range.start = static_cast<int>(run.start);
+        range.length = static_cast<int>(run.length);
+        range.format.setFont(attributes.facts().emojiFont);
+        formats.append(range);
+    }
+    layout.setFormats(formats);
+    const bool wraps = limit < unlimited;
+    layout.setTextOption(textOption(attributes.paragraphStyle(),
+                                    wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap));
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(limit);
+    }
+    layout.endLayout();
+}
+
+double widestLine(const QTextLayout &layout)
+{
+    double width = 0;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        width = std::max(width, layout.lineAt(i).horizontalAdvance());
+    }
+    // A blank that hangs over the end of a full line does not count.
+    return std::min(width, measuringLimit);
+}
+
+QRectF boxInk(double width, const FontFacts &facts)
+{
+    const double room = facts.lineHeight;
+    return QRectF(0, 0, width, facts.lineHeight).adjusted(-room, -room, room, room);
+}
+
+QRectF glyphInk(const ShapedText &shaped, const FontFacts &facts)
+{
+    QRectF ink = boxInk(0, facts);
+    for (const QGlyphRun &run : shaped.glyphRuns()) {
+        const double room = facts.lineHeight;
+        ink |= run.boundingRect().translated(0, shaped.baseline()).adjusted(-room, -room, room, room);
+    }
+    return ink;
+}
+
+} // namespace
+
+QString drawnText(const QString &text, const TextAttributes &attributes)
+{
+    if (std::none_of(text.begin(), text.end(), isControl)) {
+        return text;
+    }
+    const bool keepTabs = tabsAdvance(attributes.paragraphStyle());
+    QString drawn;
+    drawn.reserve(text.size());
+    for (const QChar c : text) {
+        if (!isControl(c) || (c == u'\t' && keepTabs)) {
+            drawn += c;
+        }
+    }
+    return drawn;
+}
+
+TextExtent measureText(const QString &text, const TextAttributes &attributes)
+{
+    const QString drawn = drawnText(text, attributes);
+    if (drawn.isEmpty()) {
+        return {};
+    }
+    const FontFacts &facts = attributes.facts();
+    if (facts.plainAdvance > 0 && std::all_of(drawn.begin(), drawn.end(), isPlain)) {
+        const double width = static_cast<double>(drawn.size()) * facts.plainAdvance;
+        if (width <= measuringLimit) {
+            return {width, boxInk(width, facts), nullptr};
+        }
+    }
+    auto shape = std::make_unique<ShapedText>(drawn, attributes);
+    const QRectF ink = glyphInk(*shape, facts);
+    // Shaping emoji decodes their pictures each time; what fits is not laid out again to be measured.
+    if (const double width = shape->width(); width <= measuringLimit) {
+        return {width, boxInk(width, facts) | ink, std::move(shape)};
+    }
+    QTextLayout layout;
+    layOut(layout, drawn, attributes, measuringLimit);
+    const double width = widestLine(layout);
+    return {width, boxInk(width, facts) | ink, nullptr};
+}
+
+ShapedText::ShapedText(const QString &text, const TextAttributes &attributes)
+{
+    layOut(m_layout, text, attributes, unlimited);
+    m_layout.setCacheEnabled(true);
+    // A taller fallback font must not push the text below its neighbours on the same line.
+    m_baseline = m_layout.lineCount() > 0 ? attributes.facts().ascent - m_layout.lineAt(0).ascent() : 0;
+    m_glyphRuns = m_layout.glyphRuns();
+}
+
+double ShapedText::width() const
+{
+    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).horizontalAdvance() : 0;
+}
+
+double ShapedText::xOf(qsizetype index) const
+{
+    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).cursorToX(static_cast<int>(index)) : 0;
+}
+
+qsizetype ShapedText::indexAt(double x) const
+{
+    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).xToCursor(x) : 0;
+}
+
+} // namespace tetrad

@@ -1,0 +1,89 @@
+#include <tetrad/controls/toolbar_events.h>
+
+#include <tetrad/controls/event_site.h>
+#include <tetrad/events/event_codes.h>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QVariant>
+
+namespace tetrad {
+
+namespace {
+
+constexpr char validatesKey[] = "toolbarItemValidates";
+
+// Asks after what the user did may have changed something.
+class ItemValidator : public QObject
+{
+public:
+    explicit ItemValidator(QAction *item) : QObject(item), m_item(item)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::WindowActivate:
+        case QEvent::MouseButtonRelease:
+        case QEvent::KeyRelease:
+            validateSoon();
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+    void validateSoon()
+    {
+        if (!m_isQueued && toolbarItemValidates(m_item)) {
+            m_isQueued = true;
+            CUI_Soon(this, [this] {
+                m_isQueued = false;
+                CUI_ToolbarValidateItem(m_item);
+            });
+        }
+    }
+
+private:
+    QAction *m_item = nullptr;
+    bool m_isQueued = false;
+};
+
+} // namespace
+
+void CUI_ToolbarItemReportEvents(QAction *item)
+{
+    QObject::connect(item, &QAction::triggered, item, [item] {
+        CUI_Soon(item, [item] { CUI_SendObjectEvent(item, toolbarEventItemAction, tagFromObject(item)); });
+    });
+}
+
+bool toolbarItemValidates(const QAction *item)
+{
+    return item->property(validatesKey).toBool();
+}
+
+void setToolbarItemValidates(QAction *item, bool validates)
+{
+    const bool isFirst = !item->property(validatesKey).isValid();
+    item->setProperty(validatesKey, validates);
+    if (isFirst) {
+        (new ItemValidator(item))->validateSoon();
+    }
+}
+
+void CUI_ToolbarValidateItem(QAction *item)
+{
+    const QPointer<QAction> guard(item);
+    const bool enabled = CUI_AskObjectEvent(item, toolbarEventValidateItem, tagFromObject(item));
+    if (guard) {
+        item->setEnabled(enabled);
+    }
+}
+
+} // namespace tetrad

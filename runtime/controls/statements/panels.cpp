@@ -1,0 +1,72 @@
+#include <tetrad/controls/panels.h>
+
+#include <tetrad/app/output_window.h>
+#include <tetrad/controls/event_site.h>
+#include <tetrad/events/dialog_event.h>
+#include <tetrad/events/event_codes.h>
+
+#include <QColorDialog>
+#include <QFontDialog>
+#include <QPointer>
+
+namespace tetrad {
+
+namespace {
+
+// The panel in this slot, made anew when a program deleted it.
+template <typename Panel, typename Connect>
+Panel *panelIn(QPointer<Panel> &slot, Connect connectPanel)
+{
+    if (!slot) {
+        slot = new Panel;
+        slot->setOptions(Panel::NoButtons | Panel::DontUseNativeDialog);
+        slot->setWindowFlags(slot->windowFlags() | Qt::Tool);
+        connectPanel(slot.data());
+    }
+    setObjectWindowTag(slot, CUI_OutputWindowTag());
+    return slot;
+}
+
+template <typename Panel>
+Panel *shown(Panel *panel)
+{
+    panel->show();
+    panel->raise();
+    return panel;
+}
+
+} // namespace
+
+QColorDialog *CUI_ColorPanel(const QColor &color)
+{
+    static QPointer<QColorDialog> panel;
+    panelIn(panel, [](QColorDialog *made) {
+        QObject::connect(made, &QColorDialog::currentColorChanged, made, [made](const QColor &chosen) {
+            CUI_Soon(made, [made, chosen] {
+                CUI_DialogEventObj()->colorObj = chosen;
+                CUI_SendObjectEvent(made, colorPanelEventAction, tagFromObject(made));
+            });
+        });
+    });
+    const QSignalBlocker blocker(panel);
+    panel->setCurrentColor(color);
+    return shown(panel.data());
+}
+
+QFontDialog *CUI_FontPanel(const QFont &font)
+{
+    static QPointer<QFontDialog> panel;
+    panelIn(panel, [](QFontDialog *made) {
+        QObject::connect(made, &QFontDialog::currentFontChanged, made, [made](const QFont &chosen) {
+            CUI_Soon(made, [made, chosen] {
+                CUI_DialogEventObj()->fontObj = chosen;
+                CUI_SendObjectEvent(made, fontPanelEventChanged, tagFromObject(made));
+            });
+        });
+    });
+    const QSignalBlocker blocker(panel);
+    panel->setCurrentFont(font);
+    return shown(panel.data());
+}
+
+} // namespace tetrad

@@ -1,0 +1,80 @@
+#include <tetrad/controls/popover_statements.h>
+
+#include "runtime/controls/lookup/tag_alerts.h"
+#include <tetrad/app/alerts.h>
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/output_window.h>
+#include <tetrad/app/strings_table.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/controls/popover_events.h>
+#include <tetrad/controls/view_lookup.h>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool canBePopover(Tag tag)
+{
+    if (tag == 0 || isObjectAddress(tag)) {
+        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1.");
+        showTagError(runtimeText(text).arg(tag));
+        return false;
+    }
+    if (CUI_WindowWithTag(tag)) {
+        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Window tag error.")),
+                      runtimeText(QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value.")));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
+{
+    const Tag popoverTag = tagIdentity(tag);
+    if (!canBePopover(popoverTag)) {
+        return;
+    }
+    Popover *popover = CUI_PopoverWithTag(popoverTag);
+    if (!popover) {
+        popover = new Popover(popoverTag, contentSize.isEmpty() ? QSize(200, 100) : contentSize.toSize());
+        CUI_PopoverReportEvents(popover);
+    } else if (!contentSize.isEmpty()) {
+        popover->contentView()->setFixedSize(contentSize.toSize());
+    }
+    popover->setBehavior(behavior);
+    CUI_OutputWindowSetTag(popoverTag);
+}
+
+void PopoverShow(Tag tag, Tag relativeToView, const QRectF &rect, Qt::Edge preferredEdge)
+{
+    Popover *const popover = CUI_PopoverWithTag(tag);
+    if (!popover) {
+        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1.")).arg(tag));
+        return;
+    }
+    if (QWidget *const view = CUI_ValidateViewKindOfClass(relativeToView, u"NSView"_s)) {
+        popover->showRelativeTo(view, rect.toRect(), preferredEdge);
+    }
+}
+
+void PopoverClose(Tag tag)
+{
+    if (Popover *const popover = CUI_PopoverWithTag(tag)) {
+        popover->close();
+    }
+}
+
+void PopoverRemove(Tag tag)
+{
+    if (Popover *const popover = CUI_PopoverWithTag(tag)) {
+        setObjectTag(popover, 0);
+        popover->hide();
+        popover->deleteLater();
+    }
+}
+
+} // namespace tetrad
