@@ -1,20 +1,6 @@
 // Controls named by tags, and one function that is told of everything that happens to them and prints it.
 
-#include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
-#include <tetrad/app/modal.h>
-#include <tetrad/app/window.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/console/console_view.h>
-#include <tetrad/controls/control_statements.h>
-#include <tetrad/controls/split_view.h>
-#include <tetrad/controls/tab_view.h>
-#include <tetrad/controls/table_view.h>
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
-#include <tetrad/events/event_codes.h>
-#include <tetrad/strings/text_format.h>
+#include <tetrad/tetrad.h>
 
 #include <QCoreApplication>
 

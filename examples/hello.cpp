@@ -1,12 +1,6 @@
 // Prints, asks for a line, and answers it.
 
-#include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/input/key_input.h>
-#include <tetrad/input/line_input.h>
-#include <tetrad/strings/not_given.h>
+#include <tetrad/tetrad.h>
 
 #include <QCoreApplication>
 

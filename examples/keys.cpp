@@ -1,13 +1,6 @@
 // Single keys drive a dot over the console. The program asks for a key, moves, draws anew, and asks again.
 
-#include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
-#include <tetrad/app/window.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/console/console_view.h>
-#include <tetrad/input/input_format.h>
-#include <tetrad/input/key_input.h>
+#include <tetrad/tetrad.h>
 
 #include <QCoreApplication>
 

@@ -1,13 +1,6 @@
 // Everything that can be put on the console: shapes, dashes, alignments, tabs, cells, fonts and colours.
 
-#include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/console/colors.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/console/console_view.h>
-#include <tetrad/input/key_input.h>
-#include <tetrad/strings/not_given.h>
+#include <tetrad/tetrad.h>
 
 #include <QCoreApplication>
 

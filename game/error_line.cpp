@@ -1,6 +1,5 @@
 #include "game/error_line.h"
 
-#include <tetrad/console/colors.h>
 #include <tetrad/console/console_statements.h>
 
 namespace tetrad {

@@ -3,7 +3,7 @@
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/console/colors.h>
+#include <tetrad/console/console_statements.h>
 #include <tetrad/strings/not_given.h>
 
 namespace tetrad {

@@ -5,14 +5,12 @@
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/app/run_time_stop.h>
-#include <tetrad/console/colors.h>
 #include <tetrad/console/console_statements.h>
 #include <tetrad/input/line_input.h>
-#include <tetrad/strings/case_tables.h>
 #include <tetrad/strings/not_given.h>
-#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/numbers.h>
 #include <tetrad/strings/pascal_strings.h>
-#include <tetrad/strings/string_stack.h>
+#include <tetrad/strings/text_functions.h>
 
 #include <algorithm>
 

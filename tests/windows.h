@@ -3,7 +3,6 @@
 #include "tests/table.h"
 #include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/app/output_window.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>

@@ -3,10 +3,8 @@
 #include "game/rules/expression.h"
 #include "game/rules/pattern.h"
 #include <tetrad/strings/not_given.h>
-#include <tetrad/strings/number_printer.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 #include <tetrad/strings/pascal_strings.h>
-#include <tetrad/strings/string_stack.h>
 #include <tetrad/strings/text_functions.h>
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "game/rules/puzzle_history.h"
 
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 #include <tetrad/strings/text_functions.h>
 
 #include <array>

@@ -1,4 +1,4 @@
-#include <tetrad/console/colors.h>
+#include <tetrad/console/console_statements.h>
 
 namespace tetrad {
 

@@ -1,6 +1,6 @@
+#include "runtime/app/windows/output_window.h"
 #include <tetrad/console/console_statements.h>
 
-#include <tetrad/app/output_window.h>
 #include <tetrad/app/windows.h>
 #include <tetrad/console/console_scroll_view.h>
 #include <tetrad/console/console_view.h>
@@ -51,7 +51,7 @@ QWidget *CUI_PrintToWindowWindow()
 
 CUI_PrintToWindowView *CUI_PrintToWindowViewObj(QWidget *window)
 {
-    QWidget *content = CUI_ContentViewOf(window);
+    QWidget *content = contentViewOf(window);
     if (!content) {
         return nullptr;
     }

@@ -1,4 +1,4 @@
-#include <tetrad/input/character_set.h>
+#include <tetrad/input/control_formatter.h>
 
 namespace tetrad {
 

@@ -1,8 +1,9 @@
+#include "runtime/app/windows/output_window.h"
 #include <tetrad/input/control_formatter.h>
 
 #include "runtime/input/field_formatter.h"
-#include <tetrad/app/output_window.h>
-#include <tetrad/input/input_format.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/input/line_input.h>
 
 #include <QLineEdit>
 
@@ -51,7 +52,7 @@ QLineEdit *lineEditWithTag(Tag control)
     if (isObjectAddress(control)) {
         return lineEditOf(objectFromTag(control));
     }
-    const QWidget *const content = CUI_SearchedContentView();
+    const QWidget *const content = searchedContentView();
     if (!content || control == 0) {
         return nullptr;
     }

@@ -1,4 +1,4 @@
-#include <tetrad/input/inkey_format.h>
+#include <tetrad/input/key_input.h>
 
 #include <tetrad/strings/not_given.h>
 

@@ -1,11 +1,10 @@
-#include <tetrad/input/inkey_window.h>
+#include <tetrad/input/key_input.h>
 
+#include "runtime/controls/events/current_event.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/events/current_event.h>
-#include <tetrad/input/inkey_format.h>
-#include <tetrad/input/input_format.h>
+#include <tetrad/input/line_input.h>
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>

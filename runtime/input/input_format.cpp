@@ -1,4 +1,4 @@
-#include <tetrad/input/input_format.h>
+#include <tetrad/input/line_input.h>
 
 #include <tetrad/strings/not_given.h>
 

@@ -3,8 +3,6 @@
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/input/inkey_format.h>
-#include <tetrad/input/inkey_window.h>
 
 #include <QPointer>
 

@@ -4,8 +4,6 @@
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
 #include <tetrad/input/control_formatter.h>
-#include <tetrad/input/input_format.h>
-#include <tetrad/input/line_input_window.h>
 
 #include <QLineEdit>
 #include <QPointer>

@@ -1,9 +1,9 @@
-#include <tetrad/input/line_input_window.h>
+#include <tetrad/input/line_input.h>
 
+#include "runtime/controls/events/current_event.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/events/current_event.h>
 
 #include <QFontMetrics>
 #include <QInputMethodEvent>

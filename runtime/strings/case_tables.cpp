@@ -1,4 +1,4 @@
-#include <tetrad/strings/case_tables.h>
+#include <tetrad/strings/text_functions.h>
 
 #include <cctype>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include <tetrad/strings/number_printer.h>
+#include <tetrad/strings/numbers.h>
 
 #include "runtime/strings/format_number.h"
 #include "runtime/strings/saturate.h"

@@ -1,4 +1,4 @@
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 
 #include <QByteArray>
 #include <QVariant>

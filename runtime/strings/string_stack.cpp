@@ -1,4 +1,4 @@
-#include <tetrad/strings/string_stack.h>
+#include <tetrad/strings/pascal_strings.h>
 
 #include <algorithm>
 #include <cstdio>

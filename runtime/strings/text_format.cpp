@@ -5,7 +5,7 @@
 #include "runtime/strings/format_number.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/strings/mac_roman.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,6 @@
 
 #include "tests/app/alert_helper.h"
 #include <tetrad/app/alert.h>
-#include <tetrad/app/alert_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/strings/error_object.h>

@@ -1,7 +1,6 @@
 #include <tetrad/app/application.h>
 
 #include <tetrad/app/app_delegate.h>
-#include <tetrad/app/app_events.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
 

@@ -1,4 +1,4 @@
-#include <tetrad/app/output_window.h>
+#include <tetrad/app/windows.h>
 
 #include "tests/app/alert_helper.h"
 #include <tetrad/app/content_view.h>

@@ -1,11 +1,11 @@
 #include <tetrad/app/window_delegate.h>
 
+#include "runtime/controls/events/current_event.h"
 #include "tests/windows.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/content_view.h>
-#include <tetrad/events/current_event.h>
-#include <tetrad/events/view_events.h>
+#include <tetrad/events/event_codes.h>
 
 #include <QScreen>
 #include <QWindow>

@@ -4,7 +4,7 @@
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>
-#include <tetrad/app/window_controller.h>
+#include <tetrad/app/window.h>
 #include <tetrad/app/window_delegate.h>
 
 #include <QLineEdit>

@@ -2,11 +2,9 @@
 
 #include "tests/console/printing.h"
 #include <tetrad/app/content_view.h>
-#include <tetrad/app/output_window.h>
 #include <tetrad/app/popover.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/console/colors.h>
 #include <tetrad/console/console_scroll_view.h>
 #include <tetrad/strings/not_given.h>
 

@@ -102,7 +102,7 @@ TEST_F(Dispatch, RealInputReachesIt)
     QTest::keyClick(ControlWithTag(3), Qt::Key_Right);
     QTest::keyClick(ControlWithTag(4), Qt::Key_Return);
     QTest::keyClick(ControlWithTag(5), Qt::Key_Down);
-    QWidget *const segment = m_content->findChild<SegmentedControl *>()->findChildren<QAbstractButton *>().at(1);
+    QWidget *const segment = m_content->findChild<SegmentedControlSC *>()->findChildren<QAbstractButton *>().at(1);
     QTest::mouseClick(segment, Qt::LeftButton);
     ASSERT_TRUE(waitForCalls(5));
     EXPECT_EQ(takeSiteCalls(), u"1 2 7, 1 3 7, 1 4 7, 1 5 7, 1 6 7"_s);

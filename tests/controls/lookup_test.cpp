@@ -1,13 +1,12 @@
+#include "runtime/controls/lookup/view_tag.h"
 #include "tests/controls/site_helper.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
 #include <tetrad/controls/control_statements.h>
-#include <tetrad/controls/popover_statements.h>
+#include <tetrad/controls/popovers.h>
 #include <tetrad/controls/segmented_control.h>
-#include <tetrad/controls/titlebar_accessory.h>
 #include <tetrad/controls/toolbar.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_tag.h>
 #include <tetrad/controls/visual_effect_view.h>
 
 #include <QAction>
@@ -88,7 +87,7 @@ TEST_F(Lookup, ReportsAndSearchesByDifferentTags)
     for (const auto &[name, view, searched, reported] : rows) {
         SCOPED_TRACE(name);
         setObjectTag(view, 70);
-        EXPECT_EQ(CUI_ViewSearchTag(view), searched);
+        EXPECT_EQ(viewSearchTag(view), searched);
         EXPECT_EQ(CUI_ViewTag(view), reported);
     }
 }
@@ -116,7 +115,7 @@ TEST_F(Lookup, SearchesAllTabsAndNoSegments)
     QWidget *const second = tagged(tabs->widget(1), 21);
     tagged(tabs->widget(1), 22);
     QWidget *const firstOfTwo = tagged(tabs->widget(0), 22);
-    auto *const segments = tagged<SegmentedControl>(content, 30);
+    auto *const segments = tagged<SegmentedControlSC>(content, 30);
     segments->setLabels({u"a"_s, u"b"_s});
     setObjectTag(segments->findChildren<QAbstractButton *>().constLast(), 31);
     expectFound({

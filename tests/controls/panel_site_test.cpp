@@ -2,10 +2,8 @@
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
 #include <tetrad/controls/panels.h>
-#include <tetrad/controls/popover_events.h>
-#include <tetrad/controls/popover_statements.h>
+#include <tetrad/controls/popovers.h>
 #include <tetrad/controls/toolbar.h>
-#include <tetrad/controls/toolbar_events.h>
 
 #include <QAction>
 #include <QColorDialog>

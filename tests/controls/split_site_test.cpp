@@ -18,7 +18,7 @@ protected:
         m_split = makeSplit();
     }
     /// Split view 3, 205 wide, of the buttons 21 and 22, each at least 40 wide, with a divider of 5 at 100.
-    SplitView *makeSplit()
+    SplitViewSC *makeSplit()
     {
         CUI_SplitView(3, Qt::Horizontal, QRectF(10, 10, 205, 80));
         for (const Tag tag : {21, 22}) {
@@ -26,17 +26,17 @@ protected:
             CUI_ViewWithTag(tag)->setMinimumWidth(40);
             SplitViewAddSubview(3, tag);
         }
-        auto *const split = settled<SplitView>(3);
+        auto *const split = settled<SplitViewSC>(3);
         split->setHandleWidth(5);
         split->setSizes({100, 100});
-        settled<SplitView>(3);
+        settled<SplitViewSC>(3);
         EXPECT_EQ(split->position(0), 100);
         return split;
     }
 
     void drag(int distance) { dragMouse(m_split->handle(1), QPoint(2, 10), QPoint(2 + distance, 10)); }
 
-    QPointer<SplitView> m_split;
+    QPointer<SplitViewSC> m_split;
 };
 
 TEST_F(SplitSite, ADragAsksForBoundsAndPositionThenMovesAndTells)
@@ -130,13 +130,13 @@ TEST_F(SplitSite, SurvivesBeingDeletedAtEveryQuestion)
 {
     delete m_split;
     const auto make = [this] { return makeSplit(); };
-    const auto drag = [](SplitView *split) { dragMouse(split->handle(1), QPoint(2, 10), QPoint(-93, 10)); };
-    const auto hide = [](SplitView *split) { split->hide(); };
-    const auto show = [](SplitView *split) { split->show(); };
+    const auto drag = [](SplitViewSC *split) { dragMouse(split->handle(1), QPoint(2, 10), QPoint(-93, 10)); };
+    const auto hide = [](SplitViewSC *split) { split->hide(); };
+    const auto show = [](SplitViewSC *split) { split->show(); };
     const auto collapse = [](qint64 event) { answer(event == splitViewEventCanCollapseSubview); };
-    expectSurvival<SplitView>({1501, 1502, 1503, 1506, 1508, 1509, 1510, 1511, 1512}, make, {drag, hide, show},
-                              collapse);
-    expectSurvival<SplitView>({1504}, make, {[](SplitView *split) { split->resize(300, 80); }}, collapse);
+    expectSurvival<SplitViewSC>({1501, 1502, 1503, 1506, 1508, 1509, 1510, 1511, 1512}, make, {drag, hide, show},
+                                collapse);
+    expectSurvival<SplitViewSC>({1504}, make, {[](SplitViewSC *split) { split->resize(300, 80); }}, collapse);
 }
 
 } // namespace

@@ -21,16 +21,16 @@ protected:
         };
     }
 
-    TabView *makeTabs()
+    TabViewSC *makeTabs()
     {
         CUI_TabView(4, {u"A"_s, u"B & C"_s, u"D"_s}, QRectF(0, 0, 280, 150));
-        return settled<TabView>(4);
+        return settled<TabViewSC>(4);
     }
-    static void press(TabView *tabs)
+    static void press(TabViewSC *tabs)
     {
         QTest::mousePress(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
     }
-    static void wheel(TabView *tabs)
+    static void wheel(TabViewSC *tabs)
     {
         const QPointF place(5, 5);
         QWheelEvent event(place, tabs->tabBar()->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
@@ -41,12 +41,12 @@ protected:
 
 TEST_F(TabSite, EveryWayOfSelectingIsAskedAboutAndTold)
 {
-    TabView *const tabs = makeTabs();
-    const Table<std::function<void(TabView *)>> rows = {
+    TabViewSC *const tabs = makeTabs();
+    const Table<std::function<void(TabViewSC *)>> rows = {
         {"press", press},
         {"wheel", wheel},
-        {"arrow key", [](TabView *view) { QTest::keyClick(view->tabBar(), Qt::Key_Right); }},
-        {"Ctrl+Tab", [](TabView *view) { QTest::keyClick(view, Qt::Key_Tab, Qt::ControlModifier); }},
+        {"arrow key", [](TabViewSC *view) { QTest::keyClick(view->tabBar(), Qt::Key_Right); }},
+        {"Ctrl+Tab", [](TabViewSC *view) { QTest::keyClick(view, Qt::Key_Tab, Qt::ControlModifier); }},
     };
     for (const auto &[name, select] : rows) {
         SCOPED_TRACE(name);
@@ -69,9 +69,9 @@ TEST_F(TabSite, EveryWayOfSelectingIsAskedAboutAndTold)
 TEST_F(TabSite, SurvivesBeingDeletedOrLosingThePage)
 {
     const auto make = [this] { return makeTabs(); };
-    expectSurvival<TabView>({1600, 1601, 1602}, make, {press});
-    expectSurvival<TabView>(
-        {1600, 1601}, make, {press}, [](qint64) {}, [](TabView *tabs) { delete tabs->widget(1); });
+    expectSurvival<TabViewSC>({1600, 1601, 1602}, make, {press});
+    expectSurvival<TabViewSC>(
+        {1600, 1601}, make, {press}, [](qint64) {}, [](TabViewSC *tabs) { delete tabs->widget(1); });
 }
 
 } // namespace

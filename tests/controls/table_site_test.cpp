@@ -28,7 +28,7 @@ void fillTable(qint64 event)
     }
 }
 
-void pressRow(TableView *table, int row)
+void pressRow(TableViewSC *table, int row)
 {
     QTest::mousePress(table->viewport(), Qt::LeftButton, {}, table->visualItemRect(table->item(row, 0)).center());
 }
@@ -51,14 +51,14 @@ protected:
         };
     }
 
-    TableView *makeTable()
+    TableViewSC *makeTable()
     {
         atEvent = fillTable;
         CUI_TableView(3, {u"A"_s, u"B"_s}, QRectF(0, 0, 260, 180));
-        return settled<TableView>(3);
+        return settled<TableViewSC>(3);
     }
 
-    QPointer<TableView> m_table;
+    QPointer<TableViewSC> m_table;
 };
 
 TEST_F(TableSite, ShowsWhatTheProgramAnswers)
@@ -117,11 +117,11 @@ TEST_F(TableSite, SurvivesBeingDeletedOrReloadedAtEveryQuestion)
 {
     delete m_table;
     const auto make = [this] { return makeTable(); };
-    const QList<std::function<void(TableView *)>> happenings = {[](TableView *) { TableViewReloadData(3); },
-                                                                [](TableView *table) { pressRow(table, 1); }};
+    const QList<std::function<void(TableViewSC *)>> happenings = {[](TableViewSC *) { TableViewReloadData(3); },
+                                                                  [](TableViewSC *table) { pressRow(table, 1); }};
     const QList<qint64> events = {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300};
-    expectSurvival<TableView>(events, make, happenings, fillTable);
-    expectSurvival<TableView>(events, make, happenings, fillTable, happenings.first());
+    expectSurvival<TableViewSC>(events, make, happenings, fillTable);
+    expectSurvival<TableViewSC>(events, make, happenings, fillTable, happenings.first());
 }
 
 /// Every item is the text of its path, has two children and no end.
@@ -138,7 +138,7 @@ void fillOutline(qint64 event)
     }
 }
 
-void pressFirst(OutlineView *outline)
+void pressFirst(OutlineViewSC *outline)
 {
     const QPoint place = outline->visualItemRect(outline->topLevelItem(0)).center();
     QTest::mousePress(outline->viewport(), Qt::LeftButton, {}, place);
@@ -147,18 +147,18 @@ void pressFirst(OutlineView *outline)
 class OutlineSite : public SiteTest
 {
 protected:
-    OutlineView *makeOutline()
+    OutlineViewSC *makeOutline()
     {
         atEvent = fillOutline;
         CUI_OutlineView(5, {u"Name"_s, u"Kind"_s}, QRectF(0, 0, 280, 180));
         valuesOf = [](qint64) { return CUI_DialogEventObj()->object.toString(); };
-        return settled<OutlineView>(5);
+        return settled<OutlineViewSC>(5);
     }
 };
 
 TEST_F(OutlineSite, AsksForChildrenWhenTheirParentIsOpenedFirst)
 {
-    const OutlineView *const outline = makeOutline();
+    const OutlineViewSC *const outline = makeOutline();
     ASSERT_EQ(outline->topLevelItemCount(), 2);
     QTreeWidgetItem *const item = outline->topLevelItem(1);
     EXPECT_EQ(item->text(0), u"/1"_s);
@@ -176,7 +176,7 @@ TEST_F(OutlineSite, AsksForChildrenWhenTheirParentIsOpenedFirst)
 
 TEST_F(OutlineSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
 {
-    OutlineView *const outline = makeOutline();
+    OutlineViewSC *const outline = makeOutline();
     outline->setFocus();
     pressFirst(outline);
     EXPECT_EQ(takeSiteCalls(), u"1805 5 7 /0, 1806 5 7 /0"_s);
@@ -192,13 +192,13 @@ TEST_F(OutlineSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
 TEST_F(OutlineSite, SurvivesBeingDeletedOrReloadedAtEveryQuestion)
 {
     const auto make = [this] { return makeOutline(); };
-    const auto expand = [](OutlineView *outline) { outline->topLevelItem(1)->setExpanded(true); };
-    const auto collapse = [](OutlineView *outline) { outline->topLevelItem(1)->setExpanded(false); };
-    const QList<std::function<void(OutlineView *)>> happenings = {expand, collapse, pressFirst};
+    const auto expand = [](OutlineViewSC *outline) { outline->topLevelItem(1)->setExpanded(true); };
+    const auto collapse = [](OutlineViewSC *outline) { outline->topLevelItem(1)->setExpanded(false); };
+    const QList<std::function<void(OutlineViewSC *)>> happenings = {expand, collapse, pressFirst};
     const QList<qint64> events = {1800, 1801, 1802, 1803, 1804, 1805, 1806};
-    expectSurvival<OutlineView>(events, make, happenings, fillOutline);
-    const auto reload = [](OutlineView *) { OutlineViewReloadData(5); };
-    expectSurvival<OutlineView>(events, make, happenings, fillOutline, reload);
+    expectSurvival<OutlineViewSC>(events, make, happenings, fillOutline);
+    const auto reload = [](OutlineViewSC *) { OutlineViewReloadData(5); };
+    expectSurvival<OutlineViewSC>(events, make, happenings, fillOutline, reload);
 }
 
 } // namespace

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void select(TextView *view, int from, int to)
+void select(TextViewSC *view, int from, int to)
 {
     QTextCursor cursor = view->textCursor();
     cursor.setPosition(from);
@@ -20,10 +20,10 @@ class TextSite : public SiteTest
 {
 protected:
     /// Text view 6 with "one two", a part of it selected.
-    TextView *makeText(int from = 3, int to = 3)
+    TextViewSC *makeText(int from = 3, int to = 3)
     {
         CUI_TextView(6, u"one two"_s, QRectF(0, 0, 200, 100));
-        auto *const text = settled<TextView>(6);
+        auto *const text = settled<TextViewSC>(6);
         text->setFocus();
         text->setPlainText(u"one two"_s);
         select(text, from, to);
@@ -41,11 +41,11 @@ protected:
 
 TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
 {
-    using Act = std::function<void(TextView *)>;
+    using Act = std::function<void(TextViewSC *)>;
     const auto key = [](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) -> Act {
-        return [code, modifiers](TextView *view) { QTest::keyClick(view, code, modifiers); };
+        return [code, modifiers](TextViewSC *view) { QTest::keyClick(view, code, modifiers); };
     };
-    const Act typing = [](TextView *view) { QTest::keyClicks(view, u"x"_s); };
+    const Act typing = [](TextViewSC *view) { QTest::keyClicks(view, u"x"_s); };
     QGuiApplication::clipboard()->setText(u"ab"_s);
     const Table<int, int, Act, QString, QString> rows = {
         {"typing", 3, 3, typing, u"3+0=x"_s, u"onex two"_s},
@@ -61,7 +61,7 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
     for (const auto &[name, from, to, act, question, result] : rows) {
         SCOPED_TRACE(name);
         for (const bool refuses : {true, false}) {
-            TextView *const text = makeText(from, to);
+            TextViewSC *const text = makeText(from, to);
             atEvent = [refuses](qint64 event) { answer(refuses && event == textViewEventRefuseChange); };
             act(text);
             EXPECT_EQ(dialogCalls.value(0), u"2100 6 7 "_s + question);
@@ -73,7 +73,7 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
 
 TEST_F(TextSite, SelectionAndEditingAreTold)
 {
-    TextView *const text = makeText();
+    TextViewSC *const text = makeText();
     select(text, 0, 3);
     EXPECT_EQ(takeSiteCalls(), u"2102 6 7 0+3"_s);
     QTest::keyClick(text, Qt::Key_Right);
@@ -87,10 +87,10 @@ TEST_F(TextSite, SelectionAndEditingAreTold)
 
 TEST_F(TextSite, SurvivesBeingDeletedAtEveryEvent)
 {
-    expectSurvival<TextView>({2100, 2101, 2102, 2103, 2104}, [this] { return makeText(); },
-                             {[](TextView *view) { QTest::keyPress(view, Qt::Key_X); },
-                              [](TextView *view) { select(view, 0, 2); }, [](TextView *view) { view->clearFocus(); },
-                              [](TextView *view) { view->setFocus(); }});
+    expectSurvival<TextViewSC>(
+        {2100, 2101, 2102, 2103, 2104}, [this] { return makeText(); },
+        {[](TextViewSC *view) { QTest::keyPress(view, Qt::Key_X); }, [](TextViewSC *view) { select(view, 0, 2); },
+         [](TextViewSC *view) { view->clearFocus(); }, [](TextViewSC *view) { view->setFocus(); }});
 }
 
 } // namespace

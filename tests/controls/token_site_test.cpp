@@ -1,5 +1,5 @@
+#include "runtime/controls/dispatch/event_site.h"
 #include "tests/controls/site_helper.h"
-#include <tetrad/controls/event_site.h>
 #include <tetrad/controls/token_field.h>
 
 #include <QAbstractItemView>
@@ -24,10 +24,10 @@ protected:
         };
     }
 
-    TokenField *makeField()
+    TokenFieldSC *makeField()
     {
         CUI_TokenField(6, {u"a"_s, u"b"_s}, QRectF(0, 0, 200, 30));
-        auto *const field = settled<TokenField>(6);
+        auto *const field = settled<TokenFieldSC>(6);
         field->setFocus();
         takeSiteCalls();
         return field;
@@ -36,7 +36,7 @@ protected:
 
 TEST_F(TokenSite, AWordIsAskedAboutWhenItEndsAndTheFieldTold)
 {
-    TokenField *const field = makeField();
+    TokenFieldSC *const field = makeField();
     QTest::keyClicks(field, u"c,"_s);
     EXPECT_EQ(takeSiteCalls(), u"2301 6 7 c, 2302 6 7 a|b|c"_s);
     EXPECT_EQ(field->text(), u"a, b, c, "_s);
@@ -70,9 +70,9 @@ TEST_F(TokenSite, OffersTheProgramsCompletions)
 
 TEST_F(TokenSite, SurvivesBeingDeletedAtEveryEvent)
 {
-    expectSurvival<TokenField>({2300, 2301, 2302, 1}, [this] { return makeField(); },
-                               {[](TokenField *field) { QTest::keyPress(field, Qt::Key_X); },
-                                [](TokenField *field) { QTest::keyPress(field, Qt::Key_Return); }});
+    expectSurvival<TokenFieldSC>({2300, 2301, 2302, 1}, [this] { return makeField(); },
+                                 {[](TokenFieldSC *field) { QTest::keyPress(field, Qt::Key_X); },
+                                  [](TokenFieldSC *field) { QTest::keyPress(field, Qt::Key_Return); }});
 }
 
 } // namespace

@@ -1,7 +1,7 @@
+#include "runtime/controls/events/current_event.h"
 #include "tests/controls/site_helper.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/controls/view_sc.h>
-#include <tetrad/events/current_event.h>
 
 #include <QContextMenuEvent>
 #include <QMenu>

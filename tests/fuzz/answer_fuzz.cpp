@@ -5,8 +5,8 @@
 #include "game/rules/answer.h"
 #include "game/rules/expression.h"
 #include "game/rules/puzzle_deck.h"
-#include <tetrad/strings/number_reader.h>
-#include <tetrad/strings/string_stack.h>
+#include <tetrad/strings/numbers.h>
+#include <tetrad/strings/pascal_strings.h>
 
 #include <cmath>
 #include <optional>

@@ -4,7 +4,7 @@
 #include "tests/fuzz/fuzz_input.h"
 
 #include <tetrad/input/control_formatter.h>
-#include <tetrad/input/input_format.h>
+#include <tetrad/input/line_input.h>
 
 using namespace tetrad;
 using namespace tetrad::fuzz;

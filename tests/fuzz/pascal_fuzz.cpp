@@ -4,8 +4,7 @@
 #include "tests/fuzz/fuzz_input.h"
 
 #include <tetrad/strings/mac_roman.h>
-#include <tetrad/strings/number_printer.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 #include <tetrad/strings/pascal_strings.h>
 
 #include <cmath>

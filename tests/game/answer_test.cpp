@@ -3,7 +3,7 @@
 #include "game/rules/puzzle_deck.h"
 #include "solutions.h"
 #include "tests/table.h"
-#include <tetrad/strings/string_stack.h>
+#include <tetrad/strings/pascal_strings.h>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;

@@ -10,8 +10,8 @@
 #include <tetrad/app/modal.h>
 #include <tetrad/console/console_statements.h>
 #include <tetrad/console/console_view.h>
-#include <tetrad/input/line_input_window.h>
-#include <tetrad/strings/string_stack.h>
+#include <tetrad/input/line_input.h>
+#include <tetrad/strings/pascal_strings.h>
 
 #include <QApplication>
 #include <QDir>

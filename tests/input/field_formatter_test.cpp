@@ -1,8 +1,8 @@
 #include "panel_helper.h"
 
-#include <tetrad/app/output_window.h>
+#include <tetrad/app/windows.h>
 #include <tetrad/input/control_formatter.h>
-#include <tetrad/input/input_format.h>
+#include <tetrad/input/line_input.h>
 
 #include <QClipboard>
 #include <QLineEdit>

@@ -1,10 +1,8 @@
 #include "panel_helper.h"
 
 #include <tetrad/app/app_delegate.h>
-#include <tetrad/input/inkey_format.h>
-#include <tetrad/input/inkey_window.h>
-#include <tetrad/input/input_format.h>
 #include <tetrad/input/key_input.h>
+#include <tetrad/input/line_input.h>
 #include <tetrad/strings/not_given.h>
 
 #include <QLabel>

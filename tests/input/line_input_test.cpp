@@ -1,9 +1,7 @@
 #include "panel_helper.h"
 
 #include <tetrad/app/app_delegate.h>
-#include <tetrad/input/input_format.h>
 #include <tetrad/input/line_input.h>
-#include <tetrad/input/line_input_window.h>
 #include <tetrad/strings/not_given.h>
 
 #include <QClipboard>

@@ -1,6 +1,6 @@
 #include "panel_helper.h"
 
-#include <tetrad/input/line_input_window.h>
+#include <tetrad/input/line_input.h>
 #include <tetrad/strings/not_given.h>
 
 #include <QLabel>

@@ -1,7 +1,5 @@
 #include "tests/table.h"
-#include <tetrad/strings/case_tables.h>
-#include <tetrad/strings/number_printer.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 #include <tetrad/strings/text_format.h>
 #include <tetrad/strings/text_functions.h>
 

@@ -1,6 +1,5 @@
 #include "tests/table.h"
-#include <tetrad/strings/number_printer.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 
 #include <QStringList>
 #include <QVariant>

@@ -3,14 +3,17 @@
 #include <tetrad/events/tag.h>
 
 #include <QMainWindow>
+#include <QObject>
+#include <QPointer>
 
 #include <memory>
 
 namespace tetrad {
 
-class ContentViewSC;
 class CUI_WindowController;
 class CUI_WindowDelegate;
+class ContentViewSC;
+class Window;
 class WindowTranslator;
 
 /// Bits of a window's style mask.
@@ -127,6 +130,19 @@ class PanelSC : public Window
 public:
     explicit PanelSC(const QRectF &contentRect);
     virtual void awakeFromNib();
+};
+
+/// The controller that WindowInit gives each window; a child of the window it is set on.
+class CUI_WindowController : public QObject
+{
+    Q_OBJECT
+
+public:
+    Window *window() const;
+    void setWindow(Window *window);
+
+private:
+    QPointer<Window> m_window;
 };
 
 } // namespace tetrad

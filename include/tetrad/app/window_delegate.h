@@ -1,7 +1,7 @@
 #pragma once
 
 #include <tetrad/app/window.h>
-#include <tetrad/events/window_events.h>
+#include <tetrad/events/event_codes.h>
 
 #include <QObject>
 #include <QStringList>

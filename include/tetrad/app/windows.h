@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tetrad/events/tag.h>
+#include <tetrad/events/output_window_tag.h>
 
 #include <QColor>
 #include <QRectF>
@@ -43,5 +43,22 @@ bool CUI_IsSubclassFlag();
 /// For windows that were loaded from an interface file: makes the window the output window and
 /// reports dialog event 10059.
 void CUI_WindowSubclassAwakeFromNib(Window *window);
+
+/// The window with the output-window tag, else the popover with it, else null.
+QWidget *CUI_OutputWindow();
+
+/// The content view of the output window or popover, or null.
+QWidget *CUI_OutputWindowContentView();
+
+/// The window, else the popover, with this tag, or null.
+QWidget *CUI_TargetWithTag(Tag tag);
+
+/// With *tag 0: the output window or, when there is none, the frontmost window, whose tag is written
+/// back. With any other tag: CUI_TargetWithTag. Null when nothing is found.
+QWidget *CUI_TargetWindow(Tag *tag);
+
+/// Whether a popover has this tag. If one has, the user is told that windows and popovers cannot
+/// share tags.
+bool CUI_ObjectIsPopover(Tag tag);
 
 } // namespace tetrad

@@ -13,6 +13,11 @@ namespace tetrad {
 
 class CUI_PrintToWindowView;
 
+QColor ColorBlack();
+QColor ColorGreen(); ///< pure green: red 0, green 1, blue 0
+QColor ColorRed();
+QColor ColorWhite();
+
 /// The window that prints go to; one with tag 999999 and the title "• Print to Window •" is made when
 /// the program has none. Null only if that failed.
 QWidget *CUI_PrintToWindowWindow();

@@ -1,12 +1,23 @@
 #pragma once
 
-#include <tetrad/controls/control_callback.h>
-#include <tetrad/controls/view_statement.h>
+#include <tetrad/events/tag.h>
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
 namespace tetrad {
+
+/// What a control's own callback is called with: the control's tag, its window's tag, and the user
+/// data that was set beside it. The result goes back to whoever asked.
+using ControlCallback = qint64 (*)(Tag tag, Tag wndTag, void *userData);
+
+/// A control's callback and user data (dynamic properties "callbackValue" and "userDataValue"), both null
+/// when never set. The user data is the program's own and is never looked at.
+ControlCallback cuiControlCallback(const QObject *control);
+void setCuiControlCallback(QObject *control, ControlCallback callback);
+void *cuiControlUserData(const QObject *control);
+void setCuiControlUserData(QObject *control, void *userData);
 
 /// The statements that make, change, show (tag > 0) and hide (tag < 0) controls in the output window. A null
 /// text and an empty rectangle leave what is there. Rectangles are in pixels from the top left of
@@ -44,3 +55,5 @@ void ControlSetEnabled(Tag tag, bool enabled);
 void ControlSetCallback(Tag tag, ControlCallback callback, void *userData);
 
 } // namespace tetrad
+
+Q_DECLARE_METATYPE(tetrad::ControlCallback)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tetrad/controls/control_callback.h>
+#include <tetrad/controls/control_statements.h>
 
 #include <QObject>
 #include <QString>
@@ -54,15 +54,23 @@ void ControlSetActionID(Tag tag, qint64 id);
 
 /// Invokes the control's action on the shared target. A name that the target has no method for writes a
 /// warning that names it.
-void CUI_ControlSendAction(QWidget *control);
+void sendControlAction(QWidget *control);
 
 /// The same as soon as control is back in the event loop, unless the control is gone by then: for widgets
 /// that still work on themselves when they tell of a change.
-void CUI_ControlSendActionSoon(QWidget *control);
+void sendControlActionSoon(QWidget *control);
 
 /// The dispatch of what a control's delegate reports: as controlAction, with the event and the object given,
 /// and with the result of whoever was called. The platform event now being delivered, if any, stays
 /// the current one.
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj);
 
+/// The callback that a table, outline or token field may have in place of the dialog function, called with the view's
+/// tag and the event (dynamic property "delegateCallback"); null when never set.
+using DelegateCallback = qint64 (*)(Tag tag, qint64 event);
+DelegateCallback delegateCallback(const QObject *view);
+void setDelegateCallback(QObject *view, DelegateCallback callback);
+
 } // namespace tetrad
+
+Q_DECLARE_METATYPE(tetrad::DelegateCallback)

@@ -29,12 +29,12 @@ private:
 /// A tree whose items the program answers (codes 1800 to 1807): how many children an item has, each child, its
 /// text in each column. Children are asked for when their parent is opened first, so a tree may be
 /// endless. A view with a delegate callback tells that one instead of the dialog function.
-class OutlineView : public QTreeWidget
+class OutlineViewSC : public QTreeWidget
 {
     Q_OBJECT
 
 public:
-    explicit OutlineView(QWidget *parent = nullptr);
+    explicit OutlineViewSC(QWidget *parent = nullptr);
 
     /// Asks for the tree anew, with all items closed. The view may be gone afterwards.
     void reloadData();
@@ -60,15 +60,15 @@ private:
 class CUI_OutlineViewDelegate
 {
 public:
-    qint64 forwardEvent(OutlineView *outlineView, qint64 event, Tag object);
+    qint64 forwardEvent(OutlineViewSC *outlineView, qint64 event, Tag object);
 
-    int outlineViewNumberOfChildren(OutlineView *outlineView, const QVariant &item);
-    QVariant outlineViewChild(OutlineView *outlineView, int index, const QVariant &item);
-    QString outlineViewText(OutlineView *outlineView, const QVariant &item, int column);
-    bool outlineViewShouldSelectItem(OutlineView *outlineView, const QVariant &item);
+    int outlineViewNumberOfChildren(OutlineViewSC *outlineView, const QVariant &item);
+    QVariant outlineViewChild(OutlineViewSC *outlineView, int index, const QVariant &item);
+    QString outlineViewText(OutlineViewSC *outlineView, const QVariant &item, int column);
+    bool outlineViewShouldSelectItem(OutlineViewSC *outlineView, const QVariant &item);
     /// DidExpand, DidCollapse and SelectionChanged.
-    void outlineViewItemEvent(OutlineView *outlineView, qint64 event, const QVariant &item);
-    void outlineViewDidClickTableColumn(OutlineView *outlineView, int column);
+    void outlineViewItemEvent(OutlineViewSC *outlineView, qint64 event, const QVariant &item);
+    void outlineViewDidClickTableColumn(OutlineViewSC *outlineView, int column);
 };
 
 /// The delegate of every outline; it lives to the end of the program.

@@ -9,12 +9,12 @@ namespace tetrad {
 
 /// A row of buttons of which at most one is down. It counts as one control: lookups by tag never look
 /// into it.
-class SegmentedControl : public QWidget
+class SegmentedControlSC : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit SegmentedControl(QWidget *parent = nullptr);
+    explicit SegmentedControlSC(QWidget *parent = nullptr);
 
     /// The labels of the segments, first to last. Setting them leaves none selected.
     QStringList labels() const;

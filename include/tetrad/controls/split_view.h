@@ -12,12 +12,12 @@ namespace tetrad {
 /// movement of a divider, tells of it, and lets the program colour, thicken and draw the dividers. A divider's index is
 /// that of the subview before it, from 0; positions are in pixels from the left or top edge and pass
 /// through single precision.
-class SplitView : public QSplitter
+class SplitViewSC : public QSplitter
 {
     Q_OBJECT
 
 public:
-    explicit SplitView(QWidget *parent = nullptr);
+    explicit SplitViewSC(QWidget *parent = nullptr);
 
     /// Moves a divider as dragging would: within the constraints that the program answers, and past half of a
     /// subview's smallest size only when that subview can collapse. The view may be gone afterwards.

@@ -12,12 +12,12 @@ namespace tetrad {
 /// Pages of which one is seen, each with a tab. A page is a plain view, and what lies in it is found by tag whichever
 /// page is selected. Before a press, the wheel or a key selects another page the dialog function may refuse it; a
 /// selection by the program is told but not asked about.
-class TabView : public QTabWidget
+class TabViewSC : public QTabWidget
 {
     Q_OBJECT
 
 public:
-    explicit TabView(QWidget *parent = nullptr);
+    explicit TabViewSC(QWidget *parent = nullptr);
 
     /// Selects a page if the program does not refuse it (event 1600); then 1601 comes before the page
     /// changes. Nothing happens for an index outside the tabs and for the page that is selected already. The view
@@ -39,7 +39,7 @@ class TabViewBar : public QTabBar
     Q_OBJECT
 
 public:
-    explicit TabViewBar(TabView *tabView);
+    explicit TabViewBar(TabViewSC *tabView);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -49,22 +49,22 @@ protected:
 private:
     int nextEnabled(int step) const;
 
-    TabView *m_tabView = nullptr;
+    TabViewSC *m_tabView = nullptr;
 };
 
 /// Reports what happens to tab views, always to the dialog function.
 class CUI_TabViewDelegate
 {
 public:
-    void callUserDefinedOnDialogFunctionWithEvent(TabView *tabView, qint64 event, Tag object);
+    void callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object);
 
-    bool tabViewShouldSelectTabViewItem(TabView *tabView, int index);
-    void tabViewWillSelectTabViewItem(TabView *tabView, int index);
-    void tabViewDidSelectTabViewItem(TabView *tabView, int index);
-    void tabViewDidChangeNumberOfTabViewItems(TabView *tabView);
+    bool tabViewShouldSelectTabViewItem(TabViewSC *tabView, int index);
+    void tabViewWillSelectTabViewItem(TabViewSC *tabView, int index);
+    void tabViewDidSelectTabViewItem(TabViewSC *tabView, int index);
+    void tabViewDidChangeNumberOfTabViewItems(TabViewSC *tabView);
 
 private:
-    void callWithItem(TabView *tabView, qint64 event, int index);
+    void callWithItem(TabViewSC *tabView, qint64 event, int index);
 };
 
 /// The delegate of every tab view; it lives to the end of the program.

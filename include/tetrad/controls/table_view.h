@@ -11,12 +11,12 @@ namespace tetrad {
 /// A table whose contents the program answers: reloadData asks (codes 1700 to 1709, and 4200 and 4300 for the
 /// headers) how many rows there are and what stands in each cell, and keeps the answers until the next time. The
 /// columns come from the statement. A view with a delegate callback tells that one instead of the dialog function.
-class TableView : public QTableWidget
+class TableViewSC : public QTableWidget
 {
     Q_OBJECT
 
 public:
-    explicit TableView(QWidget *parent = nullptr);
+    explicit TableViewSC(QWidget *parent = nullptr);
 
     /// Asks for everything anew. The view may be gone afterwards.
     void reloadData();
@@ -41,20 +41,20 @@ private:
 class CUI_TableViewDelegate
 {
 public:
-    qint64 forwardEvent(TableView *tableView, qint64 event, Tag object);
+    qint64 forwardEvent(TableViewSC *tableView, qint64 event, Tag object);
 
-    int numberOfRowsInTableView(TableView *tableView);
-    QVariant tableViewObjectValue(TableView *tableView, int row, int column);
-    bool tableViewShouldEdit(TableView *tableView, int row, int column);
+    int numberOfRowsInTableView(TableViewSC *tableView);
+    QVariant tableViewObjectValue(TableViewSC *tableView, int row, int column);
+    bool tableViewShouldEdit(TableViewSC *tableView, int row, int column);
     /// A view for the cell, which the table then owns, or null.
-    QWidget *tableViewViewForCell(TableView *tableView, int row, int column);
-    double tableViewHeightOfRow(TableView *tableView, int row);
-    bool tableViewShouldSelectRow(TableView *tableView, int row);
-    void tableViewSetObjectValue(TableView *tableView, const QVariant &value, int row, int column);
-    void tableViewSelectionDidChange(TableView *tableView);
-    void tableViewDidClickTableColumn(TableView *tableView, int column);
-    QFont tableHeaderFont(TableView *tableView, int column);
-    QColor tableHeaderTextColor(TableView *tableView, int column);
+    QWidget *tableViewViewForCell(TableViewSC *tableView, int row, int column);
+    double tableViewHeightOfRow(TableViewSC *tableView, int row);
+    bool tableViewShouldSelectRow(TableViewSC *tableView, int row);
+    void tableViewSetObjectValue(TableViewSC *tableView, const QVariant &value, int row, int column);
+    void tableViewSelectionDidChange(TableViewSC *tableView);
+    void tableViewDidClickTableColumn(TableViewSC *tableView, int column);
+    QFont tableHeaderFont(TableViewSC *tableView, int column);
+    QColor tableHeaderTextColor(TableViewSC *tableView, int column);
 };
 
 /// The delegate of every table; it lives to the end of the program.
@@ -64,7 +64,7 @@ CUI_TableViewDelegate *CUI_TableViewDelegateObj();
 class TableRowViewSC
 {
 public:
-    TableRowViewSC(TableView *tableView, int row) : m_tableView(tableView), m_row(row) {}
+    TableRowViewSC(TableViewSC *tableView, int row) : m_tableView(tableView), m_row(row) {}
 
     qint64 forwardEvent(qint64 event);
 
@@ -72,7 +72,7 @@ public:
     void drawBackground();
 
 private:
-    TableView *m_tableView = nullptr;
+    TableViewSC *m_tableView = nullptr;
     int m_row = 0;
 };
 

@@ -11,12 +11,12 @@ namespace tetrad {
 /// A text of many lines that the user edits. The dialog function may refuse a change (code 2100) before the user's
 /// typing, deleting, pasting, cutting or dropping makes it; what an input method composes is asked about when it is
 /// committed. Undo and redo are not asked about. Changes and selections are told (2101 to 2104).
-class TextView : public QPlainTextEdit
+class TextViewSC : public QPlainTextEdit
 {
     Q_OBJECT
 
 public:
-    explicit TextView(QWidget *parent = nullptr);
+    explicit TextViewSC(QWidget *parent = nullptr);
 
 public Q_SLOTS:
     /// Named as the base's own, so that the Edit menu, which goes by name, asks too.
@@ -40,10 +40,10 @@ private:
 class CUI_TextViewDelegate
 {
 public:
-    void callUserDefinedOnDialogFunctionWithEvent(TextView *textView, qint64 event, Tag object);
+    void callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object);
 
-    bool textViewShouldChangeText(TextView *textView, int location, int length, const QString &replacement);
-    void textViewDidChangeSelection(TextView *textView);
+    bool textViewShouldChangeText(TextViewSC *textView, int location, int length, const QString &replacement);
+    void textViewDidChangeSelection(TextViewSC *textView);
 };
 
 /// The delegate of every text view; it lives to the end of the program.

@@ -15,12 +15,12 @@ namespace tetrad {
 /// 2300); when a comma, Return or the loss of the keyboard ends it, which words to keep (2301), and it is
 /// told what the field then holds (2302). Return also sends the field's action. A view with a delegate
 /// callback tells that one instead of the dialog function.
-class TokenField : public QLineEdit
+class TokenFieldSC : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    explicit TokenField(QWidget *parent = nullptr);
+    explicit TokenFieldSC(QWidget *parent = nullptr);
 
     /// The finished words, without blanks around them. Setting them asks nothing.
     const QStringList &tokens() const { return m_tokens; }
@@ -46,11 +46,11 @@ private:
 class CUI_TokenFieldDelegate
 {
 public:
-    qint64 forwardEvent(TokenField *tokenField, qint64 event, Tag object);
+    qint64 forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object);
 
-    QStringList tokenFieldCompletionsForSubstring(TokenField *tokenField, const QString &substring);
-    QStringList tokenFieldShouldAddTokens(TokenField *tokenField, const QStringList &tokens);
-    void tokenFieldDidChange(TokenField *tokenField);
+    QStringList tokenFieldCompletionsForSubstring(TokenFieldSC *tokenField, const QString &substring);
+    QStringList tokenFieldShouldAddTokens(TokenFieldSC *tokenField, const QStringList &tokens);
+    void tokenFieldDidChange(TokenFieldSC *tokenField);
 };
 
 /// The delegate of every token field; it lives to the end of the program.

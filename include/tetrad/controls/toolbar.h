@@ -2,6 +2,7 @@
 
 #include <tetrad/events/tag.h>
 
+#include <QList>
 #include <QString>
 
 class QAction;
@@ -9,6 +10,8 @@ class QToolBar;
 class QWidget;
 
 namespace tetrad {
+
+class Window;
 
 /// The tool bar of a window, which is the first that carries a tag, or null.
 QToolBar *CUI_WindowToolbar(const QWidget *window);
@@ -30,5 +33,24 @@ QAction *CUI_ToolbarAddItem(Tag toolbarTag, Tag itemTag, const QString &label);
 
 /// The same with a view of the program's own in place of a labelled button. The tool bar owns the view.
 QAction *CUI_ToolbarAddViewItem(Tag toolbarTag, Tag itemTag, QWidget *view);
+
+/// Makes a tool bar's item tell the dialog function when it is clicked (code 1900, with the item as the object); once
+/// is enough, and every item that the statement makes does.
+void reportToolbarItemEvents(QAction *item);
+
+/// Whether the program is asked, after each release of a key or mouse button, if the item is enabled (code 1901);
+/// false at first, because the preset answer is no.
+bool toolbarItemValidates(const QAction *item);
+void setToolbarItemValidates(QAction *item, bool validates);
+
+/// Asks for one item now and enables or disables it. The item may be gone afterwards.
+void validateToolbarItem(QAction *item);
+
+/// Shows a view at the trailing end of the window's title area, beside its menus, after those added before.
+/// The window owns it. A view that is to be found by tag carries the tag in its objectName.
+void CUI_WindowAddTitlebarAccessoryView(Window *window, QWidget *view);
+
+/// The views added, in their order.
+QList<QWidget *> titlebarAccessoryViews(const Window *window);
 
 } // namespace tetrad

@@ -20,11 +20,20 @@ QWidget *CUI_ViewSubviewWithTag(QWidget *view, Tag tag);
 /// The view with this tag among the title bar's accessories of the output window, or null.
 QWidget *TitlebarAccessoryViewWithTag(Tag tag);
 
-/// The view, if it is of the class or of one derived from it (see class_names.h), else null after telling
+/// The view, if it is of the class or of one derived from it, else null after telling
 /// the user what is wrong.
 QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className);
 
 /// CUI_ValidateViewKindOfClass with "NSControl".
 QWidget *ControlWithTag(Tag tagOrControl);
+
+/// Moves a view, with what lies in it, into another view: into a tab's page, say. Its place is counted from the
+/// new superview's top left. Either may be a tag or an object; nothing happens, after an alert, when
+/// one of them is missing.
+void ViewAddSubview(Tag superview, Tag subview);
+
+/// Takes a view off its window and deletes it once control is back in the event loop; its tag is free at
+/// once. A missing view does nothing, after an alert.
+void ViewRemoveFromSuperview(Tag tag);
 
 } // namespace tetrad

@@ -13,6 +13,7 @@
 #include <QUrl>
 #include <QVariantList>
 
+class QEvent;
 class QMenu;
 
 namespace tetrad {
@@ -84,5 +85,51 @@ DialogFunction CUI_OnDialogFunction();
 
 /// Calls the dialog function and returns its result; 0 without a call when none is installed.
 qint64 CallUserDefinedOnDialogFunction(qint64 event, Tag tag, Tag wndTag, qint64 obj);
+
+/// Each reads or writes one field of the shared record (see CUI_DialogEventObj) and does nothing else. Those that
+/// set a rectangle, point, size or range take its parts one by one.
+
+bool DialogEventBool();
+void DialogEventSetBool(bool value);
+qint64 DialogEventLong();
+void DialogEventSetLong(qint64 value);
+float DialogEventFloat();
+void DialogEventSetFloat(float value);
+double DialogEventDouble();
+void DialogEventSetDouble(double value);
+
+QRectF DialogEventRect();
+void DialogEventSetNSRect(double x, double y, double width, double height);
+void DialogEventSetNSPoint(double x, double y);
+QSizeF DialogEventNSSize();
+void DialogEventSetNSSize(double width, double height);
+void DialogEventSetNSRange(quint64 location, quint64 length);
+
+QVariantList DialogEventNSArray();
+QUrl DialogEventNSURL();
+void DialogEventSetOtherNSURL(const QUrl &url);
+QColor DialogEventColor();
+void DialogEventSetColor(const QColor &color);
+QVariant DialogEventNSObject();
+void DialogEventSetNSObject(const QVariant &object);
+
+QObject *DialogEventNSMenu();
+void DialogEventSetNSMenu(QObject *menu);
+/// Another name for DialogEventSetNSMenu.
+void DialogEventSetMenu(QObject *menu);
+QObject *DialogEventView();
+void DialogEventSetView(QObject *view);
+void DialogEventSetPasteboard(QObject *pasteboard);
+
+void DialogEventSetContext(void *context);
+void DialogEventSetDraggingInfo(const QVariant &info);
+QVariant DialogEventTintConfiguration();
+void DialogEventSetTintConfiguration(const QVariant &configuration);
+void DialogEventSetTableColumn(const QVariant &column);
+
+/// The platform event whose callback is running, or null. Not owned, and valid only until that
+/// callback returns.
+QEvent *CUI_EventEvent();
+void CUI_EventSetEvent(QEvent *event);
 
 } // namespace tetrad

@@ -2,11 +2,82 @@
 
 // The table of event codes: every code the dialog function can be called with, family by family. The
 // families that the layers below send live in their own headers and are gathered here.
-#include <tetrad/events/alert_events.h>
-#include <tetrad/events/view_events.h>
-#include <tetrad/events/window_events.h>
+#include <QtGlobal>
 
 namespace tetrad {
+
+/// What the dialog function is told of alerts.
+enum AlertEvent : qint64 {
+    alertEndedEvent = 1000, ///< tag: the button's code or 0; wndTag: the alert's tag
+    alertHelpEvent = 1001,  ///< tag and wndTag: the alert's tag; the answer is the boolean
+};
+
+/// Codes of the window delegate's notifications. The gaps in the numbering are intended: no other
+/// code of this family is ever sent by the delegate.
+enum WindowEvent : qint64 {
+    windowEventWillPositionSheet = 10000,
+    windowEventWillBeginSheet = 10001,
+    windowEventDidEndSheet = 10002,
+    windowEventWillResize = 10003,
+    windowEventDidResize = 10004,
+    windowEventWillStartLiveResize = 10005,
+    windowEventDidEndLiveResize = 10006,
+    windowEventWillMiniaturize = 10007,
+    windowEventDidMiniaturize = 10008,
+    windowEventDidDeminiaturize = 10009,
+    windowEventWillUseStandardFrame = 10010,
+    windowEventShouldZoom = 10011,
+    windowEventWillUseFullScreenContentSize = 10012,
+    windowEventWillUseFullScreenPresentationOptions = 10013,
+    windowEventWillEnterFullScreen = 10014,
+    windowEventDidEnterFullScreen = 10015,
+    windowEventWillExitFullScreen = 10016,
+    windowEventDidExitFullScreen = 10017,
+    windowEventDidFailToEnterFullScreen = 10022,
+    windowEventDidFailToExitFullScreen = 10025,
+    windowEventWillMove = 10026,
+    windowEventDidMove = 10027,
+    windowEventDidChangeScreen = 10028,
+    windowEventShouldClose = 10031,
+    windowEventWillClose = 10032,
+    windowEventDidBecomeKey = 10033,
+    windowEventDidResignKey = 10034,
+    windowEventDidBecomeMain = 10035,
+    windowEventDidResignMain = 10036,
+    windowEventDidUpdate = 10037,
+    windowEventShouldPopUpDocumentPathMenu = 10038,
+    /// Sent for a window that was loaded from an interface file, not by the delegate.
+    windowEventAwakeFromNib = 10059,
+};
+
+/// Codes of the events that views report about themselves. Unless a line says otherwise the object
+/// passed is the platform event (see tagFromEvent) and boolVal, preset to false, is the answer "handled".
+enum ViewEvent : qint64 {
+    viewEventDraw = 2000,                  ///< rectVal: the part to draw, in pixels from the view's top left; object 0
+    viewEventAcceptsFirstResponder = 2001, ///< boolVal: whether the view takes the keyboard; object 0
+    viewEventMouseDown = 2002,
+    viewEventMouseDragged = 2003,
+    viewEventMouseUp = 2004,
+    viewEventMouseMoved = 2005,
+    viewEventMouseEntered = 2006,
+    viewEventMouseExited = 2007,
+    viewEventRightMouseDown = 2008,
+    viewEventRightMouseDragged = 2009,
+    viewEventRightMouseUp = 2010,
+    viewEventKeyDown = 2011,
+    viewEventKeyUp = 2012,
+    viewEventFlagsChanged = 2013,     ///< a modifier key went down or up
+    viewEventResetCursorRects = 2015, ///< object 0
+    viewEventDraggingEntered =
+        2016, ///< arrayObj: file addresses; pbTypes: MIME types; pasteboardObj: the data; pointVal
+    viewEventDraggingExited = 2020,
+    viewEventPerformDrag = 2022,       ///< the same; boolVal: whether the drop was taken
+    viewEventAppearanceChanged = 2025, ///< object 0
+    viewEventMenu = 2026,              ///< menuObj: the menu to pop up, in and out
+    viewEventWantsUpdateLayer = 2027,  ///< boolVal: whether 2028 is sent in place of 2000; object 0
+    viewEventUpdateLayer = 2028,       ///< object 0
+    viewEventAwakeFromNib = 2029,      ///< object 0
+};
 
 enum ControlEvent : qint64 {
     controlEventAction = 1, ///< object: the control; sent by the shared control target

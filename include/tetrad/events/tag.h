@@ -1,17 +1,11 @@
 #pragma once
 
-#include <QtGlobal>
+#include <tetrad/fwd.h>
 
 class QEvent;
 class QObject;
 
 namespace tetrad {
-
-/// The number that names a window, alert, menu, view or control: 1 to largestTag. Its absolute value
-/// is the identity; window and alert statements read a positive tag as "show" and a zero or
-/// negative one as "define without showing". 0 names nothing. Wherever a tag is expected a value
-/// above largestTag is an object's address instead.
-using Tag = qint64;
 
 inline constexpr Tag largestTag = 1000000;
 

@@ -2,7 +2,6 @@
 
 #include "runtime/app/alerts/alert_keys.h"
 #include "runtime/app/alerts/alert_text.h"
-#include <tetrad/app/alert_delegate.h>
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>

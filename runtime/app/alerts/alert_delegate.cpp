@@ -1,8 +1,7 @@
-#include <tetrad/app/alert_delegate.h>
-
 #include <tetrad/app/alert.h>
-#include <tetrad/events/alert_events.h>
+
 #include <tetrad/events/dialog_event.h>
+#include <tetrad/events/event_codes.h>
 
 namespace tetrad {
 

@@ -1,10 +1,9 @@
 #include <tetrad/app/alerts.h>
 
 #include <tetrad/app/alert.h>
-#include <tetrad/app/alert_delegate.h>
-#include <tetrad/app/output_window.h>
-#include <tetrad/events/alert_events.h>
+#include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
+#include <tetrad/events/event_codes.h>
 #include <tetrad/strings/error_object.h>
 #include <tetrad/strings/not_given.h>
 

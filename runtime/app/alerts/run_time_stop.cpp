@@ -1,10 +1,10 @@
 #include <tetrad/app/run_time_stop.h>
 
+#include "runtime/app/process/strings_table.h"
 #include <tetrad/app/alert.h>
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
-#include <tetrad/app/output_window.h>
-#include <tetrad/app/strings_table.h>
+#include <tetrad/app/windows.h>
 #include <tetrad/strings/mac_roman.h>
 #include <tetrad/strings/text_format.h>
 

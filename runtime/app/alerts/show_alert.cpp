@@ -1,7 +1,7 @@
 #include <tetrad/app/alert.h>
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
-#include <tetrad/app/output_window.h>
+#include <tetrad/app/windows.h>
 
 #include <QCoreApplication>
 #include <QQueue>

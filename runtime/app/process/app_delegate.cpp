@@ -1,6 +1,5 @@
 #include <tetrad/app/app_delegate.h>
 
-#include <tetrad/app/app_events.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>
 

@@ -1,4 +1,4 @@
-#include <tetrad/app/app_events.h>
+#include <tetrad/app/application.h>
 
 #include <utility>
 

@@ -5,7 +5,7 @@
 #include "runtime/app/process/termination.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/run_time_stop.h>
-#include <tetrad/strings/string_stack.h>
+#include <tetrad/strings/pascal_strings.h>
 
 #include <QApplication>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include <tetrad/app/strings_table.h>
+#include "runtime/app/process/strings_table.h"
 
 #include <QCoreApplication>
 

@@ -1,10 +1,10 @@
 #include <tetrad/app/content_view.h>
 
+#include "runtime/controls/events/current_event.h"
 #include "runtime/controls/events/view_event_code.h"
-#include <tetrad/app/output_window.h>
-#include <tetrad/events/current_event.h>
+#include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
-#include <tetrad/events/view_events.h>
+#include <tetrad/events/event_codes.h>
 
 #include <QContextMenuEvent>
 #include <QFileInfo>

@@ -1,47 +1,31 @@
-#include <tetrad/app/output_window.h>
+#include "runtime/app/windows/output_window.h"
 
+#include "runtime/app/process/strings_table.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
-#include <tetrad/app/strings_table.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
 
 namespace tetrad {
 
-namespace {
-
-Tag outputWindowTag = 0;
-
-} // namespace
-
-void CUI_OutputWindowSetTag(Tag tag)
-{
-    outputWindowTag = tagIdentity(tag);
-}
-
-Tag CUI_OutputWindowTag()
-{
-    return outputWindowTag;
-}
-
 QWidget *CUI_OutputWindow()
 {
-    return CUI_TargetWithTag(outputWindowTag);
+    return CUI_TargetWithTag(CUI_OutputWindowTag());
 }
 
 QWidget *CUI_OutputWindowContentView()
 {
-    return CUI_ContentViewOf(CUI_OutputWindow());
+    return contentViewOf(CUI_OutputWindow());
 }
 
-QWidget *CUI_SearchedContentView()
+QWidget *searchedContentView()
 {
     QWidget *const output = CUI_OutputWindowContentView();
-    return output ? output : CUI_ContentViewOf(CUI_FrontWindow());
+    return output ? output : contentViewOf(CUI_FrontWindow());
 }
 
-QWidget *CUI_ContentViewOf(const QWidget *windowOrPopover)
+QWidget *contentViewOf(const QWidget *windowOrPopover)
 {
     if (const auto *window = qobject_cast<const Window *>(windowOrPopover)) {
         return window->contentView();

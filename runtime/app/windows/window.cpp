@@ -7,7 +7,6 @@
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/app/window_controller.h>
 #include <tetrad/app/window_delegate.h>
 #include <tetrad/app/windows.h>
 

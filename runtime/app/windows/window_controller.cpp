@@ -1,5 +1,3 @@
-#include <tetrad/app/window_controller.h>
-
 #include <tetrad/app/window.h>
 
 namespace tetrad {

@@ -1,7 +1,7 @@
 #include <tetrad/app/window_delegate.h>
 
 #include <tetrad/app/app_delegate.h>
-#include <tetrad/app/output_window.h>
+#include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
 
 #include <QMenu>

@@ -2,9 +2,7 @@
 
 #include "runtime/app/windows/window_order.h"
 #include <tetrad/app/app_delegate.h>
-#include <tetrad/app/output_window.h>
 #include <tetrad/app/window.h>
-#include <tetrad/app/window_controller.h>
 #include <tetrad/app/window_delegate.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/strings/not_given.h>

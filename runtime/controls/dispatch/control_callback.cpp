@@ -1,4 +1,4 @@
-#include <tetrad/controls/control_callback.h>
+#include <tetrad/controls/control_statements.h>
 
 #include <QVariant>
 

@@ -1,8 +1,8 @@
 #include <tetrad/controls/control_target.h>
 
-#include <tetrad/app/output_window.h>
+#include "runtime/controls/lookup/view_tag.h"
+#include <tetrad/app/windows.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_tag.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -73,7 +73,7 @@ void ControlSetActionID(Tag tag, qint64 id)
     }
 }
 
-void CUI_ControlSendAction(QWidget *control)
+void sendControlAction(QWidget *control)
 {
     const QString name = controlActionName(control);
     const QByteArray method = name.endsWith(u':') ? name.chopped(1).toUtf8() : name.toUtf8();
@@ -86,10 +86,10 @@ void CUI_ControlSendAction(QWidget *control)
     QMetaObject::invokeMethod(target, method.constData(), Qt::DirectConnection, Q_ARG(QWidget *, control));
 }
 
-void CUI_ControlSendActionSoon(QWidget *control)
+void sendControlActionSoon(QWidget *control)
 {
     QMetaObject::invokeMethod(
-        control, [control] { CUI_ControlSendAction(control); }, Qt::QueuedConnection);
+        control, [control] { sendControlAction(control); }, Qt::QueuedConnection);
 }
 
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj)

@@ -1,8 +1,8 @@
-#include <tetrad/controls/popover_events.h>
+#include <tetrad/controls/popovers.h>
 
+#include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
-#include <tetrad/controls/event_site.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -20,7 +20,7 @@ constexpr char asksKey[] = "popoverAsks";
 void tell(Popover *popover, qint64 event)
 {
     setObjectWindowTag(popover, popover->tag());
-    CUI_SendObjectEvent(popover, event);
+    sendObjectEvent(popover, event);
 }
 
 bool ask(Popover *popover, qint64 event)
@@ -95,7 +95,7 @@ private:
 
 } // namespace
 
-void CUI_PopoverReportEvents(Popover *popover)
+void reportPopoverEvents(Popover *popover)
 {
     const auto tells = [popover](auto signal, qint64 event) {
         QObject::connect(popover, signal, popover, [popover, event] { tell(popover, event); });

@@ -1,6 +1,6 @@
-#include <tetrad/controls/toolbar_events.h>
+#include <tetrad/controls/toolbar.h>
 
-#include <tetrad/controls/event_site.h>
+#include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/events/event_codes.h>
 
 #include <QAction>
@@ -42,9 +42,9 @@ public:
     {
         if (!m_isQueued && toolbarItemValidates(m_item)) {
             m_isQueued = true;
-            CUI_Soon(this, [this] {
+            callSoon(this, [this] {
                 m_isQueued = false;
-                CUI_ToolbarValidateItem(m_item);
+                validateToolbarItem(m_item);
             });
         }
     }
@@ -56,10 +56,10 @@ private:
 
 } // namespace
 
-void CUI_ToolbarItemReportEvents(QAction *item)
+void reportToolbarItemEvents(QAction *item)
 {
     QObject::connect(item, &QAction::triggered, item, [item] {
-        CUI_Soon(item, [item] { CUI_SendObjectEvent(item, toolbarEventItemAction, tagFromObject(item)); });
+        callSoon(item, [item] { sendObjectEvent(item, toolbarEventItemAction, tagFromObject(item)); });
     });
 }
 
@@ -77,10 +77,10 @@ void setToolbarItemValidates(QAction *item, bool validates)
     }
 }
 
-void CUI_ToolbarValidateItem(QAction *item)
+void validateToolbarItem(QAction *item)
 {
     const QPointer<QAction> guard(item);
-    const bool enabled = CUI_AskObjectEvent(item, toolbarEventValidateItem, tagFromObject(item));
+    const bool enabled = askObjectEvent(item, toolbarEventValidateItem, tagFromObject(item));
     if (guard) {
         item->setEnabled(enabled);
     }

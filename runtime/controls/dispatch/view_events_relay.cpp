@@ -1,9 +1,9 @@
 #include "runtime/controls/dispatch/view_events_relay.h"
 
+#include "runtime/controls/events/current_event.h"
 #include "runtime/controls/events/view_event_code.h"
-#include <tetrad/app/output_window.h>
-#include <tetrad/controls/view_tag.h>
-#include <tetrad/events/current_event.h>
+#include "runtime/controls/lookup/view_tag.h"
+#include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 

@@ -1,4 +1,4 @@
-#include <tetrad/events/current_event.h>
+#include "runtime/controls/events/current_event.h"
 
 namespace tetrad {
 

@@ -1,4 +1,4 @@
-#include <tetrad/events/dialog_event_accessors.h>
+#include <tetrad/events/dialog_event.h>
 
 namespace tetrad {
 

@@ -1,6 +1,6 @@
 #include "runtime/controls/events/view_event_code.h"
 
-#include <tetrad/events/view_events.h>
+#include <tetrad/events/event_codes.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>

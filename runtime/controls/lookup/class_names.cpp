@@ -1,4 +1,4 @@
-#include <tetrad/controls/class_names.h>
+#include "runtime/controls/lookup/class_names.h"
 
 #include <tetrad/events/tag.h>
 
@@ -49,11 +49,11 @@ constexpr ClassRow classTable[] = {
     {"NSScroller", "NSControl", {"QScrollBar"}},
     {"NSStepper", "NSControl", {"QAbstractSpinBox"}},
     {"NSDatePicker", "NSControl", {"QDateTimeEdit", "QCalendarWidget"}},
-    {"NSSegmentedControl", "NSControl", {"tetrad::SegmentedControl"}},
+    {"NSSegmentedControl", "NSControl", {"tetrad::SegmentedControlSC"}},
     {"NSTableView", "NSControl", {"QTableView", "QListView"}},
     {"NSOutlineView", "NSTableView", {"QTreeView"}},
     {"NSTextField", "NSControl", {"QLineEdit", "QLabel"}},
-    {"NSTokenField", "NSTextField", {"tetrad::TokenField"}},
+    {"NSTokenField", "NSTextField", {"tetrad::TokenFieldSC"}},
     {"NSToolbar", "NSObject", {"QToolBar"}},
     {"NSToolbarItem", "NSObject", {"QAction"}},
     {"NSMenu", "NSObject", {"QMenu"}},

@@ -1,8 +1,8 @@
 #include "runtime/controls/lookup/tag_alerts.h"
 
+#include "runtime/app/process/strings_table.h"
+#include "runtime/controls/lookup/class_names.h"
 #include <tetrad/app/alerts.h>
-#include <tetrad/app/strings_table.h>
-#include <tetrad/controls/class_names.h>
 
 #include <QWidget>
 

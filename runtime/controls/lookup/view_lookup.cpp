@@ -1,16 +1,16 @@
+#include "runtime/app/windows/output_window.h"
 #include <tetrad/controls/view_lookup.h>
 
+#include "runtime/app/process/strings_table.h"
+#include "runtime/controls/lookup/class_names.h"
 #include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/controls/lookup/view_tag.h"
 #include <tetrad/app/content_view.h>
-#include <tetrad/app/output_window.h>
 #include <tetrad/app/popover.h>
-#include <tetrad/app/strings_table.h>
 #include <tetrad/app/window.h>
-#include <tetrad/controls/class_names.h>
-#include <tetrad/controls/titlebar_accessory.h>
+#include <tetrad/app/windows.h>
 #include <tetrad/controls/toolbar.h>
-#include <tetrad/controls/view_tag.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 
 #include <QAction>
 #include <QTabWidget>
@@ -74,7 +74,7 @@ QWidget *CUI_ViewWithTag(Tag tagOrView)
     if (QWidget *const found = viewInShownPopover(tagOrView)) {
         return found;
     }
-    QWidget *const contentView = CUI_SearchedContentView();
+    QWidget *const contentView = searchedContentView();
     if (!contentView || tagOrView == contentViewTag) {
         return contentView;
     }
@@ -99,7 +99,7 @@ QWidget *CUI_ViewSubviewWithTag(QWidget *view, Tag tag)
         if (!subview || subview->isWindow()) {
             continue;
         }
-        if (CUI_ViewSearchTag(subview) == tag) {
+        if (viewSearchTag(subview) == tag) {
             return subview;
         }
         if (QWidget *const found = CUI_ViewSubviewWithTag(subview, tag)) {
@@ -131,7 +131,7 @@ QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className)
     if (isObjectAddress(tagOrView)) {
         return validatedObject(objectFromTag(tagOrView), className);
     }
-    const QWidget *const contentView = CUI_SearchedContentView();
+    const QWidget *const contentView = searchedContentView();
     if (!contentView) {
         showNoWindowsError();
         return nullptr;

@@ -1,7 +1,7 @@
-#include <tetrad/controls/view_tag.h>
+#include "runtime/controls/lookup/view_tag.h"
 
-#include <tetrad/controls/class_names.h>
-#include <tetrad/strings/number_reader.h>
+#include "runtime/controls/lookup/class_names.h"
+#include <tetrad/strings/numbers.h>
 
 #include <QWidget>
 
@@ -21,7 +21,7 @@ bool isSearchedByIdentifier(const QWidget *view)
 
 } // namespace
 
-Tag CUI_ViewSearchTag(const QWidget *view)
+Tag viewSearchTag(const QWidget *view)
 {
     return isSearchedByIdentifier(view) ? StringIntegerValue(view->objectName()) : objectTag(view);
 }

@@ -1,11 +1,12 @@
 #include <tetrad/controls/control_statements.h>
 
+#include "runtime/controls/statements/view_statement.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/controls/control_target.h>
 #include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/strings/not_given.h>
-#include <tetrad/strings/number_reader.h>
+#include <tetrad/strings/numbers.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -24,19 +25,19 @@ namespace {
 // A button has finished its own work when it tells, and looks whether it is still there.
 void sendsActionAtOnce(QAbstractButton *button)
 {
-    QObject::connect(button, &QAbstractButton::clicked, button, [button] { CUI_ControlSendAction(button); });
+    QObject::connect(button, &QAbstractButton::clicked, button, [button] { sendControlAction(button); });
 }
 
 template <typename Control, typename Signal>
 void sendsActionSoon(Control *control, Signal signal)
 {
-    QObject::connect(control, signal, control, [control] { CUI_ControlSendActionSoon(control); });
+    QObject::connect(control, signal, control, [control] { sendControlActionSoon(control); });
 }
 
 template <typename Button>
 void buttonStatement(Tag tag, const QString &title, const QRectF &rect)
 {
-    auto *const button = CUI_StatementView<Button>(tag, rect, sendsActionAtOnce);
+    auto *const button = statementView<Button>(tag, rect, sendsActionAtOnce);
     if (button && !title.isNull()) {
         button->setText(title);
     }
@@ -64,8 +65,8 @@ void CUI_CheckBox(Tag tag, const QString &title, const QRectF &rect)
 
 void CUI_TextField(Tag tag, const QString &text, const QRectF &rect)
 {
-    auto *const field = CUI_StatementView<QLineEdit>(
-        tag, rect, [](QLineEdit *made) { sendsActionSoon(made, &QLineEdit::returnPressed); });
+    auto *const field =
+        statementView<QLineEdit>(tag, rect, [](QLineEdit *made) { sendsActionSoon(made, &QLineEdit::returnPressed); });
     if (field && !text.isNull()) {
         field->setText(text);
     }
@@ -73,7 +74,7 @@ void CUI_TextField(Tag tag, const QString &text, const QRectF &rect)
 
 void CUI_TextLabel(Tag tag, const QString &text, const QRectF &rect)
 {
-    auto *const label = CUI_StatementView<QLabel>(tag, rect, [](QLabel *made) { made->setTextFormat(Qt::PlainText); });
+    auto *const label = statementView<QLabel>(tag, rect, [](QLabel *made) { made->setTextFormat(Qt::PlainText); });
     if (label && !text.isNull()) {
         label->setText(text);
     }
@@ -82,7 +83,7 @@ void CUI_TextLabel(Tag tag, const QString &text, const QRectF &rect)
 void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect)
 {
     auto *const slider =
-        CUI_StatementView<QSlider>(tag, rect, [](QSlider *made) { sendsActionSoon(made, &QSlider::valueChanged); });
+        statementView<QSlider>(tag, rect, [](QSlider *made) { sendsActionSoon(made, &QSlider::valueChanged); });
     if (!slider) {
         return;
     }
@@ -101,7 +102,7 @@ void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRe
 void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, const QRectF &rect)
 {
     auto *const box =
-        CUI_StatementView<QComboBox>(tag, rect, [](QComboBox *made) { sendsActionSoon(made, &QComboBox::activated); });
+        statementView<QComboBox>(tag, rect, [](QComboBox *made) { sendsActionSoon(made, &QComboBox::activated); });
     if (!box) {
         return;
     }
@@ -113,8 +114,8 @@ void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, co
 
 void CUI_SegmentedControl(Tag tag, const QStringList &labels, qint64 selectedIndex, const QRectF &rect)
 {
-    auto *const control = CUI_StatementView<SegmentedControl>(
-        tag, rect, [](SegmentedControl *made) { sendsActionSoon(made, &SegmentedControl::clicked); });
+    auto *const control = statementView<SegmentedControlSC>(
+        tag, rect, [](SegmentedControlSC *made) { sendsActionSoon(made, &SegmentedControlSC::clicked); });
     if (!control) {
         return;
     }
@@ -168,7 +169,7 @@ qint64 ControlIntegerValue(Tag tag)
     if (const auto *box = qobject_cast<const QComboBox *>(control)) {
         return box->currentIndex();
     }
-    if (const auto *segments = qobject_cast<const SegmentedControl *>(control)) {
+    if (const auto *segments = qobject_cast<const SegmentedControlSC *>(control)) {
         return segments->selectedSegment();
     }
     const auto *const field = qobject_cast<const QLineEdit *>(control);
@@ -185,7 +186,7 @@ void ControlSetIntegerValue(Tag tag, qint64 value)
         button->setChecked(value != 0);
     } else if (auto *const box = qobject_cast<QComboBox *>(control)) {
         box->setCurrentIndex(saturatedTo<int>(value));
-    } else if (auto *const segments = qobject_cast<SegmentedControl *>(control)) {
+    } else if (auto *const segments = qobject_cast<SegmentedControlSC *>(control)) {
         segments->setSelectedSegment(saturatedTo<int>(value));
     } else if (auto *const field = qobject_cast<QLineEdit *>(control)) {
         field->setText(QString::number(value));

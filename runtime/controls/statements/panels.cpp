@@ -1,7 +1,7 @@
 #include <tetrad/controls/panels.h>
 
-#include <tetrad/app/output_window.h>
-#include <tetrad/controls/event_site.h>
+#include "runtime/controls/dispatch/event_site.h"
+#include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -42,9 +42,9 @@ QColorDialog *CUI_ColorPanel(const QColor &color)
     static QPointer<QColorDialog> panel;
     panelIn(panel, [](QColorDialog *made) {
         QObject::connect(made, &QColorDialog::currentColorChanged, made, [made](const QColor &chosen) {
-            CUI_Soon(made, [made, chosen] {
+            callSoon(made, [made, chosen] {
                 CUI_DialogEventObj()->colorObj = chosen;
-                CUI_SendObjectEvent(made, colorPanelEventAction, tagFromObject(made));
+                sendObjectEvent(made, colorPanelEventAction, tagFromObject(made));
             });
         });
     });
@@ -58,9 +58,9 @@ QFontDialog *CUI_FontPanel(const QFont &font)
     static QPointer<QFontDialog> panel;
     panelIn(panel, [](QFontDialog *made) {
         QObject::connect(made, &QFontDialog::currentFontChanged, made, [made](const QFont &chosen) {
-            CUI_Soon(made, [made, chosen] {
+            callSoon(made, [made, chosen] {
                 CUI_DialogEventObj()->fontObj = chosen;
-                CUI_SendObjectEvent(made, fontPanelEventChanged, tagFromObject(made));
+                sendObjectEvent(made, fontPanelEventChanged, tagFromObject(made));
             });
         });
     });

@@ -1,12 +1,10 @@
-#include <tetrad/controls/popover_statements.h>
+#include <tetrad/controls/popovers.h>
 
+#include "runtime/app/process/strings_table.h"
 #include "runtime/controls/lookup/tag_alerts.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/content_view.h>
-#include <tetrad/app/output_window.h>
-#include <tetrad/app/strings_table.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/controls/popover_events.h>
 #include <tetrad/controls/view_lookup.h>
 
 namespace tetrad {
@@ -41,7 +39,7 @@ void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
     Popover *popover = CUI_PopoverWithTag(popoverTag);
     if (!popover) {
         popover = new Popover(popoverTag, contentSize.isEmpty() ? QSize(200, 100) : contentSize.toSize());
-        CUI_PopoverReportEvents(popover);
+        reportPopoverEvents(popover);
     } else if (!contentSize.isEmpty()) {
         popover->contentView()->setFixedSize(contentSize.toSize());
     }

@@ -1,4 +1,4 @@
-#include <tetrad/controls/titlebar_accessory.h>
+#include <tetrad/controls/toolbar.h>
 
 #include <tetrad/app/window.h>
 

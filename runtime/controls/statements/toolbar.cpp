@@ -1,10 +1,9 @@
 #include <tetrad/controls/toolbar.h>
 
+#include "runtime/app/process/strings_table.h"
 #include "runtime/controls/lookup/tag_alerts.h"
-#include <tetrad/app/output_window.h>
-#include <tetrad/app/strings_table.h>
 #include <tetrad/app/window.h>
-#include <tetrad/controls/toolbar_events.h>
+#include <tetrad/app/windows.h>
 
 #include <QAction>
 #include <QToolBar>
@@ -59,7 +58,7 @@ QAction *addItem(QToolBar *toolbar, QAction *item, Tag tag)
 {
     setObjectTag(item, tag);
     setObjectWindowTag(item, objectWindowTag(toolbar));
-    CUI_ToolbarItemReportEvents(item);
+    reportToolbarItemEvents(item);
     toolbar->addAction(item);
     return item;
 }

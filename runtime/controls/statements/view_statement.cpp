@@ -1,10 +1,10 @@
-#include <tetrad/controls/view_statement.h>
+#include "runtime/controls/statements/view_statement.h"
 
+#include "runtime/app/process/strings_table.h"
+#include "runtime/controls/lookup/class_names.h"
 #include "runtime/controls/lookup/tag_alerts.h"
-#include <tetrad/app/strings_table.h>
-#include <tetrad/controls/class_names.h>
+#include "runtime/controls/lookup/view_tag.h"
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_tag.h>
 
 #include <QWidget>
 
@@ -12,7 +12,7 @@ namespace tetrad {
 
 using namespace Qt::StringLiterals;
 
-QWidget *CUI_ContentViewForStatement(Tag tag)
+QWidget *contentViewForStatement(Tag tag)
 {
     if (tag == 0 || isObjectAddress(tagIdentity(tag))) {
         const char *const text = QT_TRANSLATE_NOOP("Runtime", "A view needs a tag from 1 to 1000000, not %1.");
@@ -22,24 +22,24 @@ QWidget *CUI_ContentViewForStatement(Tag tag)
     return CUI_ValidateViewKindOfClass(contentViewTag, u"NSView"_s);
 }
 
-QWidget *CUI_ViewForStatement(Tag tag)
+QWidget *viewForStatement(Tag tag)
 {
     return CUI_ViewWithTag(tagIdentity(tag));
 }
 
-void CUI_ShowStatementClassError(Tag tag, const QWidget *view, const QMetaObject &wanted)
+void showStatementClassError(Tag tag, const QWidget *view, const QMetaObject &wanted)
 {
     showClassError(tagIdentity(tag), view, CUI_ViewWindowTag(view), viewClassName(wanted));
 }
 
-void CUI_AdoptView(QWidget *view, Tag tag)
+void adoptView(QWidget *view, Tag tag)
 {
     setViewTag(view, tagIdentity(tag));
     setObjectWindowTag(view, CUI_ViewWindowTag(view));
     view->adjustSize();
 }
 
-void CUI_PlaceView(QWidget *view, Tag tag, const QRectF &rect)
+void placeView(QWidget *view, Tag tag, const QRectF &rect)
 {
     if (!rect.isEmpty()) {
         view->setGeometry(rect.toRect());

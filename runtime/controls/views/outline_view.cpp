@@ -1,9 +1,9 @@
 #include <tetrad/controls/outline_view.h>
 
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/statements/view_statement.h"
 #include "runtime/controls/views/item_view_keys.h"
-#include <tetrad/controls/event_site.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_statement.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -29,36 +29,36 @@ OutlineItem *outlineItem(QTreeWidgetItem *item)
 
 } // namespace
 
-OutlineView::OutlineView(QWidget *parent) : QTreeWidget(parent)
+OutlineViewSC::OutlineViewSC(QWidget *parent) : QTreeWidget(parent)
 {
     header()->setSectionsClickable(true);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        CUI_Soon(this, [this, column] { CUI_OutlineViewDelegateObj()->outlineViewDidClickTableColumn(this, column); });
+        callSoon(this, [this, column] { CUI_OutlineViewDelegateObj()->outlineViewDidClickTableColumn(this, column); });
     });
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) {
-        CUI_Soon(this, [this, index = QPersistentModelIndex(indexFromItem(item))] { open(index); });
+        callSoon(this, [this, index = QPersistentModelIndex(indexFromItem(item))] { open(index); });
     });
     connect(this, &QTreeWidget::itemCollapsed, this,
             [this](QTreeWidgetItem *item) { tellSoon(item, outlineViewEventDidCollapse); });
 }
 
-void OutlineView::reloadData()
+void OutlineViewSC::reloadData()
 {
     clear();
     loadChildren({}, QVariant());
 }
 
-QVariant OutlineView::selectedObject() const
+QVariant OutlineViewSC::selectedObject() const
 {
     const QList<QTreeWidgetItem *> items = selectedItems();
     return items.isEmpty() ? QVariant() : outlineItem(items.constFirst())->object();
 }
 
 // A callback may reload the view, which takes the parent away.
-void OutlineView::loadChildren(const QPersistentModelIndex &parent, const QVariant &parentObject)
+void OutlineViewSC::loadChildren(const QPersistentModelIndex &parent, const QVariant &parentObject)
 {
     CUI_OutlineViewDelegate *const delegate = CUI_OutlineViewDelegateObj();
-    const QPointer<OutlineView> guard(this);
+    const QPointer<OutlineViewSC> guard(this);
     const bool isRoot = !parent.isValid();
     const int count = delegate->outlineViewNumberOfChildren(this, parentObject);
     for (int index = 0; guard && index < count && (isRoot || parent.isValid()); ++index) {
@@ -70,14 +70,14 @@ void OutlineView::loadChildren(const QPersistentModelIndex &parent, const QVaria
 }
 
 // False when the new item, or the view, did not live through the questions about it.
-bool OutlineView::addChild(const QPersistentModelIndex &parent, const QVariant &object)
+bool OutlineViewSC::addChild(const QPersistentModelIndex &parent, const QVariant &object)
 {
     CUI_OutlineViewDelegate *const delegate = CUI_OutlineViewDelegateObj();
     auto *const item = new OutlineItem(object);
     QTreeWidgetItem *const parentItem = parent.isValid() ? itemFromIndex(parent) : invisibleRootItem();
     parentItem->addChild(item);
     const QPersistentModelIndex index(indexFromItem(item));
-    const QPointer<OutlineView> guard(this);
+    const QPointer<OutlineViewSC> guard(this);
     for (int column = 0; guard && index.isValid() && column < columnCount(); ++column) {
         const QString text = delegate->outlineViewText(this, object, column);
         if (guard && index.isValid()) {
@@ -95,12 +95,12 @@ bool OutlineView::addChild(const QPersistentModelIndex &parent, const QVariant &
     return true;
 }
 
-void OutlineView::open(const QPersistentModelIndex &index)
+void OutlineViewSC::open(const QPersistentModelIndex &index)
 {
     if (!index.isValid()) {
         return;
     }
-    const QPointer<OutlineView> guard(this);
+    const QPointer<OutlineViewSC> guard(this);
     OutlineItem *const item = outlineItem(itemFromIndex(index));
     const QVariant object = item->object();
     if (!item->isLoaded()) {
@@ -114,18 +114,18 @@ void OutlineView::open(const QPersistentModelIndex &index)
 
 // Whether the item may become the current one; false also when the question was answered by deleting
 // the view or the item.
-bool OutlineView::maySelect(const QModelIndex &index)
+bool OutlineViewSC::maySelect(const QModelIndex &index)
 {
     if (!index.isValid() || selectionModel()->isSelected(index)) {
         return true;
     }
-    const QPointer<OutlineView> guard(this);
+    const QPointer<OutlineViewSC> guard(this);
     const QPersistentModelIndex target(index);
     const QVariant object = outlineItem(itemFromIndex(index))->object();
     return CUI_OutlineViewDelegateObj()->outlineViewShouldSelectItem(this, object) && guard && target.isValid();
 }
 
-void OutlineView::mousePressEvent(QMouseEvent *event)
+void OutlineViewSC::mousePressEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->position().toPoint());
     // A press on the arrow opens and selects nothing.
@@ -135,7 +135,7 @@ void OutlineView::mousePressEvent(QMouseEvent *event)
     }
 }
 
-void OutlineView::keyPressEvent(QKeyEvent *event)
+void OutlineViewSC::keyPressEvent(QKeyEvent *event)
 {
     const int action = itemViewCursorAction(event);
     if (action < 0) {
@@ -150,18 +150,18 @@ void OutlineView::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void OutlineView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+void OutlineViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTreeWidget::selectionChanged(selected, deselected);
-    CUI_Soon(this, [this] {
+    callSoon(this, [this] {
         CUI_OutlineViewDelegateObj()->outlineViewItemEvent(this, outlineViewEventSelectionChanged, selectedObject());
     });
 }
 
-void OutlineView::tellSoon(QTreeWidgetItem *item, qint64 event)
+void OutlineViewSC::tellSoon(QTreeWidgetItem *item, qint64 event)
 {
     const QVariant object = outlineItem(item)->object();
-    CUI_Soon(this, [this, event, object] { CUI_OutlineViewDelegateObj()->outlineViewItemEvent(this, event, object); });
+    callSoon(this, [this, event, object] { CUI_OutlineViewDelegateObj()->outlineViewItemEvent(this, event, object); });
 }
 
 CUI_OutlineViewDelegate *CUI_OutlineViewDelegateObj()
@@ -171,12 +171,12 @@ CUI_OutlineViewDelegate *CUI_OutlineViewDelegateObj()
     return delegate;
 }
 
-qint64 CUI_OutlineViewDelegate::forwardEvent(OutlineView *outlineView, qint64 event, Tag object)
+qint64 CUI_OutlineViewDelegate::forwardEvent(OutlineViewSC *outlineView, qint64 event, Tag object)
 {
-    return CUI_ForwardDelegateEvent(outlineView, event, object);
+    return forwardDelegateEvent(outlineView, event, object);
 }
 
-int CUI_OutlineViewDelegate::outlineViewNumberOfChildren(OutlineView *outlineView, const QVariant &item)
+int CUI_OutlineViewDelegate::outlineViewNumberOfChildren(OutlineViewSC *outlineView, const QVariant &item)
 {
     CUI_DialogEventObj()->object = item;
     CUI_DialogEventObj()->longVal = 0;
@@ -184,7 +184,7 @@ int CUI_OutlineViewDelegate::outlineViewNumberOfChildren(OutlineView *outlineVie
     return int(std::clamp<qint64>(CUI_DialogEventObj()->longVal, 0, std::numeric_limits<int>::max()));
 }
 
-QVariant CUI_OutlineViewDelegate::outlineViewChild(OutlineView *outlineView, int index, const QVariant &item)
+QVariant CUI_OutlineViewDelegate::outlineViewChild(OutlineViewSC *outlineView, int index, const QVariant &item)
 {
     CUI_DialogEventObj()->object = item;
     CUI_DialogEventObj()->longVal = index;
@@ -192,7 +192,7 @@ QVariant CUI_OutlineViewDelegate::outlineViewChild(OutlineView *outlineView, int
     return CUI_DialogEventObj()->object;
 }
 
-QString CUI_OutlineViewDelegate::outlineViewText(OutlineView *outlineView, const QVariant &item, int column)
+QString CUI_OutlineViewDelegate::outlineViewText(OutlineViewSC *outlineView, const QVariant &item, int column)
 {
     CUI_DialogEventObj()->object = item;
     CUI_DialogEventObj()->tableColumnObj = column;
@@ -201,7 +201,7 @@ QString CUI_OutlineViewDelegate::outlineViewText(OutlineView *outlineView, const
     return CUI_DialogEventObj()->stringObj;
 }
 
-bool CUI_OutlineViewDelegate::outlineViewShouldSelectItem(OutlineView *outlineView, const QVariant &item)
+bool CUI_OutlineViewDelegate::outlineViewShouldSelectItem(OutlineViewSC *outlineView, const QVariant &item)
 {
     CUI_DialogEventObj()->object = item;
     CUI_DialogEventObj()->boolVal = false;
@@ -209,13 +209,13 @@ bool CUI_OutlineViewDelegate::outlineViewShouldSelectItem(OutlineView *outlineVi
     return !CUI_DialogEventObj()->boolVal;
 }
 
-void CUI_OutlineViewDelegate::outlineViewItemEvent(OutlineView *outlineView, qint64 event, const QVariant &item)
+void CUI_OutlineViewDelegate::outlineViewItemEvent(OutlineViewSC *outlineView, qint64 event, const QVariant &item)
 {
     CUI_DialogEventObj()->object = item;
     forwardEvent(outlineView, event, 0);
 }
 
-void CUI_OutlineViewDelegate::outlineViewDidClickTableColumn(OutlineView *outlineView, int column)
+void CUI_OutlineViewDelegate::outlineViewDidClickTableColumn(OutlineViewSC *outlineView, int column)
 {
     CUI_DialogEventObj()->tableColumnObj = column;
     forwardEvent(outlineView, outlineViewEventColumnClicked, 0);
@@ -223,8 +223,8 @@ void CUI_OutlineViewDelegate::outlineViewDidClickTableColumn(OutlineView *outlin
 
 void CUI_OutlineView(Tag tag, const QStringList &columns, const QRectF &rect)
 {
-    auto *const view = CUI_StatementView<OutlineView>(
-        tag, rect, [](OutlineView *made) { CUI_Soon(made, [made] { made->reloadData(); }); });
+    auto *const view = statementView<OutlineViewSC>(
+        tag, rect, [](OutlineViewSC *made) { callSoon(made, [made] { made->reloadData(); }); });
     if (view && !columns.isEmpty()) {
         view->setColumnCount(int(columns.size()));
         view->setHeaderLabels(columns);
@@ -233,7 +233,7 @@ void CUI_OutlineView(Tag tag, const QStringList &columns, const QRectF &rect)
 
 void OutlineViewReloadData(Tag tag)
 {
-    if (auto *const view = qobject_cast<OutlineView *>(CUI_ValidateViewKindOfClass(tag, u"NSOutlineView"_s))) {
+    if (auto *const view = qobject_cast<OutlineViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSOutlineView"_s))) {
         view->reloadData();
     }
 }

@@ -6,15 +6,15 @@
 
 namespace tetrad {
 
-SegmentedControl::SegmentedControl(QWidget *parent) : QWidget(parent), m_segments(new QButtonGroup(this))
+SegmentedControlSC::SegmentedControlSC(QWidget *parent) : QWidget(parent), m_segments(new QButtonGroup(this))
 {
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    connect(m_segments, &QButtonGroup::idClicked, this, &SegmentedControl::clicked);
+    connect(m_segments, &QButtonGroup::idClicked, this, &SegmentedControlSC::clicked);
 }
 
-QStringList SegmentedControl::labels() const
+QStringList SegmentedControlSC::labels() const
 {
     QStringList labels;
     for (const QAbstractButton *segment : m_segments->buttons()) {
@@ -23,7 +23,7 @@ QStringList SegmentedControl::labels() const
     return labels;
 }
 
-void SegmentedControl::setLabels(const QStringList &labels)
+void SegmentedControlSC::setLabels(const QStringList &labels)
 {
     qDeleteAll(m_segments->buttons());
     for (int index = 0; index < labels.size(); ++index) {
@@ -36,12 +36,12 @@ void SegmentedControl::setLabels(const QStringList &labels)
     }
 }
 
-int SegmentedControl::selectedSegment() const
+int SegmentedControlSC::selectedSegment() const
 {
     return m_segments->checkedId();
 }
 
-void SegmentedControl::setSelectedSegment(int index)
+void SegmentedControlSC::setSelectedSegment(int index)
 {
     // An exclusive group does not let go of its last button.
     m_segments->setExclusive(false);

@@ -1,6 +1,6 @@
 #include "runtime/controls/views/split_divider.h"
 
-#include <tetrad/controls/event_site.h>
+#include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/controls/split_view.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
@@ -10,7 +10,7 @@
 
 namespace tetrad {
 
-SplitDivider::SplitDivider(Qt::Orientation orientation, SplitView *splitView)
+SplitDivider::SplitDivider(Qt::Orientation orientation, SplitViewSC *splitView)
     : QSplitterHandle(orientation, splitView), m_splitView(splitView)
 {}
 
@@ -29,7 +29,7 @@ void SplitDivider::paintEvent(QPaintEvent *event)
     CUI_DialogEventObj()->rectVal = rect();
     CUI_DialogEventObj()->viewObj = this;
     CUI_DialogEventObj()->longVal = index();
-    if (CUI_AskObjectEvent(m_splitView, splitViewEventDrawDivider)) {
+    if (askObjectEvent(m_splitView, splitViewEventDrawDivider)) {
         return;
     }
     if (m_splitView->dividerColor().isValid()) {

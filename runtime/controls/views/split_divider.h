@@ -4,16 +4,16 @@
 
 namespace tetrad {
 
-class SplitView;
+class SplitViewSC;
 
-/// A divider of a split view: the bar between two subviews, which drags through SplitView::setPosition and draws what
+/// A divider of a split view: the bar between two subviews, which drags through SplitViewSC::setPosition and draws what
 /// the program asks for.
 class SplitDivider : public QSplitterHandle
 {
     Q_OBJECT
 
 public:
-    SplitDivider(Qt::Orientation orientation, SplitView *splitView);
+    SplitDivider(Qt::Orientation orientation, SplitViewSC *splitView);
 
     /// A hidden divider draws nothing and cannot be dragged.
     void setHiddenByProgram(bool hidden);
@@ -27,7 +27,7 @@ private:
     int along(const QPoint &point) const;
     int index() const;
 
-    SplitView *m_splitView = nullptr;
+    SplitViewSC *m_splitView = nullptr;
     // Where in the divider it was taken hold of.
     int m_grip = 0;
     bool m_isHiddenByProgram = false;

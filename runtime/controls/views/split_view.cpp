@@ -1,10 +1,10 @@
 #include <tetrad/controls/split_view.h>
 
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/statements/view_statement.h"
 #include "runtime/controls/views/pixel_answer.h"
 #include "runtime/controls/views/split_divider.h"
-#include <tetrad/controls/event_site.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_statement.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -19,62 +19,62 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Deliberately through the record's single precision: that is how exact a program's answer is.
-int askCoordinate(const SplitView *view, qint64 event, int divider, int proposal)
+int askCoordinate(const SplitViewSC *view, qint64 event, int divider, int proposal)
 {
     CUI_DialogEventObj()->longVal = divider;
     CUI_DialogEventObj()->floatVal = float(proposal);
-    CUI_SendObjectEvent(view, event);
+    sendObjectEvent(view, event);
     return wholePixels(CUI_DialogEventObj()->floatVal);
 }
 
-bool askAboutIndex(const SplitView *view, qint64 event, int index)
+bool askAboutIndex(const SplitViewSC *view, qint64 event, int index)
 {
     CUI_DialogEventObj()->longVal = index;
-    return CUI_AskObjectEvent(view, event);
+    return askObjectEvent(view, event);
 }
 
-SplitView *splitViewWithTag(Tag tag)
+SplitViewSC *splitViewWithTag(Tag tag)
 {
-    return qobject_cast<SplitView *>(CUI_ValidateViewKindOfClass(tag, u"NSSplitView"_s));
+    return qobject_cast<SplitViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSSplitView"_s));
 }
 
 } // namespace
 
-SplitView::SplitView(QWidget *parent) : QSplitter(parent)
+SplitViewSC::SplitViewSC(QWidget *parent) : QSplitter(parent)
 {
     setOpaqueResize(true);
     // The program is asked instead, each time.
     setChildrenCollapsible(false);
 }
 
-int SplitView::position(int divider) const
+int SplitViewSC::position(int divider) const
 {
     const QWidget *const bar = divider >= 0 && divider < count() - 1 ? handle(divider + 1) : nullptr;
     return !bar ? 0 : orientation() == Qt::Horizontal ? bar->x() : bar->y();
 }
 
-void SplitView::setPosition(int position, int divider)
+void SplitViewSC::setPosition(int position, int divider)
 {
     if (divider < 0 || divider >= count() - 1) {
         return;
     }
-    const QPointer<SplitView> guard(this);
+    const QPointer<SplitViewSC> guard(this);
     const Target target = constrained(position, divider);
     if (!guard || target.position == this->position(divider)) {
         return;
     }
-    CUI_SendObjectEvent(this, splitViewEventWillResizeSubviews);
+    sendObjectEvent(this, splitViewEventWillResizeSubviews);
     if (!guard || divider + 1 >= count()) {
         return;
     }
     move(target, divider);
-    CUI_SendObjectEvent(this, splitViewEventDidResizeSubviews);
+    sendObjectEvent(this, splitViewEventDidResizeSubviews);
     if (guard) {
         hideDividers();
     }
 }
 
-void SplitView::move(const Target &target, int divider)
+void SplitViewSC::move(const Target &target, int divider)
 {
     if (target.collapsing >= 0) {
         setCollapsible(target.collapsing, true);
@@ -86,9 +86,9 @@ void SplitView::move(const Target &target, int divider)
 }
 
 // Where the program lets the divider go; any answer when the view is gone.
-SplitView::Target SplitView::constrained(int position, int divider)
+SplitViewSC::Target SplitViewSC::constrained(int position, int divider)
 {
-    const QPointer<SplitView> guard(this);
+    const QPointer<SplitViewSC> guard(this);
     int least = 0;
     int most = 0;
     getRange(divider + 1, &least, &most);
@@ -102,9 +102,9 @@ SplitView::Target SplitView::constrained(int position, int divider)
     return guard ? collapsedOr(position, divider, least, most) : Target{};
 }
 
-SplitView::Target SplitView::collapsedOr(int position, int divider, int least, int most)
+SplitViewSC::Target SplitViewSC::collapsedOr(int position, int divider, int least, int most)
 {
-    const QPointer<SplitView> guard(this);
+    const QPointer<SplitViewSC> guard(this);
     const int before = edgeBefore(divider);
     const int after = edgeAfter(divider);
     const bool leading = position < (before + least) / 2;
@@ -119,28 +119,28 @@ SplitView::Target SplitView::collapsedOr(int position, int divider, int least, i
 }
 
 // Where the subview before a divider begins, and where the divider stands when the one behind it has no room.
-int SplitView::edgeBefore(int divider) const
+int SplitViewSC::edgeBefore(int divider) const
 {
     return divider == 0 ? 0 : position(divider - 1) + handleWidth();
 }
 
-int SplitView::edgeAfter(int divider) const
+int SplitViewSC::edgeAfter(int divider) const
 {
     const int length = orientation() == Qt::Horizontal ? width() : height();
     return (divider + 2 < count() ? position(divider + 1) : length) - handleWidth();
 }
 
-void SplitView::askAboutDividers()
+void SplitViewSC::askAboutDividers()
 {
-    const QPointer<SplitView> guard(this);
+    const QPointer<SplitViewSC> guard(this);
     CUI_DialogEventObj()->colorObj = m_dividerColor;
-    CUI_SendObjectEvent(this, splitViewEventDividerColor);
+    sendObjectEvent(this, splitViewEventDividerColor);
     if (!guard) {
         return;
     }
     m_dividerColor = CUI_DialogEventObj()->colorObj;
     CUI_DialogEventObj()->floatVal = float(handleWidth());
-    CUI_SendObjectEvent(this, splitViewEventDividerThickness);
+    sendObjectEvent(this, splitViewEventDividerThickness);
     if (guard) {
         const int thickness = wholePixels(CUI_DialogEventObj()->floatVal);
         if (thickness >= 0 && thickness != handleWidth()) {
@@ -152,9 +152,9 @@ void SplitView::askAboutDividers()
 }
 
 // Asked about the dividers that stand at an edge: hiding is what takes them out of the picture.
-void SplitView::hideDividers()
+void SplitViewSC::hideDividers()
 {
-    const QPointer<SplitView> guard(this);
+    const QPointer<SplitViewSC> guard(this);
     for (int divider = 0; guard && divider + 1 < count(); ++divider) {
         const bool atEdge = position(divider) <= edgeBefore(divider) || position(divider) >= edgeAfter(divider);
         const bool hides = atEdge && askAboutIndex(this, splitViewEventShouldHideDivider, divider);
@@ -164,30 +164,30 @@ void SplitView::hideDividers()
     }
 }
 
-QSplitterHandle *SplitView::createHandle()
+QSplitterHandle *SplitViewSC::createHandle()
 {
     return new SplitDivider(orientation(), this);
 }
 
-void SplitView::showEvent(QShowEvent *event)
+void SplitViewSC::showEvent(QShowEvent *event)
 {
     QSplitter::showEvent(event);
-    CUI_Soon(this, [this] { askAboutDividers(); });
+    callSoon(this, [this] { askAboutDividers(); });
 }
 
-void SplitView::resizeEvent(QResizeEvent * /*event*/)
+void SplitViewSC::resizeEvent(QResizeEvent * /*event*/)
 {
     if (!m_layOutIsQueued) {
         m_layOutIsQueued = true;
-        CUI_Soon(this, [this] { layOut(); });
+        callSoon(this, [this] { layOut(); });
     }
 }
 
-void SplitView::layOut()
+void SplitViewSC::layOut()
 {
     m_layOutIsQueued = false;
-    const QPointer<SplitView> guard(this);
-    CUI_SendObjectEvent(this, splitViewEventWillResizeSubviews);
+    const QPointer<SplitViewSC> guard(this);
+    sendObjectEvent(this, splitViewEventWillResizeSubviews);
     // With no subview that may, all of them change.
     for (int index = 0; guard && index < count(); ++index) {
         const bool adjusts = askAboutIndex(this, splitViewEventShouldAdjustSizeOfSubview, index);
@@ -200,7 +200,7 @@ void SplitView::layOut()
     }
     QResizeEvent resized(size(), size());
     QSplitter::resizeEvent(&resized);
-    CUI_SendObjectEvent(this, splitViewEventDidResizeSubviews);
+    sendObjectEvent(this, splitViewEventDidResizeSubviews);
     if (guard) {
         hideDividers();
     }
@@ -208,14 +208,14 @@ void SplitView::layOut()
 
 void CUI_SplitView(Tag tag, Qt::Orientation orientation, const QRectF &rect)
 {
-    if (auto *const view = CUI_StatementView<SplitView>(tag, rect, [](SplitView *) {})) {
+    if (auto *const view = statementView<SplitViewSC>(tag, rect, [](SplitViewSC *) {})) {
         view->setOrientation(orientation);
     }
 }
 
 void SplitViewAddSubview(Tag tag, Tag subview)
 {
-    SplitView *const view = splitViewWithTag(tag);
+    SplitViewSC *const view = splitViewWithTag(tag);
     QWidget *const added = view ? CUI_ValidateViewKindOfClass(subview, u"NSView"_s) : nullptr;
     if (added && added != view && !added->isAncestorOf(view)) {
         view->addWidget(added);
@@ -224,7 +224,7 @@ void SplitViewAddSubview(Tag tag, Tag subview)
 
 void SplitViewSetPosition(Tag tag, qint64 position, qint64 divider)
 {
-    if (SplitView *const view = splitViewWithTag(tag)) {
+    if (SplitViewSC *const view = splitViewWithTag(tag)) {
         view->setPosition(saturatedTo<int>(position), saturatedTo<int>(divider));
     }
 }

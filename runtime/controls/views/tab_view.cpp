@@ -1,9 +1,9 @@
 #include <tetrad/controls/tab_view.h>
 
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/statements/view_statement.h"
 #include "runtime/strings/saturate.h"
-#include <tetrad/controls/event_site.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_statement.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -15,18 +15,18 @@ namespace tetrad {
 
 using namespace Qt::StringLiterals;
 
-TabView::TabView(QWidget *parent) : QTabWidget(parent)
+TabViewSC::TabViewSC(QWidget *parent) : QTabWidget(parent)
 {
     setTabBar(new TabViewBar(this));
-    connect(this, &QTabWidget::currentChanged, this, &TabView::reportSelection);
+    connect(this, &QTabWidget::currentChanged, this, &TabViewSC::reportSelection);
 }
 
-void TabView::selectIfAllowed(int index)
+void TabViewSC::selectIfAllowed(int index)
 {
     if (index < 0 || index >= count() || index == currentIndex()) {
         return;
     }
-    const QPointer<TabView> guard(this);
+    const QPointer<TabViewSC> guard(this);
     if (!CUI_TabViewDelegateObj()->tabViewShouldSelectTabViewItem(this, index) || !guard) {
         return;
     }
@@ -36,7 +36,7 @@ void TabView::selectIfAllowed(int index)
     }
 }
 
-void TabView::keyPressEvent(QKeyEvent *event)
+void TabViewSC::keyPressEvent(QKeyEvent *event)
 {
     const bool back = event->key() == Qt::Key_Backtab;
     if ((back || event->key() == Qt::Key_Tab) && event->modifiers() & Qt::ControlModifier && count() > 0) {
@@ -46,20 +46,20 @@ void TabView::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void TabView::tabInserted(int /*index*/)
+void TabViewSC::tabInserted(int /*index*/)
 {
-    CUI_Soon(this, [this] { CUI_TabViewDelegateObj()->tabViewDidChangeNumberOfTabViewItems(this); });
+    callSoon(this, [this] { CUI_TabViewDelegateObj()->tabViewDidChangeNumberOfTabViewItems(this); });
 }
 
-void TabView::tabRemoved(int index)
+void TabViewSC::tabRemoved(int index)
 {
     tabInserted(index);
 }
 
-void TabView::reportSelection(int index)
+void TabViewSC::reportSelection(int index)
 {
     if (const QPointer<QWidget> page = widget(index)) {
-        CUI_Soon(this, [this, page] {
+        callSoon(this, [this, page] {
             if (const int now = indexOf(page); now >= 0) {
                 CUI_TabViewDelegateObj()->tabViewDidSelectTabViewItem(this, now);
             }
@@ -67,7 +67,7 @@ void TabView::reportSelection(int index)
     }
 }
 
-TabViewBar::TabViewBar(TabView *tabView) : QTabBar(tabView), m_tabView(tabView) {}
+TabViewBar::TabViewBar(TabViewSC *tabView) : QTabBar(tabView), m_tabView(tabView) {}
 
 void TabViewBar::mousePressEvent(QMouseEvent *event)
 {
@@ -116,36 +116,36 @@ CUI_TabViewDelegate *CUI_TabViewDelegateObj()
     return delegate;
 }
 
-void CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TabView *tabView, qint64 event, Tag object)
+void CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object)
 {
-    CUI_SendObjectEvent(tabView, event, object);
+    sendObjectEvent(tabView, event, object);
 }
 
-void CUI_TabViewDelegate::callWithItem(TabView *tabView, qint64 event, int index)
+void CUI_TabViewDelegate::callWithItem(TabViewSC *tabView, qint64 event, int index)
 {
     CUI_DialogEventObj()->longVal = index;
     CUI_DialogEventObj()->stringObj = tabView->tabText(index).replace(u"&&"_s, u"&"_s);
     callUserDefinedOnDialogFunctionWithEvent(tabView, event, tagFromObject(tabView->widget(index)));
 }
 
-bool CUI_TabViewDelegate::tabViewShouldSelectTabViewItem(TabView *tabView, int index)
+bool CUI_TabViewDelegate::tabViewShouldSelectTabViewItem(TabViewSC *tabView, int index)
 {
     CUI_DialogEventObj()->boolVal = false;
     callWithItem(tabView, tabViewEventRefuseSelect, index);
     return !CUI_DialogEventObj()->boolVal;
 }
 
-void CUI_TabViewDelegate::tabViewWillSelectTabViewItem(TabView *tabView, int index)
+void CUI_TabViewDelegate::tabViewWillSelectTabViewItem(TabViewSC *tabView, int index)
 {
     callWithItem(tabView, tabViewEventWillSelect, index);
 }
 
-void CUI_TabViewDelegate::tabViewDidSelectTabViewItem(TabView *tabView, int index)
+void CUI_TabViewDelegate::tabViewDidSelectTabViewItem(TabViewSC *tabView, int index)
 {
     callWithItem(tabView, tabViewEventDidSelect, index);
 }
 
-void CUI_TabViewDelegate::tabViewDidChangeNumberOfTabViewItems(TabView *tabView)
+void CUI_TabViewDelegate::tabViewDidChangeNumberOfTabViewItems(TabViewSC *tabView)
 {
     CUI_DialogEventObj()->longVal = tabView->count();
     callUserDefinedOnDialogFunctionWithEvent(tabView, tabViewEventDidChangeCount, 0);
@@ -159,16 +159,16 @@ QString plainLabel(QString label)
     return label.replace(u'&', u"&&"_s);
 }
 
-TabView *tabViewWithTag(Tag tag)
+TabViewSC *tabViewWithTag(Tag tag)
 {
-    return qobject_cast<TabView *>(CUI_ValidateViewKindOfClass(tag, u"NSTabView"_s));
+    return qobject_cast<TabViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTabView"_s));
 }
 
 } // namespace
 
 void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
 {
-    auto *const view = CUI_StatementView<TabView>(tag, rect, [](TabView *) {});
+    auto *const view = statementView<TabViewSC>(tag, rect, [](TabViewSC *) {});
     for (int index = 0; view && index < labels.size(); ++index) {
         if (index < view->count()) {
             view->setTabText(index, plainLabel(labels.at(index)));
@@ -180,19 +180,19 @@ void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
 
 QWidget *TabViewPage(Tag tag, qint64 index)
 {
-    const TabView *const view = tabViewWithTag(tag);
+    const TabViewSC *const view = tabViewWithTag(tag);
     return view ? view->widget(saturatedTo<int>(index)) : nullptr;
 }
 
 qint64 TabViewSelectedIndex(Tag tag)
 {
-    const TabView *const view = tabViewWithTag(tag);
+    const TabViewSC *const view = tabViewWithTag(tag);
     return view ? view->currentIndex() : -1;
 }
 
 void TabViewSelectIndex(Tag tag, qint64 index)
 {
-    if (TabView *const view = tabViewWithTag(tag)) {
+    if (TabViewSC *const view = tabViewWithTag(tag)) {
         view->setCurrentIndex(saturatedTo<int>(index));
     }
 }

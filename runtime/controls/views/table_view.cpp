@@ -1,10 +1,10 @@
 #include <tetrad/controls/table_view.h>
 
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/statements/view_statement.h"
 #include "runtime/controls/views/item_view_keys.h"
 #include "runtime/controls/views/pixel_answer.h"
-#include <tetrad/controls/event_site.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_statement.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -21,28 +21,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TableView *tableViewWithTag(Tag tag)
+TableViewSC *tableViewWithTag(Tag tag)
 {
-    return qobject_cast<TableView *>(CUI_ValidateViewKindOfClass(tag, u"NSTableView"_s));
+    return qobject_cast<TableViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTableView"_s));
 }
 
 } // namespace
 
-TableView::TableView(QWidget *parent) : QTableWidget(parent)
+TableViewSC::TableViewSC(QWidget *parent) : QTableWidget(parent)
 {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
-        CUI_Soon(this, [this, column] { CUI_TableViewDelegateObj()->tableViewDidClickTableColumn(this, column); });
+        callSoon(this, [this, column] { CUI_TableViewDelegateObj()->tableViewDidClickTableColumn(this, column); });
     });
-    connect(this, &QTableWidget::cellChanged, this, &TableView::reportEdit);
+    connect(this, &QTableWidget::cellChanged, this, &TableViewSC::reportEdit);
 }
 
-void TableView::reloadData()
+void TableViewSC::reloadData()
 {
-    const QPointer<TableView> guard(this);
+    const QPointer<TableViewSC> guard(this);
     const int rows = CUI_TableViewDelegateObj()->numberOfRowsInTableView(this);
     if (guard) {
         setRowCount(rows);
@@ -55,9 +55,9 @@ void TableView::reloadData()
     }
 }
 
-void TableView::reloadHeader(int column)
+void TableViewSC::reloadHeader(int column)
 {
-    const QPointer<TableView> guard(this);
+    const QPointer<TableViewSC> guard(this);
     const QFont font = CUI_TableViewDelegateObj()->tableHeaderFont(this, column);
     const QColor color = guard ? CUI_TableViewDelegateObj()->tableHeaderTextColor(this, column) : QColor();
     if (QTableWidgetItem *const item = guard ? horizontalHeaderItem(column) : nullptr) {
@@ -66,10 +66,10 @@ void TableView::reloadHeader(int column)
     }
 }
 
-void TableView::reloadRow(int row)
+void TableViewSC::reloadRow(int row)
 {
     CUI_TableViewDelegate *const delegate = CUI_TableViewDelegateObj();
-    const QPointer<TableView> guard(this);
+    const QPointer<TableViewSC> guard(this);
     const double height = delegate->tableViewHeightOfRow(this, row);
     if (guard) {
         setRowHeight(row, wholePixels(height));
@@ -93,7 +93,7 @@ void TableView::reloadRow(int row)
     }
 }
 
-void TableView::paintEvent(QPaintEvent *event)
+void TableViewSC::paintEvent(QPaintEvent *event)
 {
     for (int row = std::max(0, rowAt(0)); row < rowCount() && rowViewportPosition(row) < viewport()->height(); ++row) {
         TableRowViewSC(this, row).drawBackground();
@@ -103,21 +103,21 @@ void TableView::paintEvent(QPaintEvent *event)
 
 // Whether the row may become the current one; false also when the question was answered by deleting
 // the view.
-bool TableView::maySelect(int row)
+bool TableViewSC::maySelect(int row)
 {
-    const QPointer<TableView> guard(this);
+    const QPointer<TableViewSC> guard(this);
     return row < 0 || selectionModel()->isRowSelected(row, QModelIndex()) ||
            (CUI_TableViewDelegateObj()->tableViewShouldSelectRow(this, row) && guard);
 }
 
-void TableView::mousePressEvent(QMouseEvent *event)
+void TableViewSC::mousePressEvent(QMouseEvent *event)
 {
     if (maySelect(rowAt(event->position().toPoint().y()))) {
         QTableWidget::mousePressEvent(event);
     }
 }
 
-void TableView::keyPressEvent(QKeyEvent *event)
+void TableViewSC::keyPressEvent(QKeyEvent *event)
 {
     const int action = itemViewCursorAction(event);
     if (action >= 0) {
@@ -133,19 +133,19 @@ void TableView::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void TableView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+void TableViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTableWidget::selectionChanged(selected, deselected);
-    CUI_Soon(this, [this] { CUI_TableViewDelegateObj()->tableViewSelectionDidChange(this); });
+    callSoon(this, [this] { CUI_TableViewDelegateObj()->tableViewSelectionDidChange(this); });
 }
 
-void TableView::reportEdit(int row, int column)
+void TableViewSC::reportEdit(int row, int column)
 {
     if (m_isReloading) {
         return;
     }
     const QVariant value = item(row, column)->data(Qt::EditRole);
-    CUI_Soon(this, [this, value, row, column] {
+    callSoon(this, [this, value, row, column] {
         CUI_TableViewDelegateObj()->tableViewSetObjectValue(this, value, row, column);
     });
 }
@@ -157,9 +157,9 @@ CUI_TableViewDelegate *CUI_TableViewDelegateObj()
     return delegate;
 }
 
-qint64 CUI_TableViewDelegate::forwardEvent(TableView *tableView, qint64 event, Tag object)
+qint64 CUI_TableViewDelegate::forwardEvent(TableViewSC *tableView, qint64 event, Tag object)
 {
-    return CUI_ForwardDelegateEvent(tableView, event, object);
+    return forwardDelegateEvent(tableView, event, object);
 }
 
 namespace {
@@ -174,35 +174,35 @@ CUI_DialogEvent *recordOfCell(int row, int column)
 
 } // namespace
 
-int CUI_TableViewDelegate::numberOfRowsInTableView(TableView *tableView)
+int CUI_TableViewDelegate::numberOfRowsInTableView(TableViewSC *tableView)
 {
     CUI_DialogEventObj()->longVal = 0;
     forwardEvent(tableView, tableViewEventRowCount, 0);
     return int(std::clamp<qint64>(CUI_DialogEventObj()->longVal, 0, std::numeric_limits<int>::max()));
 }
 
-QVariant CUI_TableViewDelegate::tableViewObjectValue(TableView *tableView, int row, int column)
+QVariant CUI_TableViewDelegate::tableViewObjectValue(TableViewSC *tableView, int row, int column)
 {
     recordOfCell(row, column)->object = QVariant();
     forwardEvent(tableView, tableViewEventValue, 0);
     return CUI_DialogEventObj()->object;
 }
 
-bool CUI_TableViewDelegate::tableViewShouldEdit(TableView *tableView, int row, int column)
+bool CUI_TableViewDelegate::tableViewShouldEdit(TableViewSC *tableView, int row, int column)
 {
     recordOfCell(row, column)->boolVal = false;
     forwardEvent(tableView, tableViewEventShouldEdit, 0);
     return CUI_DialogEventObj()->boolVal;
 }
 
-QWidget *CUI_TableViewDelegate::tableViewViewForCell(TableView *tableView, int row, int column)
+QWidget *CUI_TableViewDelegate::tableViewViewForCell(TableViewSC *tableView, int row, int column)
 {
     recordOfCell(row, column)->viewObj = nullptr;
     forwardEvent(tableView, tableViewEventViewForCell, 0);
     return qobject_cast<QWidget *>(CUI_DialogEventObj()->viewObj);
 }
 
-double CUI_TableViewDelegate::tableViewHeightOfRow(TableView *tableView, int row)
+double CUI_TableViewDelegate::tableViewHeightOfRow(TableViewSC *tableView, int row)
 {
     CUI_DialogEventObj()->longVal = row;
     CUI_DialogEventObj()->doubleVal = tableView->rowHeight(row);
@@ -210,7 +210,7 @@ double CUI_TableViewDelegate::tableViewHeightOfRow(TableView *tableView, int row
     return CUI_DialogEventObj()->doubleVal;
 }
 
-bool CUI_TableViewDelegate::tableViewShouldSelectRow(TableView *tableView, int row)
+bool CUI_TableViewDelegate::tableViewShouldSelectRow(TableViewSC *tableView, int row)
 {
     CUI_DialogEventObj()->longVal = row;
     CUI_DialogEventObj()->boolVal = false;
@@ -218,25 +218,25 @@ bool CUI_TableViewDelegate::tableViewShouldSelectRow(TableView *tableView, int r
     return !CUI_DialogEventObj()->boolVal;
 }
 
-void CUI_TableViewDelegate::tableViewSetObjectValue(TableView *tableView, const QVariant &value, int row, int column)
+void CUI_TableViewDelegate::tableViewSetObjectValue(TableViewSC *tableView, const QVariant &value, int row, int column)
 {
     recordOfCell(row, column)->object = value;
     forwardEvent(tableView, tableViewEventDidEdit, 0);
 }
 
-void CUI_TableViewDelegate::tableViewSelectionDidChange(TableView *tableView)
+void CUI_TableViewDelegate::tableViewSelectionDidChange(TableViewSC *tableView)
 {
     CUI_DialogEventObj()->longVal = tableView->selectedItems().isEmpty() ? -1 : tableView->currentRow();
     forwardEvent(tableView, tableViewEventSelectionChanged, 0);
 }
 
-void CUI_TableViewDelegate::tableViewDidClickTableColumn(TableView *tableView, int column)
+void CUI_TableViewDelegate::tableViewDidClickTableColumn(TableViewSC *tableView, int column)
 {
     CUI_DialogEventObj()->tableColumnObj = column;
     forwardEvent(tableView, tableViewEventColumnClicked, 0);
 }
 
-QFont CUI_TableViewDelegate::tableHeaderFont(TableView *tableView, int column)
+QFont CUI_TableViewDelegate::tableHeaderFont(TableViewSC *tableView, int column)
 {
     CUI_DialogEventObj()->tableColumnObj = column;
     CUI_DialogEventObj()->fontObj = tableView->horizontalHeader()->font();
@@ -244,7 +244,7 @@ QFont CUI_TableViewDelegate::tableHeaderFont(TableView *tableView, int column)
     return CUI_DialogEventObj()->fontObj;
 }
 
-QColor CUI_TableViewDelegate::tableHeaderTextColor(TableView *tableView, int column)
+QColor CUI_TableViewDelegate::tableHeaderTextColor(TableViewSC *tableView, int column)
 {
     CUI_DialogEventObj()->tableColumnObj = column;
     CUI_DialogEventObj()->colorObj = tableView->palette().color(QPalette::ButtonText);
@@ -269,8 +269,8 @@ void TableRowViewSC::drawBackground()
 
 void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect)
 {
-    auto *const view = CUI_StatementView<TableView>(
-        tag, rect, [](TableView *made) { CUI_Soon(made, [made] { made->reloadData(); }); });
+    auto *const view = statementView<TableViewSC>(
+        tag, rect, [](TableViewSC *made) { callSoon(made, [made] { made->reloadData(); }); });
     if (view && !columns.isEmpty()) {
         view->setColumnCount(int(columns.size()));
         view->setHorizontalHeaderLabels(columns);
@@ -279,14 +279,14 @@ void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect)
 
 void TableViewReloadData(Tag tag)
 {
-    if (TableView *const view = tableViewWithTag(tag)) {
+    if (TableViewSC *const view = tableViewWithTag(tag)) {
         view->reloadData();
     }
 }
 
 qint64 TableViewSelectedRow(Tag tag)
 {
-    const TableView *const view = tableViewWithTag(tag);
+    const TableViewSC *const view = tableViewWithTag(tag);
     return view && !view->selectedItems().isEmpty() ? view->currentRow() : -1;
 }
 

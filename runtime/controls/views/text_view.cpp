@@ -1,8 +1,8 @@
 #include <tetrad/controls/text_view.h>
 
-#include <tetrad/controls/event_site.h>
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/statements/view_statement.h"
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_statement.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -68,28 +68,28 @@ QString typedBy(const QKeyEvent *event)
 
 } // namespace
 
-TextView::TextView(QWidget *parent) : QPlainTextEdit(parent)
+TextViewSC::TextViewSC(QWidget *parent) : QPlainTextEdit(parent)
 {
     connect(this, &QPlainTextEdit::textChanged, this, [this] { tellSoon(textViewEventDidChange); });
     connect(this, &QPlainTextEdit::selectionChanged, this,
-            [this] { CUI_Soon(this, [this] { CUI_TextViewDelegateObj()->textViewDidChangeSelection(this); }); });
+            [this] { callSoon(this, [this] { CUI_TextViewDelegateObj()->textViewDidChangeSelection(this); }); });
 }
 
-void TextView::cut()
+void TextViewSC::cut()
 {
     if (textCursor().hasSelection() && mayReplace(textCursor(), QString())) {
         QPlainTextEdit::cut();
     }
 }
 
-void TextView::del()
+void TextViewSC::del()
 {
     if (textCursor().hasSelection() && mayReplace(textCursor(), QString())) {
         textCursor().removeSelectedText();
     }
 }
 
-void TextView::keyPressEvent(QKeyEvent *event)
+void TextViewSC::keyPressEvent(QKeyEvent *event)
 {
     if (isReadOnly()) {
         QPlainTextEdit::keyPressEvent(event);
@@ -107,14 +107,14 @@ void TextView::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void TextView::inputMethodEvent(QInputMethodEvent *event)
+void TextViewSC::inputMethodEvent(QInputMethodEvent *event)
 {
     if (event->commitString().isEmpty() || mayReplace(textCursor(), event->commitString())) {
         QPlainTextEdit::inputMethodEvent(event);
     }
 }
 
-void TextView::insertFromMimeData(const QMimeData *source)
+void TextViewSC::insertFromMimeData(const QMimeData *source)
 {
     // The question may take its time, and the data is the clipboard's.
     const QString text = source->text();
@@ -124,46 +124,46 @@ void TextView::insertFromMimeData(const QMimeData *source)
     }
 }
 
-void TextView::contextMenuEvent(QContextMenuEvent *event)
+void TextViewSC::contextMenuEvent(QContextMenuEvent *event)
 {
     QMenu *const menu = createStandardContextMenu(event->pos());
     menu->setAttribute(Qt::WA_DeleteOnClose);
     // The menu's own cutting and deleting would not ask.
-    const auto redirect = [this, menu](const QString &name, void (TextView::*slot)()) {
+    const auto redirect = [this, menu](const QString &name, void (TextViewSC::*slot)()) {
         if (auto *const action = menu->findChild<QAction *>(name)) {
             action->disconnect(SIGNAL(triggered(bool)));
             connect(action, &QAction::triggered, this, slot);
         }
     };
-    redirect(u"edit-cut"_s, &TextView::cut);
-    redirect(u"edit-delete"_s, &TextView::del);
+    redirect(u"edit-cut"_s, &TextViewSC::cut);
+    redirect(u"edit-delete"_s, &TextViewSC::del);
     menu->popup(event->globalPos());
 }
 
-void TextView::focusInEvent(QFocusEvent *event)
+void TextViewSC::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
     tellSoon(textViewEventDidBeginEditing);
 }
 
-void TextView::focusOutEvent(QFocusEvent *event)
+void TextViewSC::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
     tellSoon(textViewEventDidEndEditing);
 }
 
 // False also when the question was answered by deleting the view.
-bool TextView::mayReplace(const QTextCursor &replaced, const QString &text)
+bool TextViewSC::mayReplace(const QTextCursor &replaced, const QString &text)
 {
-    const QPointer<TextView> guard(this);
+    const QPointer<TextViewSC> guard(this);
     const int location = replaced.selectionStart();
     const int length = replaced.selectionEnd() - location;
     return CUI_TextViewDelegateObj()->textViewShouldChangeText(this, location, length, text) && guard;
 }
 
-void TextView::tellSoon(qint64 event)
+void TextViewSC::tellSoon(qint64 event)
 {
-    CUI_Soon(this, [this, event] {
+    callSoon(this, [this, event] {
         CUI_TextViewDelegateObj()->callUserDefinedOnDialogFunctionWithEvent(this, event, tagFromObject(this));
     });
 }
@@ -175,12 +175,12 @@ CUI_TextViewDelegate *CUI_TextViewDelegateObj()
     return delegate;
 }
 
-void CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TextView *textView, qint64 event, Tag object)
+void CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object)
 {
-    CUI_SendObjectEvent(textView, event, object);
+    sendObjectEvent(textView, event, object);
 }
 
-bool CUI_TextViewDelegate::textViewShouldChangeText(TextView *textView, int location, int length,
+bool CUI_TextViewDelegate::textViewShouldChangeText(TextViewSC *textView, int location, int length,
                                                     const QString &replacement)
 {
     CUI_DialogEvent *const record = CUI_DialogEventObj();
@@ -191,7 +191,7 @@ bool CUI_TextViewDelegate::textViewShouldChangeText(TextView *textView, int loca
     return !record->boolVal;
 }
 
-void CUI_TextViewDelegate::textViewDidChangeSelection(TextView *textView)
+void CUI_TextViewDelegate::textViewDidChangeSelection(TextViewSC *textView)
 {
     const QTextCursor cursor = textView->textCursor();
     CUI_DialogEventObj()->rangeVal = {quint64(cursor.selectionStart()),
@@ -201,16 +201,16 @@ void CUI_TextViewDelegate::textViewDidChangeSelection(TextView *textView)
 
 namespace {
 
-TextView *textViewWithTag(Tag tag)
+TextViewSC *textViewWithTag(Tag tag)
 {
-    return qobject_cast<TextView *>(CUI_ValidateViewKindOfClass(tag, u"NSTextView"_s));
+    return qobject_cast<TextViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTextView"_s));
 }
 
 } // namespace
 
 void CUI_TextView(Tag tag, const QString &text, const QRectF &rect)
 {
-    auto *const view = CUI_StatementView<TextView>(tag, rect, [](TextView *) {});
+    auto *const view = statementView<TextViewSC>(tag, rect, [](TextViewSC *) {});
     if (view && !text.isNull()) {
         view->setPlainText(text);
     }
@@ -218,7 +218,7 @@ void CUI_TextView(Tag tag, const QString &text, const QRectF &rect)
 
 QString TextViewString(Tag tag)
 {
-    const TextView *const view = textViewWithTag(tag);
+    const TextViewSC *const view = textViewWithTag(tag);
     return view ? view->toPlainText() : QString();
 }
 

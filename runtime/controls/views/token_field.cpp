@@ -1,9 +1,9 @@
 #include <tetrad/controls/token_field.h>
 
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/statements/view_statement.h"
 #include <tetrad/controls/control_target.h>
-#include <tetrad/controls/event_site.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/view_statement.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
@@ -37,34 +37,34 @@ QStringList wordsOf(const QString &text)
 
 } // namespace
 
-TokenField::TokenField(QWidget *parent) : QLineEdit(parent)
+TokenFieldSC::TokenFieldSC(QWidget *parent) : QLineEdit(parent)
 {
     m_completions = new QStringListModel(this);
     m_completer = new QCompleter(m_completions, this);
     // The program's list is shown as it is.
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setWidget(this);
-    connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this, &TokenField::complete);
-    connect(this, &QLineEdit::textEdited, this, [this] { CUI_Soon(this, [this] { textWasEdited(); }); });
-    connect(this, &QLineEdit::returnPressed, this, [this] { CUI_Soon(this, [this] { finishEditing(); }); });
+    connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this, &TokenFieldSC::complete);
+    connect(this, &QLineEdit::textEdited, this, [this] { callSoon(this, [this] { textWasEdited(); }); });
+    connect(this, &QLineEdit::returnPressed, this, [this] { callSoon(this, [this] { finishEditing(); }); });
 }
 
-void TokenField::setTokens(const QStringList &tokens)
+void TokenFieldSC::setTokens(const QStringList &tokens)
 {
     m_tokens = tokens;
     setText(tokens.isEmpty() ? QString() : QString(tokens.join(separator()) + separator()));
 }
 
-void TokenField::focusOutEvent(QFocusEvent *event)
+void TokenFieldSC::focusOutEvent(QFocusEvent *event)
 {
     QLineEdit::focusOutEvent(event);
     // The list of completions takes the keyboard too, and the word goes on.
     if (event->reason() != Qt::PopupFocusReason) {
-        CUI_Soon(this, [this] { finishTokens(); });
+        callSoon(this, [this] { finishTokens(); });
     }
 }
 
-void TokenField::textWasEdited()
+void TokenFieldSC::textWasEdited()
 {
     if (text().endsWith(u',')) {
         finishTokens();
@@ -73,17 +73,17 @@ void TokenField::textWasEdited()
     }
 }
 
-void TokenField::finishEditing()
+void TokenFieldSC::finishEditing()
 {
-    const QPointer<TokenField> guard(this);
+    const QPointer<TokenFieldSC> guard(this);
     finishTokens();
     if (guard) {
-        CUI_ControlSendAction(this);
+        sendControlAction(this);
     }
 }
 
 // Only words that were not there before are asked about.
-void TokenField::finishTokens()
+void TokenFieldSC::finishTokens()
 {
     QStringList kept;
     QStringList added;
@@ -91,7 +91,7 @@ void TokenField::finishTokens()
     for (const QString &word : wordsOf(text())) {
         (before.removeOne(word) ? kept : added) << word;
     }
-    const QPointer<TokenField> guard(this);
+    const QPointer<TokenFieldSC> guard(this);
     if (!added.isEmpty()) {
         added = CUI_TokenFieldDelegateObj()->tokenFieldShouldAddTokens(this, added);
     }
@@ -106,10 +106,10 @@ void TokenField::finishTokens()
     }
 }
 
-void TokenField::offerCompletions()
+void TokenFieldSC::offerCompletions()
 {
     const QString word = wordBeingTyped();
-    const QPointer<TokenField> guard(this);
+    const QPointer<TokenFieldSC> guard(this);
     const QStringList offers =
         word.isEmpty() ? QStringList() : CUI_TokenFieldDelegateObj()->tokenFieldCompletionsForSubstring(this, word);
     if (!guard) {
@@ -123,13 +123,13 @@ void TokenField::offerCompletions()
     }
 }
 
-void TokenField::complete(const QString &completion)
+void TokenFieldSC::complete(const QString &completion)
 {
     setText(text().chopped(wordBeingTyped().size()) + completion + u',');
-    CUI_Soon(this, [this] { finishTokens(); });
+    callSoon(this, [this] { finishTokens(); });
 }
 
-QString TokenField::wordBeingTyped() const
+QString TokenFieldSC::wordBeingTyped() const
 {
     const QString word = text().section(u',', -1);
     return word.startsWith(u' ') ? word.mid(1) : word;
@@ -142,12 +142,13 @@ CUI_TokenFieldDelegate *CUI_TokenFieldDelegateObj()
     return delegate;
 }
 
-qint64 CUI_TokenFieldDelegate::forwardEvent(TokenField *tokenField, qint64 event, Tag object)
+qint64 CUI_TokenFieldDelegate::forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object)
 {
-    return CUI_ForwardDelegateEvent(tokenField, event, object);
+    return forwardDelegateEvent(tokenField, event, object);
 }
 
-QStringList CUI_TokenFieldDelegate::tokenFieldCompletionsForSubstring(TokenField *tokenField, const QString &substring)
+QStringList CUI_TokenFieldDelegate::tokenFieldCompletionsForSubstring(TokenFieldSC *tokenField,
+                                                                      const QString &substring)
 {
     CUI_DialogEventObj()->stringObj = substring;
     CUI_DialogEventObj()->arrayObj.clear();
@@ -155,14 +156,14 @@ QStringList CUI_TokenFieldDelegate::tokenFieldCompletionsForSubstring(TokenField
     return QVariant(CUI_DialogEventObj()->arrayObj).toStringList();
 }
 
-QStringList CUI_TokenFieldDelegate::tokenFieldShouldAddTokens(TokenField *tokenField, const QStringList &tokens)
+QStringList CUI_TokenFieldDelegate::tokenFieldShouldAddTokens(TokenFieldSC *tokenField, const QStringList &tokens)
 {
     CUI_DialogEventObj()->arrayObj = QVariant(tokens).toList();
     forwardEvent(tokenField, tokenFieldEventAddTokens, tagFromObject(tokenField));
     return QVariant(CUI_DialogEventObj()->arrayObj).toStringList();
 }
 
-void CUI_TokenFieldDelegate::tokenFieldDidChange(TokenField *tokenField)
+void CUI_TokenFieldDelegate::tokenFieldDidChange(TokenFieldSC *tokenField)
 {
     CUI_DialogEventObj()->arrayObj = QVariant(tokenField->tokens()).toList();
     forwardEvent(tokenField, tokenFieldEventDidChange, tagFromObject(tokenField));
@@ -170,7 +171,7 @@ void CUI_TokenFieldDelegate::tokenFieldDidChange(TokenField *tokenField)
 
 void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect)
 {
-    auto *const field = CUI_StatementView<TokenField>(tag, rect, [](TokenField *) {});
+    auto *const field = statementView<TokenFieldSC>(tag, rect, [](TokenFieldSC *) {});
     if (field && !tokens.isEmpty()) {
         field->setTokens(tokens);
     }
@@ -178,7 +179,7 @@ void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect)
 
 QStringList TokenFieldTokens(Tag tag)
 {
-    const auto *const field = qobject_cast<TokenField *>(CUI_ValidateViewKindOfClass(tag, u"NSTokenField"_s));
+    const auto *const field = qobject_cast<TokenFieldSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTokenField"_s));
     return field ? field->tokens() : QStringList();
 }
 

@@ -1,8 +1,8 @@
 #include <tetrad/controls/view_sc.h>
 
+#include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/dispatch/view_events_relay.h"
-#include <tetrad/controls/event_site.h>
-#include <tetrad/controls/view_statement.h>
+#include "runtime/controls/statements/view_statement.h"
 
 #include <QContextMenuEvent>
 #include <QFocusEvent>
@@ -62,11 +62,11 @@ bool ViewSC::event(QEvent *event)
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::Resize:
-        CUI_Soon(this, [this] { CUI_ViewSubclassResetCursorRects(this); });
+        callSoon(this, [this] { CUI_ViewSubclassResetCursorRects(this); });
         return QWidget::event(event);
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
-        CUI_Soon(this, [this] { CUI_ViewSubclassAppearanceChanged(this); });
+        callSoon(this, [this] { CUI_ViewSubclassAppearanceChanged(this); });
         return QWidget::event(event);
     case QEvent::Enter:
     case QEvent::Leave:
@@ -84,7 +84,7 @@ bool ViewSC::event(QEvent *event)
 void ViewSC::reportSoon(const QEvent *event)
 {
     const std::shared_ptr<QEvent> copy(event->clone());
-    CUI_Soon(this, [this, copy] { CUI_ViewSubclassEvent(this, copy.get()); });
+    callSoon(this, [this, copy] { CUI_ViewSubclassEvent(this, copy.get()); });
 }
 
 bool ViewSC::survivesFocusQuestion()
@@ -113,13 +113,13 @@ void ViewSC::focusInEvent(QFocusEvent *event)
         return;
     }
     if (isPassingOn && searchStart == this) {
-        CUI_Soon(this, [this] { clearFocus(); });
+        callSoon(this, [this] { clearFocus(); });
         return;
     }
     if (!isPassingOn) {
         searchStart = this;
     }
-    CUI_Soon(this, [this, forward = event->reason() != Qt::BacktabFocusReason] { confirmFocus(forward); });
+    callSoon(this, [this, forward = event->reason() != Qt::BacktabFocusReason] { confirmFocus(forward); });
 }
 
 void ViewSC::confirmFocus(bool forward)
@@ -170,7 +170,7 @@ void ViewSC::dropEvent(QDropEvent *event)
 
 void CUI_ViewSubclass(Tag tag, const QRectF &rect)
 {
-    CUI_StatementView<ViewSC>(tag, rect, [](ViewSC *) {});
+    statementView<ViewSC>(tag, rect, [](ViewSC *) {});
 }
 
 } // namespace tetrad

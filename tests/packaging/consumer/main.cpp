@@ -1,10 +1,4 @@
-#include <tetrad/app/application.h>
-#include <tetrad/app/dump.h>
-#include <tetrad/app/run_time_stop.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/input/line_input.h>
-#include <tetrad/strings/not_given.h>
+#include <tetrad/tetrad.h>
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,13 +1,8 @@
 #pragma once
 
-class QEvent;
+#include <tetrad/events/dialog_event.h>
 
 namespace tetrad {
-
-/// The platform event whose callback is running, or null. Not owned, and valid only until that
-/// callback returns.
-QEvent *CUI_EventEvent();
-void CUI_EventSetEvent(QEvent *event);
 
 /// Makes an event the current one for a scope; the one before it is current again afterwards, since a
 /// callback may run a modal loop in which other events arrive.

@@ -7,6 +7,18 @@
 
 namespace tetrad {
 
+class Popover;
+
+/// Makes a popover tell the dialog function when it shows, closes and detaches (codes 1300 to 1307, with the popover's
+/// tag as both tags); once is enough, and every popover that the statement makes does. Whether it may close and
+/// whether it may be dragged off its place is asked only of one that was told to ask, because the
+/// preset answer to both is no.
+void reportPopoverEvents(Popover *popover);
+
+/// Whether the program answers the popover's questions; false at first.
+bool popoverAsks(const Popover *popover);
+void setPopoverAsks(Popover *popover, bool asks);
+
 /// The popover statement: makes the popover |tag| with a content of this size, or changes the size of one that is
 /// there, and makes it the output window, so that the statements that follow put their views into it. It is
 /// not shown here. An empty size leaves the size, or takes 200 x 100. A tag that a window has, or 0, shows

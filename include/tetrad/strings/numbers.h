@@ -6,6 +6,13 @@ class QVariant;
 
 namespace tetrad {
 
+/// Fraction digits that CopyDblToString prints before it drops the trailing zeros.
+extern quint8 gZRFloatMaxDigits;
+
+/// The printed form of a number: a minus or a blank, the integer part, and the fraction's digits
+/// without the zeros at either end, so 2.05 is " 2.5". The integer part saturates at the 64-bit limits.
+QString CopyDblToString(double number);
+
 /// The decimal number the text starts with, after blanks; what follows it is ignored. 0 if there is
 /// none, an infinity if it is too large. Hexadecimal digits, "inf" and "nan" are no numbers.
 double StringDoubleValue(const QString &text);
