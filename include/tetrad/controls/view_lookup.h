@@ -27,6 +27,14 @@ QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className);
 /// CUI_ValidateViewKindOfClass with "NSControl".
 QWidget *ControlWithTag(Tag tagOrControl);
 
+/// The tag that a view's own events report. For exactly NSView, ViewSC and ContentViewSC it is the
+/// number its objectName begins with, so that a content view reports contentViewTag; lookups deliberately do not
+/// count a content view so, and count NSVisualEffectView.
+Tag CUI_ViewTag(const QWidget *view);
+
+/// The tag of the window or popover that shows the view; 0 when there is none.
+Tag CUI_ViewWindowTag(const QWidget *view);
+
 /// Moves a view, with what lies in it, into another view: into a tab's page, say. Its place is counted from the
 /// new superview's top left. Either may be a tag or an object; nothing happens, after an alert, when
 /// one of them is missing.

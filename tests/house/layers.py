@@ -1,0 +1,94 @@
+"""The arrows between the folders point down only: reads every #include of the product and names the files that break a rule.
+
+    python3 layers.py ROOT
+"""
+import os
+import re
+import sys
+
+# Each layer and what it may include besides itself. A public header has the rank of its folder in include/tetrad.
+BELOW = {
+    "strings": [],
+    "events": ["strings"],
+    "app": ["events", "strings"],
+    "console": ["app", "events", "strings"],
+    "input": ["app", "events", "strings"],
+    "controls": ["app", "events", "strings"],
+    "rules": ["strings"],
+    "game": ["rules", "input", "console", "app", "events", "strings"],
+}
+EVERY_LAYER = ["umbrella", *BELOW]
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+
+
+def layer_of(path):
+    """The layer of a file, "umbrella" for the two headers above the folders, None for what is not the product's."""
+    for prefix, layer in (("runtime/controls/events/", "events"), ("game/rules/", "rules"), ("game/", "game")):
+        if path.startswith(prefix):
+            return layer
+    parts = path.split("/")
+    if parts[0] == "runtime":
+        return parts[1]
+    if path.startswith("include/tetrad/"):
+        return parts[2] if len(parts) == 4 else "umbrella"
+    return None
+
+
+def faults_of(path, text):
+    layer = layer_of(path)
+    allowed = {layer, *BELOW.get(layer, EVERY_LAYER)}
+    for bracket, name in INCLUDE.findall(text):
+        target = "include/" + name if bracket == "<" else name
+        below = layer_of(target)
+        if below is None:
+            continue
+        if target == "include/tetrad/fwd.h":
+            continue
+        if below not in allowed:
+            yield f"{path} includes {target}: {layer} lies below {below}, or beside it"
+        if path.startswith("include/") and not target.startswith("include/"):
+            yield f"{path} includes {target}: a public header includes public headers only"
+
+
+def circles(includes):
+    """The first circle of files that include each other, as a list of paths; empty when there is none."""
+    done, path = set(), []
+
+    def visit(file):
+        if file in path:
+            return path[path.index(file):] + [file]
+        if file not in done:
+            path.append(file)
+            for below in includes.get(file, []):
+                if found := visit(below):
+                    return found
+            path.pop()
+            done.add(file)
+        return []
+
+    for file in includes:
+        if found := visit(file):
+            return found
+    return []
+
+
+def main(root):
+    faults, includes = [], {}
+    for top in ("include", "runtime", "game"):
+        for folder, _, names in os.walk(os.path.join(root, top)):
+            for name in sorted(names):
+                if name.endswith((".h", ".cpp", ".mm")):
+                    path = os.path.relpath(os.path.join(folder, name), root)
+                    with open(os.path.join(root, path), encoding="utf-8") as file:
+                        text = file.read()
+                    faults += faults_of(path, text)
+                    includes[path] = ["include/" + name if bracket == "<" else name
+                                      for bracket, name in INCLUDE.findall(text)]
+    if circle := circles(includes):
+        faults.append("in a circle: " + " includes ".join(circle))
+    print(*faults, sep="\n")
+    print(f"{len(includes)} files read, {len(faults)} faults")
+    sys.exit(bool(faults) or len(includes) < 100)
+
+
+main(sys.argv[1])
