@@ -55,11 +55,13 @@ FieldFormatter::FieldFormatter(const QString &characters, bool pass, quint64 len
 
 QValidator::State FieldFormatter::validate(QString &input, int &pos) const
 {
-    if (m_replacing) {
+    m_replacement.reset();
+    // Text set by the program has no undo history, while every edit of the user has some. It must count as valid: after
+    // an invalid text the line edit would accept any edit.
+    if (m_replacing || !m_field->isUndoAvailable()) {
         return Acceptable;
     }
     Replacement proposal{input, pos};
-    m_replacement.reset();
     if (CUI_ControlFormatter::validate(proposal.text, proposal.cursor) == Invalid) {
         return Invalid;
     }

@@ -10,9 +10,9 @@ class QLineEdit;
 
 namespace tetrad {
 
-/// A control formatter at work in a line edit, with undo. A line edit forgets its undo history when its
-/// validator replaces the text, so this one has the proposal taken back, history included, and then
-/// makes the replacement as an edit of its own, before the line edit's next event.
+/// A control formatter at work in a line edit, with undo. A line edit forgets its undo history when its validator
+/// replaces the text. So this one refuses the proposal, which keeps the history, and makes the replacement as an edit
+/// of its own before the line edit's next event. A text that the program sets is not judged.
 class FieldFormatter : public CUI_ControlFormatter
 {
     Q_OBJECT

@@ -41,8 +41,9 @@ QString inCaseOf(const QString &key, qint64 caseOption)
 } // namespace
 
 ZRInkeyWindow::ZRInkeyWindow(const QString &prompt, qint64 xPos, qint64 yPos)
-    : FloatingPanel(prompt, xPos, yPos), m_cursorLabel(makeLabel(u"_"_s))
+    : FloatingPanel(prompt, xPos, yPos), m_cursorLabel(new QLabel(u"_"_s, this))
 {
+    makeStatic(m_cursorLabel);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);
     setEntry(m_cursorLabel);

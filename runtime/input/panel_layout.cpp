@@ -9,14 +9,12 @@ namespace tetrad {
 namespace {
 
 constexpr int lineTop = 10;
-constexpr int lineHeight = 16;
 constexpr int labelLeft = 8;
 constexpr int emptyLabelWidth = 4;
 constexpr int entryLeftWithoutPrompt = 10;
 constexpr int rightMargin = 10;
-constexpr int textPadding = 5; ///< what label and entry are wider than their text
-constexpr int nearLeftEdge = 10;
-constexpr int gap = 2; ///< between label and entry
+constexpr int textPadding = 5; ///< added to the text's width, in label and entry
+constexpr int gap = 2;         ///< between label and entry
 
 int toCoordinate(qint64 value)
 {
@@ -31,7 +29,7 @@ int entryLeftAfter(int labelWidth)
 
 } // namespace
 
-QPoint wantedPlace(qint64 xPos, qint64 yPos, QSize content)
+QPoint requestedPosition(qint64 xPos, qint64 yPos, QSize content)
 {
     if (xPos == notGiven && yPos == notGiven) {
         return {20, (content.height() - panelHeight) / 2};
@@ -44,25 +42,20 @@ PanelGeometry layOutPanel(const PanelMetrics &metrics, QPoint wanted, QSize cont
     const bool prompted = metrics.promptWidth > 0;
     int labelWidth = prompted ? metrics.promptWidth + textPadding : emptyLabelWidth;
     int entryLeft = prompted ? entryLeftAfter(labelWidth) : entryLeftWithoutPrompt;
-    const int required = std::max(metrics.minimumWidth, entryLeft + metrics.usableEntryWidth + rightMargin);
-
-    // A prompt that cannot be shown whole anyway does not push the panel against the left edge.
-    const int narrowest = std::min(nearLeftEdge, content.width() - metrics.minimumWidth);
-    const int rightmost = std::max(narrowest, content.width() - required);
-    const int left = std::max(0, std::min(wanted.x(), rightmost));
-    const int top = std::max(0, std::min(wanted.y(), content.height() - panelHeight));
-    const int available = content.width() - left;
-
-    const int usableLeft = available - rightMargin - metrics.usableEntryWidth;
-    if (prompted && entryLeft > usableLeft) {
-        labelWidth = std::max(0, usableLeft - entryLeftAfter(0));
+    const int wholeEntry = metrics.entryWidth + textPadding;
+    const int rightmostEntry = content.width() - rightMargin - std::min(wholeEntry, metrics.usableEntryWidth);
+    if (prompted && entryLeft > rightmostEntry) {
+        labelWidth = std::max(0, rightmostEntry - entryLeftAfter(0));
         entryLeft = entryLeftAfter(labelWidth);
     }
-    const int entryWidth = std::clamp(available - entryLeft - rightMargin, 0, metrics.entryWidth + textPadding);
-    const int bodyWidth = std::min(std::max(metrics.minimumWidth, entryLeft + entryWidth + rightMargin), available);
+    const int entryWidth = std::clamp(content.width() - entryLeft - rightMargin, 0, wholeEntry);
+    const int bodyWidth =
+        std::min(std::max(metrics.minimumWidth, entryLeft + entryWidth + rightMargin), content.width());
+    const int left = std::clamp(wanted.x(), 0, content.width() - bodyWidth);
+    const int top = std::max(0, std::min(wanted.y(), content.height() - panelHeight));
     return {.body = QRect(left, top, bodyWidth, panelHeight),
-            .label = QRect(labelLeft, lineTop, labelWidth, lineHeight),
-            .entry = QRect(entryLeft, lineTop, entryWidth, lineHeight)};
+            .label = QRect(labelLeft, lineTop, labelWidth, panelLineHeight),
+            .entry = QRect(entryLeft, lineTop, entryWidth, panelLineHeight)};
 }
 
 } // namespace tetrad

@@ -113,6 +113,19 @@ TEST_F(FormattedField, tooLongAPasteChangesNothingAndTheNewestFormatCounts)
     EXPECT_EQ(paste(u"12"_s), u"2"_s);
 }
 
+TEST_F(FormattedField, aTextSetByTheProgramStandsAndTheNextEditIsJudged)
+{
+    format(answerKeys, true, 3);
+    field.setText(u"1+20"_s);
+    QTest::keyClicks(&field, u"5"_s);
+    EXPECT_EQ(settled(), u"1+20"_s) << "beyond the limit";
+    field.setText(u"0"_s);
+    QTest::keyClick(&field, Qt::Key_Home);
+    EXPECT_EQ(settled(), u"0"_s);
+    QTest::keyClicks(&field, u"5"_s);
+    EXPECT_EQ(settled(), u"5"_s);
+}
+
 TEST_F(FormattedField, hugePastes)
 {
     format(answerKeys);

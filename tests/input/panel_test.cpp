@@ -34,7 +34,7 @@ TEST_F(Panel, growsWithTheTextUntilTheEdgeWhereTheFieldScrolls)
     const QString some(30, u'0');
     const std::pair<QString, int> rows[] = {{u""_s, 110},
                                             {some, panel.field()->fontMetrics().horizontalAdvance(some) + 25},
-                                            {QString(200'000, u'0'), 570},
+                                            {QString(200'000, u'0'), 580},
                                             {u""_s, 110}};
     for (const auto &[text, width] : rows) {
         panel.field()->setText(text);
@@ -44,14 +44,14 @@ TEST_F(Panel, growsWithTheTextUntilTheEdgeWhereTheFieldScrolls)
 
 TEST_F(Panel, whatAKeyPaintsIsWhatPaintingEverythingWouldShow)
 {
-    ZRInputWindow panel(u"Prompt:"_s, 10, 190);
+    ZRInputWindow panel(u"Prompt:"_s, 200, 60);
     panel.show();
     const auto shown = [this] {
         QCoreApplication::processEvents();
         return host->screen()->grabWindow(host->winId()).toImage();
     };
     QImage before = shown();
-    for (const QString &text : {u"1"_s, QString(30, u'2'), u"33333"_s, QString()}) {
+    for (const QString &text : {u"1"_s, QString(30, u'2'), QString(60, u'3'), u"44"_s, QString()}) {
         panel.field()->setText(text);
         const QImage after = shown();
         EXPECT_NE(after, before) << text.toStdString();
@@ -76,7 +76,7 @@ TEST_F(Panel, isDraggedWithinTheContentByItsBackground)
     dragTo(QPoint(40, -30));
     EXPECT_EQ(panel.bodyRect().topLeft(), start + QPoint(40, -30));
     dragTo(QPoint(9000, 9000));
-    EXPECT_TRUE(host->contentView()->rect().contains(panel.bodyRect()));
+    EXPECT_EQ(panel.bodyRect().bottomRight(), host->contentView()->rect().bottomRight());
     panel.center();
     EXPECT_EQ(panel.bodyRect().topLeft(), QPoint(10, 154));
 }

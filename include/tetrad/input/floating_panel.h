@@ -9,13 +9,13 @@ class QLabel;
 
 namespace tetrad {
 
-struct PanelMetrics;
+class PromptLabel;
 
-/// What the two input panels share: a small translucent body with a prompt and an entry after it,
-/// drawn with its shadow over the content of the front window, of which it is a raised child; without
-/// any window it is a frameless window of its own. It fits itself to its texts, stays inside the
-/// content, and is dragged by its background. What the entry is, and which key ends the run, is left
-/// to the derived class.
+/// The common part of the two input panels: a small translucent body with a prompt and an entry after it, drawn with
+/// its shadow over the content of the front window, whose raised child it is. Without any window it is a frameless
+/// window of its own. It is as wide as its texts, stays inside the content, and is dragged by its background. The
+/// derived class supplies the entry and decides which key ends the run.
+// Implemented in runtime/input/floating_panel.cpp
 class FloatingPanel : public QWidget
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     qint64 yPos() const { return m_yPos; }
 
     /// The full prompt, also when the label shows less of it.
-    const QString &prompt() const { return m_prompt; }
+    const QString &prompt() const;
 
     /// The body, without the shadow around it, in the content's coordinates (the screen's for a panel
     /// without a window).
@@ -36,7 +36,8 @@ public:
     bool canBecomeKeyWindow() const { return true; }
 
     using QWidget::resize;
-    /// Fits label, entry and body to their texts.
+    /// Fits label, entry and body to their texts. A panel that passes the content's right edge slides left; only one as
+    /// wide as the content cuts its texts.
     void resize();
 
     /// Puts the panel where it was requested, also after it was dragged.
@@ -49,8 +50,10 @@ public:
 protected:
     FloatingPanel(const QString &prompt, qint64 xPos, qint64 yPos);
 
-    QLabel *makeLabel(const QString &text);
-    QLabel *label() const { return m_label; }
+    QLabel *label() const;
+
+    /// Makes a label show its text as it is, neither formatted nor selectable.
+    static void makeStatic(QLabel *label);
 
     /// Both are called by the derived class's constructor: the widget after the prompt, and the one
     /// that gets the keyboard, which is named and described here for assistive technology.
@@ -71,14 +74,10 @@ protected:
 private:
     QRect hostRect() const;
     void adoptApplicationLook();
-    void measurePrompt();
-    void showPrompt(int width);
 
-    QString m_prompt;
-    int m_promptWidth = 0;
     qint64 m_xPos = 0;
     qint64 m_yPos = 0;
-    QLabel *m_label = nullptr;
+    PromptLabel *m_label = nullptr;
     QWidget *m_entry = nullptr;
     QPointer<QWidget> m_keyReceiver;
     QPoint m_wanted;     ///< the body's top left, before it is pushed into the content
