@@ -74,17 +74,17 @@ void showInstructions()
     printAt(10, 85, {message("Enter Q to quit or S to skip to the next number.")});
 }
 
-void showPuzzle(const PuzzleNumbers &numbers, Level level)
+void showPuzzle(const Puzzle &puzzle)
 {
     print({message("")});
     setTextStyle(ColorGreen(), keepSize);
     printAt(15, 110, {message("These are your numbers, difficulty level "), staysOnLine()});
     // The label's circles have no length-prefixed form, so it is printed as it is.
-    print({levelLabel(level)});
+    print({levelLabel(puzzle.level)});
     CUI_PrintToWindowSetXYStatement(55, 125);
     setTextStyle(ColorGreen(), 18.0);
     for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
-        print({CopyDblToString(numbers.at(i, 215)), message(" "), staysOnLine()});
+        print({CopyDblToString(puzzle.numbers.at(i, source::numberPrinted)), message(" "), staysOnLine()});
     }
     print({message("")});
     setTextStyle(ColorWhite(), 12.0);
@@ -101,21 +101,9 @@ QString ask(bool wasRejected, const QString &lastAnswer)
 
 void sayError(const QString &text)
 {
+    EraseErrorText();
     setTextStyle(ColorRed(), keepSize);
     printAt(10, 200, {text, staysOnLine()});
-}
-
-// Every answer that was checked takes the error line of the one before away.
-void sayWhatIsWrong(Outcome outcome)
-{
-    EraseErrorText();
-    if (outcome == Outcome::extraNumbers) {
-        sayError(message("Error! Extra numbers not allowed"));
-    } else if (outcome == Outcome::wrongNumbers) {
-        sayError(message("ERROR! Must use all your numbers and only those numbers."));
-    } else if (outcome == Outcome::noSequence) {
-        sayError(message("Error! Incorrect math sequence."));
-    }
 }
 
 // Returns when the puzzle was solved or skipped.
@@ -128,27 +116,32 @@ void askUntilDone(const PuzzleNumbers &numbers)
         if (!answer.isNull()) {
             lastAnswer = answer;
         }
-        const Outcome outcome = judgeAnswer(answer, numbers);
-        switch (outcome) {
+        switch (judgeAnswer(answer, numbers)) {
         case Outcome::nothingTyped:
-            break;
+            continue;
         case Outcome::quit:
             AppTerminate();
-            break;
+            continue;
         case Outcome::skip:
             return;
+        case Outcome::extraNumbers:
+            sayError(message("Error! Extra numbers not allowed"));
+            break;
+        case Outcome::wrongNumbers:
+            sayError(message("ERROR! Must use all your numbers and only those numbers."));
+            break;
+        case Outcome::noSequence:
+            sayError(message("Error! Incorrect math sequence."));
+            break;
+        case Outcome::incorrect:
+            EraseErrorText();
+            break;
         case Outcome::correct:
             EraseErrorText();
             QuitOrPlayAlert(u"Correct"_s);
             return;
-        case Outcome::extraNumbers:
-        case Outcome::wrongNumbers:
-        case Outcome::noSequence:
-        case Outcome::incorrect:
-            sayWhatIsWrong(outcome);
-            wasRejected = true;
-            break;
         }
+        wasRejected = true;
     }
 }
 
@@ -158,11 +151,10 @@ int main(int, char **)
 {
     startUp();
     PuzzleHistory history(ChkBounds);
-    PuzzleNumbers numbers(ChkBounds);
     for (;;) {
         showInstructions();
-        const Level level = choosePuzzle(history, numbers);
-        showPuzzle(numbers, level);
-        askUntilDone(numbers);
+        const Puzzle puzzle = choosePuzzle(history);
+        showPuzzle(puzzle);
+        askUntilDone(puzzle.numbers);
     }
 }

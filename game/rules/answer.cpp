@@ -1,7 +1,7 @@
 #include "game/rules/answer.h"
 
 #include "game/rules/expression.h"
-#include "game/rules/pattern.h"
+#include "game/rules/regular_expression.h"
 #include <tetrad/strings/not_given.h>
 #include <tetrad/strings/numbers.h>
 #include <tetrad/strings/pascal_strings.h>
@@ -24,11 +24,42 @@ bool occursIn(const QString &answer, qint16 number)
     return InString(0, answer, digit, notGiven) != notFound;
 }
 
+// Passes with at most four digits of 1 to 9; 0 is deliberately not counted, since no puzzle has one. An answer without
+// a length-prefixed form (above 255 characters, or one outside Mac Roman) counts as empty and passes.
+bool passesDigitCount(const QString &answer)
+{
+    PascalString text;
+    PSstrcpy(text, StringPascalString(answer));
+    const int length = PSlen(PSstrcpy(STACK_PUSH(), text));
+    int digits = 0;
+    for (int i = 1; i <= length; ++i) {
+        const auto *character = PSmid(PSstrcpy(STACK_PUSH(), text), static_cast<qint16>(i), 1);
+        const int code = PSasc(PSstrcpy(STACK_PUSH(), character));
+        if (code > 48 && code < 58) {
+            ++digits;
+        }
+    }
+    return digits <= numbersPerPuzzle;
+}
+
+// Passes when the digit of every puzzle number occurs. How often it occurs is deliberately ignored: "2*3+9+9" passes
+// for 2, 2, 3, 9.
+bool passesNumberCheck(const QString &answer, const PuzzleNumbers &numbers)
+{
+    int found = 0;
+    for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
+        if (occursIn(answer, numbers.at(i, source::numberChecked))) {
+            ++found;
+        }
+    }
+    return found >= numbersPerPuzzle;
+}
+
 // "9/2" becomes "9.0/2.0". The pieces between the matches are appended once, so that a long answer
 // takes time in proportion to its length.
 QString withDecimalPoints(const QString &text)
 {
-    // Compiled once: that takes longer than all the rest of judging an answer.
+    // Compiled once, since that takes longer than all the rest of judging an answer.
     static const QRegularExpression literal =
         RegularExpressionWithPattern(u"[0-9.]+"_s, QRegularExpression::CaseInsensitiveOption, nullptr);
     QString decimals;
@@ -60,49 +91,21 @@ Outcome judgeValue(const QString &answer)
     if (EvaluateMath(answer).isNull()) {
         return Outcome::noSequence;
     }
-    // Deliberately evaluated a second time: the first evaluation is only the test of validity. Comparing the
-    // leading integer alone lets 24.5 pass, and so is a failure, whose description begins with no number, wrong.
+    // Deliberately evaluated a second time: the first evaluation only tests validity. Deliberately only the leading
+    // integer counts: 24.5 is correct, and a failure is incorrect because its description starts with no number.
     return StringIntegerValue(EvaluateMath(answer)) == targetValue ? Outcome::correct : Outcome::incorrect;
 }
 
 } // namespace
 
-bool passesDigitCount(const QString &answer)
-{
-    PascalString text;
-    PSstrcpy(text, StringPascalString(answer));
-    const int length = PSlen(PSstrcpy(STACK_PUSH(), text));
-    int digits = 0;
-    for (int i = 1; i <= length; ++i) {
-        const auto *character = PSmid(PSstrcpy(STACK_PUSH(), text), static_cast<qint16>(i), 1);
-        const int code = PSasc(PSstrcpy(STACK_PUSH(), character));
-        if (code > 48 && code < 58) {
-            ++digits;
-        }
-    }
-    return digits <= numbersPerPuzzle;
-}
-
-bool passesNumberCheck(const QString &answer, const PuzzleNumbers &numbers)
-{
-    int found = 0;
-    for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
-        if (occursIn(answer, numbers.at(i, 272))) {
-            ++found;
-        }
-    }
-    return found >= numbersPerPuzzle;
-}
-
 QString EvaluateMath(const QString &answer)
 {
     const QString text = withDecimalPoints(StringByReplacingOccurrencesOfString(LcaseCFString(answer), u"x"_s, u"*"_s));
-    const auto expression = ExpressionWithFormat(std::nothrow, text);
-    if (const auto *failure = std::get_if<ExpressionFailure>(&expression)) {
-        return StringWithFormat(u"%@"_s, failure->description(text));
+    const ExpressionValue value = ExpressionValueWithObject(ExpressionWithFormat(text), QVariant(), QVariant());
+    if (const auto *failure = std::get_if<ExpressionFailure>(&value)) {
+        return StringWithFormat(u"%@"_s, failure->description());
     }
-    const QVariant value = ExpressionValueWithObject(std::get<Expression>(expression), QVariant(), QVariant());
-    return withoutZeroDecimals(StringWithFormat(u"%.3f"_s, ZRDblVal(value)));
+    return withoutZeroDecimals(StringWithFormat(u"%.3f"_s, ZRDblVal(std::get<double>(value))));
 }
 
 Outcome judgeAnswer(const QString &answer, const PuzzleNumbers &numbers)

@@ -11,9 +11,8 @@ namespace tetrad {
 
 namespace {
 
-// What is known inside one pair of parentheses: "2+3*" is the sum 2 and the product 3. The sign of a
-// term is kept in its product. The first sum is -0 because that is the number that changes no other
-// when added, not even -0.
+// The state inside one pair of parentheses: "2+3*" is the sum 2 and the product 3. The sign of a term is kept in its
+// product. The first sum is -0, since adding that changes no number, not even -0.
 struct Frame
 {
     double sum = -0.0;
@@ -36,9 +35,9 @@ struct Frame
 class Evaluator
 {
 public:
-    explicit Evaluator(QStringView text) : m_text(text) {}
+    explicit Evaluator(const QString &text) : m_text(text) {}
 
-    std::variant<double, ExpressionFailure> run()
+    ExpressionValue run()
     {
         while (!m_failure && skipBlanks()) {
             if (m_wantsOperand) {
@@ -57,7 +56,7 @@ public:
     }
 
 private:
-    void fail(ExpressionFailure::Kind kind, qsizetype index) { m_failure = {kind, index}; }
+    void fail(ExpressionFailure::Kind kind, qsizetype index) { m_failure = {kind, m_text, index}; }
 
     bool skipBlanks()
     {
@@ -159,7 +158,7 @@ private:
         m_wantsOperand = false;
     }
 
-    // from_chars does not tell too large from too small; only the too large have digits before the point.
+    // from_chars reports too large and too small alike; only the too large have digits before the point.
     template <typename Digits>
     static double outOfRange(const Digits &digits)
     {
@@ -191,7 +190,7 @@ private:
         }
     }
 
-    QStringView m_text;
+    const QString m_text;
     qsizetype m_at = 0;
     qsizetype m_before = -1; ///< the last operator, sign or parenthesis
     bool m_wantsOperand = true;
@@ -202,23 +201,9 @@ private:
 
 } // namespace
 
-std::variant<double, ExpressionFailure> evaluateExpression(std::nothrow_t, QStringView text)
+ExpressionValue ExpressionValueWithObject(const Expression &expression, const QVariant &, const QVariant &)
 {
-    return Evaluator(text).run();
-}
-
-double evaluateExpression(QStringView text)
-{
-    const auto value = evaluateExpression(std::nothrow, text);
-    if (const auto *failure = std::get_if<ExpressionFailure>(&value)) {
-        throw ExpressionError(failure->description(text));
-    }
-    return std::get<double>(value);
-}
-
-QVariant ExpressionValueWithObject(const Expression &expression, const QVariant &, const QVariant &)
-{
-    return expression.value();
+    return Evaluator(expression.text).run();
 }
 
 } // namespace tetrad

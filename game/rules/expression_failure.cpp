@@ -1,7 +1,5 @@
 #include "game/rules/expression_failure.h"
 
-#include "game/rules/expression.h"
-
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
@@ -35,8 +33,9 @@ QStringView numberAt(QStringView text, qsizetype index)
     return text.mid(index, end - index);
 }
 
-QString fault(const ExpressionFailure &failure, QStringView text)
+QString fault(const ExpressionFailure &failure)
 {
+    const QStringView text = failure.text;
     switch (failure.kind) {
     case ExpressionFailure::empty:
         break;
@@ -64,9 +63,9 @@ QString fault(const ExpressionFailure &failure, QStringView text)
 
 } // namespace
 
-QString ExpressionFailure::description(QStringView text) const
+QString ExpressionFailure::description() const
 {
-    const QString what = fault(*this, text);
+    const QString what = fault(*this);
     return kind == empty ? what : what + u" at position "_s + QString::number(index + 1);
 }
 

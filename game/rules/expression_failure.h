@@ -2,12 +2,9 @@
 
 #include <QString>
 
-#include <stdexcept>
-
 namespace tetrad {
 
-/// What is wrong with a text that is no arithmetic expression, and where. Only a kind and a place, so that
-/// finding it costs no more than a value; the sentence is made when it is asked for.
+/// What is wrong with a text that is no arithmetic expression, and where.
 struct ExpressionFailure
 {
     enum Kind {
@@ -24,20 +21,18 @@ struct ExpressionFailure
     };
 
     Kind kind = empty;
+    QString text;        ///< the one that was evaluated
     qsizetype index = 0; ///< in UTF-16 units from 0
 
-    /// text: the one that was evaluated. The position is counted from 1: "missing operand after '+' at
-    /// position 3". Never starts with a number.
-    QString description(QStringView text) const;
+    /// A sentence with the position counted from 1: "missing operand after '+' at position 3". It never starts with a
+    /// number.
+    QString description() const;
 };
 
-/// Why a text is not an arithmetic expression, see ExpressionFailure::description.
-class ExpressionError : public std::runtime_error
+/// A digit of ASCII or the point.
+inline bool isNumberCharacter(QChar c)
 {
-public:
-    explicit ExpressionError(const QString &description) : std::runtime_error(description.toStdString()) {}
-
-    QString description() const { return QString::fromUtf8(what()); }
-};
+    return (c >= u'0' && c <= u'9') || c == u'.';
+}
 
 } // namespace tetrad

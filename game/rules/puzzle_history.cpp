@@ -3,15 +3,11 @@
 #include <tetrad/strings/numbers.h>
 #include <tetrad/strings/text_functions.h>
 
-#include <array>
-
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::array<quint32, numbersPerPuzzle> numberStoredLines = {181, 182, 183, 184};
 
 QString keyOfParts(const QStringList &parts)
 {
@@ -23,10 +19,10 @@ QString keyOfParts(const QStringList &parts)
 }
 
 // Late in a cycle this draws many times, about 96 for the last puzzle; repeats are avoided by drawing again.
-QStringList drawUnseenPuzzle(PuzzleHistory &history, const RandomSource &source)
+QStringList drawUnseenPuzzle(PuzzleHistory &history, const RandomSource &random)
 {
     for (;;) {
-        QStringList parts = StringComponentsSeparatedByString(GetRandomNumbers(source), u" "_s);
+        QStringList parts = StringComponentsSeparatedByString(GetRandomNumbers(random), u" "_s);
         QString key = keyOfParts(parts);
         history.clearWhenFull();
         if (!history.holds(key)) {
@@ -40,15 +36,15 @@ QStringList drawUnseenPuzzle(PuzzleHistory &history, const RandomSource &source)
 
 PuzzleHistory::PuzzleHistory(BoundsCheck check) : m_slots(check)
 {
-    clear(128);
+    clear(source::historyEmptiedAtStart);
 }
 
 bool PuzzleHistory::holds(QString &key) const
 {
     for (qint16 slot = 1; slot <= puzzleCount; ++slot) {
-        if (StringIsEqual(key, m_slots.at(slot, 172))) {
-            // Deliberate: nobody reads this copy, but its access to the slot is one of those a range error names.
-            key = StringWithString(m_slots.at(m_count, 173));
+        if (StringIsEqual(key, m_slots.at(slot, source::historyCompared))) {
+            // Deliberate: the copy is not used, but its access to the slot is one that a range error can name.
+            key = StringWithString(m_slots.at(m_count, source::historyReadAfterRepeat));
             return true;
         }
     }
@@ -58,14 +54,14 @@ bool PuzzleHistory::holds(QString &key) const
 void PuzzleHistory::clearWhenFull()
 {
     if (m_count >= puzzleCount) {
-        clear(166);
+        clear(source::historyEmptiedWhenFull);
     }
 }
 
 void PuzzleHistory::add(const QString &key)
 {
     ++m_count;
-    m_slots.at(m_count, 179) = StringWithString(key);
+    m_slots.at(m_count, source::historyStored) = StringWithString(key);
 }
 
 void PuzzleHistory::clear(quint32 line)
@@ -76,14 +72,15 @@ void PuzzleHistory::clear(quint32 line)
     }
 }
 
-Level choosePuzzle(PuzzleHistory &history, PuzzleNumbers &numbers, const RandomSource &source)
+Puzzle choosePuzzle(PuzzleHistory &history, const RandomSource &random)
 {
-    const QStringList parts = drawUnseenPuzzle(history, source);
+    const QStringList parts = drawUnseenPuzzle(history, random);
+    Puzzle puzzle{.numbers = PuzzleNumbers(history.boundsCheck()), .level = levelAtPosition(gPosition)};
     for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
-        numbers.at(i, numberStoredLines[static_cast<std::size_t>(i - 1)]) =
+        puzzle.numbers.at(i, source::firstNumberStored + static_cast<quint32>(i - 1)) =
             static_cast<qint16>(StringIntegerValue(parts.at(i - 1)));
     }
-    return levelAtPosition(gPosition);
+    return puzzle;
 }
 
 } // namespace tetrad

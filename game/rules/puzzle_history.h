@@ -1,7 +1,7 @@
 #pragma once
 
-#include "game/rules/guarded_array.h"
 #include "game/rules/puzzle_deck.h"
+#include "game/rules/puzzle_numbers.h"
 
 namespace tetrad {
 
@@ -14,6 +14,8 @@ public:
 
     /// The number of keys stored, 0 to 96. The newest key is in the slot of that number.
     qint16 count() const { return m_count; }
+
+    BoundsCheck boundsCheck() const { return m_slots.boundsCheck(); }
 
     /// Whether a puzzle was shown already. A repeat turns the key into the newest one stored.
     bool holds(QString &key) const;
@@ -31,8 +33,14 @@ private:
     qint16 m_count = 0;
 };
 
-/// Draws until a puzzle comes up that is not in the history, records it there, fills the four numbers
-/// and returns the level. The 97th choice starts with an empty history.
-Level choosePuzzle(PuzzleHistory &history, PuzzleNumbers &numbers, const RandomSource &source = systemRandom);
+struct Puzzle
+{
+    PuzzleNumbers numbers;
+    Level level = Level::easy;
+};
+
+/// Draws until a puzzle comes up that is not in the history, and records it there. The 97th choice starts with an
+/// empty history.
+Puzzle choosePuzzle(PuzzleHistory &history, const RandomSource &random = systemRandom);
 
 } // namespace tetrad

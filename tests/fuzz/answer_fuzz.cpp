@@ -18,14 +18,14 @@ namespace {
 
 std::optional<double> valueOf(const QString &text)
 {
-    try {
-        return evaluateExpression(text);
-    } catch (const ExpressionError &error) {
-        const QString description = error.description();
-        require(!description.isEmpty(), "a failure has a description", text);
-        require(StringIntegerValue(description) == 0, "no description starts with a number", description);
-        return std::nullopt;
+    const ExpressionValue value = ExpressionValueWithObject({text}, QVariant(), QVariant());
+    if (const auto *number = std::get_if<double>(&value)) {
+        return *number;
     }
+    const QString description = std::get<ExpressionFailure>(value).description();
+    require(!description.isEmpty(), "a failure has a description", text);
+    require(StringIntegerValue(description) == 0, "no description starts with a number", description);
+    return std::nullopt;
 }
 
 bool same(std::optional<double> left, std::optional<double> right)

@@ -13,7 +13,7 @@ int main()
     std::cout << std::hexfloat;
     std::string line;
     while (std::getline(std::cin, line)) {
-        const auto value = evaluateExpression(std::nothrow, QString::fromStdString(line));
+        const auto value = ExpressionValueWithObject({QString::fromStdString(line)}, QVariant(), QVariant());
         if (const auto *number = std::get_if<double>(&value)) {
             std::cout << *number << '\n';
         } else {

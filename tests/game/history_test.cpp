@@ -31,7 +31,7 @@ RandomSource replay(std::vector<quint32> positions)
     return [positions = std::move(positions), next = std::size_t(0)]() mutable { return positions.at(next++); };
 }
 
-QString textOf(PuzzleNumbers &numbers)
+QString textOf(const PuzzleNumbers &numbers)
 {
     QStringList digits;
     for (qint16 i = 1; i <= 4; ++i) {
@@ -44,7 +44,6 @@ class History : public testing::Test
 {
 protected:
     PuzzleHistory history{recordAccess};
-    PuzzleNumbers numbers{recordAccess};
 };
 
 } // namespace
@@ -52,11 +51,12 @@ protected:
 TEST_F(History, RepeatIsDrawnAgainAndTheAcceptedDrawIsGraded)
 {
     const RandomSource source = replay({10, 10, 10, 70, 70, 10, 40});
-    EXPECT_EQ(choosePuzzle(history, numbers, source), Level::easy);
-    EXPECT_EQ(textOf(numbers), u"2 2 3 9"_s);
-    EXPECT_EQ(choosePuzzle(history, numbers, source), Level::hard);
-    EXPECT_EQ(textOf(numbers), u"4 4 5 7"_s);
-    EXPECT_EQ(choosePuzzle(history, numbers, source), Level::medium);
+    for (const auto &[numbers, level] : {std::pair(u"2 2 3 9"_s, Level::easy), {u"4 4 5 7"_s, Level::hard}}) {
+        const Puzzle puzzle = choosePuzzle(history, source);
+        EXPECT_EQ(textOf(puzzle.numbers), numbers);
+        EXPECT_EQ(puzzle.level, level);
+    }
+    EXPECT_EQ(choosePuzzle(history, source).level, Level::medium);
     EXPECT_EQ(gPosition, 40);
     EXPECT_EQ(history.count(), 3);
     QString key = u"2 2 3 9 "_s;
@@ -72,8 +72,9 @@ TEST_F(History, CycleShows96DifferentPuzzlesThenStartsAgain)
         std::set<QString> shown;
         std::map<Level, int> perLevel;
         for (int i = 0; i < 96; ++i) {
-            ++perLevel[choosePuzzle(history, numbers, source)];
-            shown.insert(textOf(numbers));
+            const Puzzle puzzle = choosePuzzle(history, source);
+            ++perLevel[puzzle.level];
+            shown.insert(textOf(puzzle.numbers));
             EXPECT_EQ(history.count(), i + 1);
         }
         EXPECT_EQ(shown.size(), 96U);
@@ -87,8 +88,8 @@ TEST_F(History, EveryArrayAccessIsCheckedUnderItsLine)
     PuzzleHistory fresh(recordAccess);
     EXPECT_EQ(accessesByLine[128].size(), 96U);
     const RandomSource source = replay({5, 5, 6});
-    choosePuzzle(fresh, numbers, source);
-    choosePuzzle(fresh, numbers, source);
+    choosePuzzle(fresh, source);
+    choosePuzzle(fresh, source);
     EXPECT_EQ(accessesByLine[172].size(), 96U);
     EXPECT_EQ(accessesByLine[173], (std::set<Access>{{1, 97}}));
     EXPECT_EQ(accessesByLine[179], (std::set<Access>{{1, 97}, {2, 97}}));
@@ -96,10 +97,10 @@ TEST_F(History, EveryArrayAccessIsCheckedUnderItsLine)
     EXPECT_EQ(accessesByLine[184], (std::set<Access>{{4, 4}}));
     const RandomSource anything = [] { return systemRandom(); };
     while (fresh.count() < 96) {
-        choosePuzzle(fresh, numbers, anything);
+        choosePuzzle(fresh, anything);
     }
     EXPECT_FALSE(accessesByLine.contains(166));
-    choosePuzzle(fresh, numbers, anything);
+    choosePuzzle(fresh, anything);
     EXPECT_EQ(accessesByLine[166].size(), 96U);
 }
 

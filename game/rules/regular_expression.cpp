@@ -1,4 +1,4 @@
-#include "game/rules/pattern.h"
+#include "game/rules/regular_expression.h"
 
 namespace tetrad {
 
@@ -8,7 +8,7 @@ QRegularExpression RegularExpressionWithPattern(const QString &pattern, QRegular
                                                 ErrorObject *error)
 {
     QRegularExpression expression(pattern, options);
-    if (!expression.isValid() && error != nullptr) {
+    if (!expression.isValid() && error) {
         *error = {u"QRegularExpression"_s, expression.patternErrorOffset(),
                   expression.errorString() + u" in \""_s + pattern + u'"'};
     }
