@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QWindow>
 
 #include <thread>
 
@@ -85,6 +86,12 @@ TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
         {"Enter too", presses(Qt::Key_Enter), 1000},
         {"Tab moves what Return presses",
          [](Alert *alert) { pressKey(alert, Qt::Key_Tab), pressKey(alert, Qt::Key_Return); }, 1001},
+        {"also to a button with a key of its own",
+         [](Alert *alert) {
+             AlertButtonSetKeyEquivalent(2, 1, u"\033"_s);
+             pressKey(alert, Qt::Key_Tab), pressKey(alert, Qt::Key_Return);
+         },
+         1001},
         {"not a held Return", notBy([](Alert *alert) { pressKey(alert, Qt::Key_Return, true); }), 1001},
         {"not a held space", notBy([](Alert *alert) { pressKey(alert, Qt::Key_Space, true); }), 1001},
         {"not Escape", notBy(presses(Qt::Key_Escape)), 1001},
@@ -135,8 +142,10 @@ TEST_F(Alerts, UpdateKeepsWhatIsNotGivenAndNeverTouchesButtons)
     define(2);
     whenAlertRuns([](Alert *alert) {
         EXPECT_EQ(alert->text(), u"Correct"_s);
+        EXPECT_EQ(alert->windowTitle(), u"Correct"_s);
+        EXPECT_FALSE(alert->windowHandle()->flags() & Qt::WindowCloseButtonHint);
         EXPECT_EQ(alert->informativeText(), u"a < b & <b>c</b>"_s);
-        EXPECT_EQ(alert->style(), alertStyleCritical);
+        EXPECT_EQ(alert->alertStyle(), alertStyleCritical);
         EXPECT_EQ(titlesOf(alert), (QStringList{u"Quit"_s, u"Play Again"_s}));
         for (const QLabel *label : alert->findChildren<QLabel *>()) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText);
@@ -150,7 +159,7 @@ TEST_F(Alerts, ErrorObjectGivesTheTextsAndTheButton)
 {
     whenAlertRuns([](Alert *alert) {
         EXPECT_TRUE(alert->text().contains(u"The disk is full."_s));
-        EXPECT_EQ(alert->style(), alertStyleWarning);
+        EXPECT_EQ(alert->alertStyle(), alertStyleWarning);
         EXPECT_EQ(titlesOf(alert), QStringList{u"OK"_s});
         clicks(0)(alert);
     });
@@ -248,6 +257,7 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         EXPECT_EQ(askByASheet(), 0);
         Alert *const alert = CUI_AlertWithTag(4);
         ASSERT_TRUE(alert && alert->isRunningAsSheet() && alert->parentWidget() == owner);
+        EXPECT_EQ(alert->windowHandle()->flags() & (Qt::WindowType_Mask | Qt::WindowCloseButtonHint), Qt::Sheet);
         EXPECT_EQ(askByASheet(), 0) << "already shown";
         pressBehind();
         EXPECT_EQ(pressed.count(), 0) << "its window takes no input";
@@ -284,7 +294,7 @@ TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
         QCoreApplication::processEvents(); // serves the queue inside the first warning
         EXPECT_EQ(modalWindow(), alert);
         EXPECT_EQ(titlesOf(alert), (QStringList{u"OK"_s, u"Quit"_s}));
-        seen << QString(alert->text() % u' ' % alert->informativeText() % QString::number(alert->style()));
+        seen << QString(alert->text() % u' ' % alert->informativeText() % QString::number(alert->alertStyle()));
         clicks(0)(alert);
     };
     whenAlertRuns([&](Alert *alert) {

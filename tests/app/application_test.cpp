@@ -3,6 +3,9 @@
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/windows.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -112,12 +115,12 @@ TEST_F(Terminate, AsksTellsAndRefuses)
     CocoaInit();
     for (const qint64 refusal : {0, 2, -1}) {
         seen.clear();
-        answer = [refusal](qint64) {
-            AppTerminate(); // asking inside the question
+        QEvent quit(QEvent::Quit);
+        answer = [&quit, refusal](qint64) {
+            QCoreApplication::sendEvent(qApp, &quit); // the user, while the question is open
             CUI_AppDelegateObj()->setLongVal(refusal);
         };
         AppTerminate();
-        QEvent quit(QEvent::Quit);
         QCoreApplication::sendEvent(qApp, &quit);
         EXPECT_EQ(seen, (QList<qint64>{3, 3}));
     }
@@ -136,11 +139,27 @@ void terminateWithAnOwnedClipboard()
     AppTerminate();
 }
 
-void terminateAgainWhileItTells()
+template <AppEvent event>
+void terminateAgainIn()
 {
     CUI_SetOnAppEventFunction(onAppEvent);
-    answer = [](qint64 event) { event == appEventWillTerminate ? AppTerminate() : void(); };
+    answer = [](qint64 code) {
+        if (code == event) {
+            AppTerminate();
+            std::abort();
+        }
+    };
     AppTerminate();
+}
+
+void closeTheLastWindow()
+{
+    CUI_SetOnAppEventFunction(onAppEvent);
+    answer = [](qint64 event) {
+        CUI_AppDelegateObj()->setBoolVal(event == appEventShouldTerminateAfterLastWindowClosed);
+    };
+    CUI_Window(1, QString(), notGiven, QRectF());
+    CUI_WindowWithTag(1)->close();
 }
 
 void signalThoughTheDelegateWouldRefuse()
@@ -160,7 +179,9 @@ TEST_F(Terminate, EndsFromAnyDepth)
     const std::pair<const char *, void (*)()> rows[] = {
         {"nested runs", terminateFromNestedRun},
         {"with an owned clipboard", terminateWithAnOwnedClipboard},
-        {"again while it tells", terminateAgainWhileItTells},
+        {"again in the question", terminateAgainIn<appEventShouldTerminate>},
+        {"again while it is notified", terminateAgainIn<appEventWillTerminate>},
+        {"the program closes its last window, which ends it", closeTheLastWindow},
         {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse},
     };
     for (const auto &[name, end] : rows) {

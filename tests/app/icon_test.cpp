@@ -56,7 +56,7 @@ TEST(AlertIcon, IsTheApplicationsUnlessCritical)
     QApplication::setWindowIcon(filled(Qt::red));
     for (const qint64 style : {alertStyleWarning, alertStyleInformational, alertStyleCritical}) {
         Alert alert;
-        alert.setStyle(style);
+        alert.setAlertStyle(style);
         EXPECT_EQ(alert.icon(), style == alertStyleCritical ? QMessageBox::Critical : QMessageBox::NoIcon) << style;
         EXPECT_TRUE(style == alertStyleCritical || colorOf(alert.iconPixmap()) == QColor(Qt::red)) << style;
     }

@@ -131,6 +131,45 @@ TEST_F(Modal, FocusTakenOutsideComesBackWithItsKeys)
     EXPECT_EQ(outsideField->text(), QString());
 }
 
+TEST_F(Modal, AMinimisedWindowComesBackAndNothingElseHappens)
+{
+    QWidget window;
+    QPushButton answer(&window);
+    const QSignalSpy answered(&answer, &QPushButton::clicked);
+    QTimer::singleShot(0, &window, [&] {
+        for (const bool byKey : {false, true}) {
+            window.showMinimized();
+            QApplication::processEvents();
+            EXPECT_TRUE(window.isMinimized());
+            if (byKey) {
+                QTest::keyClick(carrier.windowHandle(), Qt::Key_Space);
+            } else {
+                clickInWindow(*outsideButton);
+            }
+            EXPECT_FALSE(window.isMinimized());
+        }
+        EXPECT_EQ(answered.count(), 0);
+        abortModal();
+    });
+    runModalForWindow(&window);
+}
+
+TEST_F(Modal, WhatWorksDuringModalRunsGetsClicksAndKeys)
+{
+    QLineEdit otherField(&other);
+    const QSignalSpy elsewhere(otherButton, &QPushButton::clicked);
+    otherField.setGeometry(0, 50, 80, 30);
+    otherField.show();
+    setWorksWhenModal(&other, true);
+    runWhile([&] {
+        clickInWindow(*otherButton);
+        clickInWindow(otherField);
+        QTest::keyClick(other.windowHandle(), Qt::Key_3);
+    });
+    EXPECT_EQ(elsewhere.count(), 1);
+    EXPECT_EQ(otherField.text(), u"3");
+}
+
 TEST_F(Modal, CarrierScrolls)
 {
     QScrollArea area(&carrier);

@@ -58,7 +58,7 @@ void reportBoundsError(quint32 index, const QString &inFile, bool isTranslated)
         const QString shown = alert->text() % u' ' % titlesOf(alert).join(u' ');
         const bool asStated =
             shown == (isTranslated ? u"[Array bounds error] [Quit] [Crash]"_s : u"Array bounds error Quit Crash"_s) &&
-            alert->style() == alertStyleCritical && alert->informativeText().contains(u" of "_s);
+            alert->alertStyle() == alertStyleCritical && alert->informativeText().contains(u" of "_s);
         clicks(asStated ? 0 : 1)(alert);
     });
     ChkBounds(index, 97, 128, inFile);

@@ -63,12 +63,12 @@ public:
     bool sheet() const;
     void setSheet(bool sheet);
 
-    /// An AlertStyle; a number that is none shows as a warning. A critical alert has that icon, any other the
-    /// application's, as it is when the alert is shown, or none if there is none.
-    qint64 style() const { return m_style; }
-    void setStyle(qint64 style);
+    /// An AlertStyle; unknown values fall back to a warning. A critical alert has that icon, any other the
+    /// application's at the time when the alert is shown, if it has one.
+    qint64 alertStyle() const { return m_style; }
+    void setAlertStyle(qint64 style);
 
-    /// Plain text: markup and "&" are shown as they stand.
+    /// Plain text: markup and "&" are shown as they stand. The message is also the title of the alert's window.
     void setMessageText(const QString &text);
     void setInformative(const QString &text);
 

@@ -43,8 +43,8 @@ void CUI_AlertRemove(Alert *alert);
 void AlertButtonSetKeyEquivalent(Tag tag, quint64 index, const QString &key);
 
 /// Queues a warning with "OK" and "Quit" and returns at once; it appears inside the next modal loop.
-/// "Quit" ends the program. May be called from any thread. Without an application object the texts go to
-/// standard error.
+/// "Quit" ends the program. May be called from any thread. Without a QApplication the texts go to standard
+/// error.
 void CUI_ShowAlert(qint64 style, const QString &message, const QString &informative);
 
 } // namespace tetrad

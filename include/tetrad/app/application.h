@@ -21,9 +21,9 @@ CUI_AppDelegate *CUI_AppDelegateObj();
 void setAppDelegate(CUI_AppDelegate *delegate);
 
 /// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: asks
-/// the delegate, tells it, hands the clipboard over, flushes the C streams. Nothing that is registered
-/// for exit runs, destructors of static objects included: what must be saved is saved when the delegate
-/// is told. Returns only when the delegate refuses.
+/// the delegate, hands the clipboard over, notifies the delegate, flushes the C streams. Nothing that is registered
+/// for exit runs, destructors of static objects included: save what must be saved in event 5. Returns only when the
+/// delegate refuses. Called while the delegate is being asked or notified, it ends the process then and there.
 void AppTerminate();
 
 /// The application's name as the menu titles show it, its version, and its reverse-domain id. All

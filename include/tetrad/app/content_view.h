@@ -39,6 +39,7 @@ public:
     const QStringList &dragFileExtensions() const { return m_dragFileExtensions; }
     void setDragFileExtensions(const QStringList &extensions);
     bool dragInside() const { return m_dragInside; }
+    void setDragInside(bool inside) { m_dragInside = inside; }
 
     /// An invalid colour stands for the one that windows have.
     void setBackgroundColor(const QColor &color);

@@ -51,9 +51,15 @@ public:
     void setCuiWindowUserData(void *userData);
 
     /// The content rectangle now. Setting it fixes the size of the content whatever height the menu
-    /// bar takes.
+    /// bar takes. A rectangle that would put the title bar above the screen is moved down by what is missing.
     QRectF contentRect() const;
     void setContentRect(const QRectF &rect);
+
+    /// The width of the window's frame at each edge, estimated as long as no window manager has added it.
+    QMargins frameMargins() const;
+
+    /// The content may be given no other size until this is called again, with an invalid one.
+    void holdContentSize(const QSizeF &size);
 
     /// WindowStyle bits.
     qint64 styleMask() const;
@@ -94,12 +100,13 @@ protected:
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    QMenu *createPopupMenu() override;
 
 private:
-    QMargins frameMargins() const;
     QSize measuredChrome();
-    void keepContentSize();
-    void fixSizeUnlessResizable();
+    void keepContentPlace();
+    void limitDrags();
+    QPoint belowScreenTop(QPoint origin) const;
     void recalculateKeyViewLoop();
 
     ContentViewSC *m_contentView = nullptr;

@@ -30,6 +30,10 @@ Window *CUI_WindowWithTag(Tag tag);
 void WindowSetBackgroundColor(Tag tag, const QColor &color);
 void WindowCenter(Tag tag);
 
+/// Whether the window works during modal runs of others: line and key input, alerts, runModalForWindow. False at first.
+/// Does nothing when the tag is unknown.
+void WindowSetWorksWhenModal(Tag tag, bool works);
+
 /// All runtime windows, front to back: the order in which they were last active or shown.
 QList<Window *> orderedWindows();
 

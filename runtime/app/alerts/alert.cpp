@@ -35,7 +35,7 @@ constexpr Qt::WindowFlags alertFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt
 // The application's own icon, or none if it has none; only a critical alert has an icon of its own.
 QPixmap iconOf(const Alert &alert)
 {
-    const int size = alert.QWidget::style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &alert);
+    const int size = alert.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &alert);
     return QApplication::windowIcon().pixmap(QSize(size, size), alert.devicePixelRatio());
 }
 
@@ -46,7 +46,7 @@ Alert::Alert(QWidget *parent) : QMessageBox(parent)
     setWindowFlags(alertFlags);
     setWindowTitle(applicationName());
     setTextFormat(Qt::PlainText);
-    setStyle(alertStyleWarning);
+    setAlertStyle(alertStyleWarning);
     connect(this, &QMessageBox::buttonClicked, this, [this](QAbstractButton *button) {
         m_code = alertFirstButton + m_buttons.indexOf(static_cast<QPushButton *>(button));
     });
@@ -83,7 +83,7 @@ void Alert::setSheet(bool sheet)
     setProperty(sheetKey, sheet);
 }
 
-void Alert::setStyle(qint64 style)
+void Alert::setAlertStyle(qint64 style)
 {
     m_style = style;
     updateIcon();
@@ -101,6 +101,7 @@ void Alert::updateIcon()
 void Alert::setMessageText(const QString &text)
 {
     setText(text);
+    setWindowTitle(text.simplified());
     updateAccessibleName();
 }
 
@@ -264,9 +265,12 @@ void Alert::dismiss()
 
 void Alert::attachTo(QWidget *window, Qt::WindowModality modality)
 {
+    const bool isSheet = modality != Qt::NonModal;
     setParent(window ? window->window() : nullptr, alertFlags);
     setWindowModality(modality);
-    setProperty("worksWhenModal", modality != Qt::NonModal);
+    // The modality changed the flags.
+    setWindowFlags(isSheet ? (alertFlags & ~Qt::WindowType_Mask) | Qt::Sheet : alertFlags);
+    setWorksWhenModal(this, isSheet);
 }
 
 void Alert::prepareToShow()
@@ -277,6 +281,9 @@ void Alert::prepareToShow()
     if (!isVisible()) {
         updateIcon();
         fitTextsToScreen(this);
+        // Without a button for Return none begins with the focus, which is the other way to get Return.
+        setFocusPolicy(m_returnButton ? Qt::NoFocus : Qt::StrongFocus);
+        (m_returnButton ? static_cast<QWidget *>(m_returnButton) : this)->setFocus();
     }
     for (QWidget *child : findChildren<QWidget *>()) {
         child->installEventFilter(this);
@@ -310,21 +317,21 @@ void Alert::endSheet()
     }
 }
 
-// Return belongs to the focused button, else to the one whose key it is. The dialog itself would press a
-// button that lost the key, since it never forgets the first default it had.
+// Return presses the focused button, else the one whose key it is. The dialog itself would press a button that lost the
+// key, since it never forgets the first default it had.
 bool Alert::takesKey(QObject *receiver, QEvent *event)
 {
     if (isHeldKey(event)) {
         event->accept();
         return true;
     }
-    const auto *focused = qobject_cast<QPushButton *>(receiver);
-    if (!isReturnPress(event) || (focused && focused->autoDefault())) {
+    if (!isReturnPress(event)) {
         return false;
     }
     event->accept();
-    if (m_returnButton) {
-        m_returnButton->click();
+    auto *const focused = qobject_cast<QPushButton *>(receiver);
+    if (QPushButton *const pressed = focused ? focused : m_returnButton) {
+        pressed->click();
     }
     return true;
 }

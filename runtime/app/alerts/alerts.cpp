@@ -49,7 +49,7 @@ Alert *newAlert(Tag tag, qint64 style, const QVariant &message, const QVariant &
         alert = Alert::withError(message.value<ErrorObject>());
     } else {
         alert = new Alert;
-        alert->setStyle(style == notGiven ? alertStyleWarning : style);
+        alert->setAlertStyle(style == notGiven ? alertStyleWarning : style);
         for (const QString &title : buttonTitles(buttons)) {
             alert->addAlertButton(title);
         }
@@ -128,7 +128,7 @@ qint64 CUI_Alert(Tag tag, qint64 style, const QVariant &message, const QString &
     if (!existed) {
         alert = newAlert(name, style, message, buttons);
     } else if (style != notGiven) {
-        alert->setStyle(style);
+        alert->setAlertStyle(style);
     }
     if (sheet != notGiven) {
         alert->setSheet(sheet != 0);

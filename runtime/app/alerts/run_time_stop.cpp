@@ -64,7 +64,7 @@ qint64 runStopAlert(const QString &message, const QString &informative, bool isF
     const QPointer<Alert> alert = new Alert;
     alert->setMessageText(message);
     alert->setInformative(informative);
-    alert->setStyle(isFatal ? alertStyleCritical : alertStyleWarning);
+    alert->setAlertStyle(isFatal ? alertStyleCritical : alertStyleWarning);
     addStopButtons(alert, isFatal);
     Tag targetTag = 0;
     const qint64 result = alert->runModal(CUI_TargetWindow(&targetTag));

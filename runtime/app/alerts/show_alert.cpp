@@ -1,10 +1,11 @@
+#include "runtime/app/process/termination.h"
 #include <tetrad/app/alert.h>
 #include <tetrad/app/alerts.h>
-#include <tetrad/app/application.h>
 #include <tetrad/app/windows.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QQueue>
+#include <QScopedValueRollback>
 
 #include <cstdio>
 
@@ -29,7 +30,7 @@ QQueue<Warning> &waitingWarnings()
 void showWarning(const Warning &warning)
 {
     const QPointer<Alert> alert = new Alert;
-    alert->setStyle(warning.style);
+    alert->setAlertStyle(warning.style);
     alert->setMessageText(warning.message);
     alert->setInformative(warning.informative);
     alert->addAlertButton(Alert::tr("OK"));
@@ -38,7 +39,7 @@ void showWarning(const Warning &warning)
     const bool quit = alert->runModal(CUI_TargetWindow(&targetTag)) == alertSecondButton;
     delete alert.data();
     if (quit) {
-        AppTerminate();
+        quitByUser();
     }
 }
 
@@ -50,11 +51,10 @@ void enqueue(const Warning &warning)
     if (isShowing) {
         return;
     }
-    isShowing = true;
+    const QScopedValueRollback guard(isShowing, true);
     while (!waitingWarnings().isEmpty()) {
         showWarning(waitingWarnings().dequeue());
     }
-    isShowing = false;
 }
 
 } // namespace
@@ -62,7 +62,8 @@ void enqueue(const Warning &warning)
 void CUI_ShowAlert(qint64 style, const QString &message, const QString &informative)
 {
     QCoreApplication *const application = QCoreApplication::instance();
-    if (!application) {
+    // Without windows nobody would ever see it.
+    if (!qobject_cast<QApplication *>(application)) {
         std::fprintf(stderr, "%s %s\n", qUtf8Printable(message), qUtf8Printable(informative));
         return;
     }

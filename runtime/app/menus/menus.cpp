@@ -2,6 +2,7 @@
 
 #include "runtime/app/menus/edit_actions.h"
 #include "runtime/app/menus/menu_keys.h"
+#include "runtime/app/process/termination.h"
 #include <tetrad/app/application.h>
 
 #include <QCoreApplication>
@@ -85,7 +86,7 @@ void CUI_BuildMinimalMenu()
     QAction *quit = addItem(menu, verbatim(u"Quit %1"_s.arg(name)), QAction::QuitRole);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setShortcutContext(Qt::ApplicationShortcut);
-    QObject::connect(quit, &QAction::triggered, qApp, &AppTerminate);
+    QObject::connect(quit, &QAction::triggered, qApp, &quitByUser);
     appendMenu(takeMainMenu(), menu);
 }
 

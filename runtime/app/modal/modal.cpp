@@ -4,6 +4,8 @@
 #include "runtime/app/process/platform_events.h"
 #include <tetrad/app/dump.h>
 #include <tetrad/app/menus.h>
+#include <tetrad/app/window.h>
+#include <tetrad/app/windows.h>
 
 #include <QApplication>
 #include <QEventLoop>
@@ -15,6 +17,8 @@
 namespace tetrad {
 
 namespace {
+
+constexpr char worksWhenModalKey[] = "worksWhenModal";
 
 struct ModalRun
 {
@@ -163,25 +167,47 @@ void abortModal()
     stopModalWithCode(modalAborted);
 }
 
+void leaveInFront(QWidget *window)
+{
+    filter().leaveInFront(window);
+}
+
 QWidget *modalWindow()
 {
     return runs.isEmpty() ? nullptr : runs.last()->widget.data();
 }
 
-bool closeMeansQuit(const QWidget *window)
+void setWorksWhenModal(QWidget *widget, bool works)
+{
+    widget->setProperty(worksWhenModalKey, works);
+}
+
+bool worksWhenModal(const QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        if (widget->property(worksWhenModalKey).toBool()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool closeMeansQuit(const Window *window)
 {
     if (runs.isEmpty()) {
         return false;
     }
-    for (const QWidget *each = modalWindow(); each != nullptr; each = each->parentWidget()) {
-        if (each == window) {
-            return true;
-        }
+    const QWidget *carrier = runs.size() == 1 ? modalWindow() : nullptr;
+    while (carrier && carrier != window) {
+        carrier = carrier->parentWidget();
     }
-    const QWidgetList all = QApplication::topLevelWidgets();
-    return std::ranges::none_of(all, [window](const QWidget *other) {
-        return other != window && other->isVisible() && other->inherits("tetrad::Window");
-    });
+    return carrier || isLastVisible(window);
+}
+
+bool isLastVisible(const Window *window)
+{
+    return std::ranges::none_of(orderedWindows(),
+                                [window](const Window *other) { return other != window && other->isVisible(); });
 }
 
 } // namespace tetrad

@@ -1,5 +1,8 @@
 #include "runtime/app/modal/modal_filter.h"
 
+#include <tetrad/app/modal.h>
+#include <tetrad/app/window.h>
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
@@ -85,16 +88,6 @@ bool isIdleBar(const QWidget *widget)
     return bar != nullptr && bar->activeAction() == nullptr;
 }
 
-bool worksWhenModal(const QWidget *widget)
-{
-    for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
-        if (widget->property("worksWhenModal").toBool()) {
-            return true;
-        }
-    }
-    return false;
-}
-
 QWidget *firstFocusable(QWidget *inside)
 {
     if (inside->focusPolicy() != Qt::NoFocus && inside->focusProxy() == nullptr) {
@@ -133,6 +126,7 @@ void ModalFilter::setWidget(QWidget *widget)
 {
     m_widget = widget;
     m_lastFocus = nullptr;
+    m_front = nullptr;
 }
 
 void ModalFilter::focusInside()
@@ -193,7 +187,7 @@ bool ModalFilter::isWithheldFromWindow(QWindow *window, QEvent *event)
     if (isLive(target) || isScrollBar(target)) {
         return false;
     }
-    activateAgain();
+    bringBack();
     return true;
 }
 
@@ -211,6 +205,9 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         windowActivated(widget);
         return false;
     }
+    if (type == QEvent::WindowDeactivate && widget == m_front) {
+        m_front = nullptr;
+    }
     const bool isLost = isKey(type) && isIdleBar(widget) && widget->hasFocus();
     if (m_redirecting || (isLive(widget) && !isLost)) {
         return false;
@@ -223,7 +220,7 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
     }
     if (type == QEvent::Close && event->spontaneous()) {
         // A runtime window asks its delegate, whatever runs; the answer it gives is its own.
-        const bool withheld = !widget->inherits("tetrad::Window");
+        const bool withheld = !qobject_cast<Window *>(widget);
         event->setAccepted(!withheld);
         return withheld;
     }
@@ -268,8 +265,15 @@ bool ModalFilter::redirectKey(QEvent *event)
     if (m_widget == nullptr) {
         return endHere(event);
     }
+    // The key that brings the window back does nothing else.
+    if (m_widget->window()->isMinimized()) {
+        if (event->type() == QEvent::KeyPress) {
+            bringBack();
+        }
+        return endHere(event);
+    }
     const QScopedValueRollback guard(m_redirecting, true);
-    activateAgain();
+    bringBack();
     focusInside();
     if (QWidget *focus = m_widget->window()->focusWidget()) {
         QCoreApplication::sendEvent(focus, event);
@@ -326,16 +330,27 @@ bool ModalFilter::scrolls(const QWidget *widget) const
 
 void ModalFilter::windowActivated(const QWidget *widget)
 {
-    if (m_widget != nullptr && widget->isWindow() && widget != m_widget->window() && !isLive(widget)) {
+    if (m_widget && widget->isWindow() && widget != m_widget->window() && widget != m_front && !isLive(widget)) {
         QMetaObject::invokeMethod(this, &ModalFilter::activateAgain, Qt::QueuedConnection);
     }
 }
 
+// A window manager activates another window when the modal one is minimised; that is not yet the user's wish to have
+// it back.
 void ModalFilter::activateAgain()
 {
-    if (m_widget != nullptr && !m_widget->window()->isActiveWindow()) {
-        m_widget->window()->raise();
-        m_widget->window()->activateWindow();
+    if (m_widget && !m_widget->window()->isMinimized()) {
+        bringBack();
+    }
+}
+
+void ModalFilter::bringBack()
+{
+    QWidget *const window = m_widget ? m_widget->window() : nullptr;
+    if (window && (window->isMinimized() || !window->isActiveWindow())) {
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->raise();
+        window->activateWindow();
     }
 }
 

@@ -32,6 +32,9 @@ public:
     /// Moves the focus into the widget: to where it was there, else to the first place that takes it.
     void focusInside();
 
+    /// Lets a window that the program brought to the front stay there until the user leaves it.
+    void leaveInFront(QWidget *window) { m_front = window; }
+
     /// Sends the keys that were kept to the widget.
     void deliverKeptKeys();
 
@@ -55,10 +58,12 @@ private:
     bool scrolls(const QWidget *widget) const;
     void windowActivated(const QWidget *widget);
     void activateAgain();
+    void bringBack();
     void focusMoved(QWidget *now);
 
     QPointer<QWidget> m_widget;
     QPointer<QWidget> m_lastFocus;
+    QPointer<QWidget> m_front;
     std::vector<std::unique_ptr<QKeyEvent>> m_keptKeys;
     bool m_redirecting = false;
 };

@@ -1,6 +1,7 @@
 #include <tetrad/app/popover.h>
 
 #include <tetrad/app/content_view.h>
+#include <tetrad/app/modal.h>
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -68,6 +69,7 @@ Popover::Popover(Tag tag, const QSize &contentSize) : QWidget(nullptr, Qt::Tool 
     box->addWidget(m_contentView);
     m_contentView->setFixedSize(contentSize);
     setObjectTag(this, tag);
+    setWorksWhenModal(this, true);
     popovers().append(this);
 }
 

@@ -89,6 +89,9 @@ void askManagerToSave(xcb_connection_t *connection)
 
 void handClipboardOver()
 {
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        return;
+    }
     QClipboard *clipboard = QGuiApplication::clipboard();
     if (!clipboard->ownsClipboard()) {
         return;

@@ -1,5 +1,6 @@
 #include "runtime/app/process/platform_events.h"
 
+#include "runtime/app/process/termination.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 
@@ -107,7 +108,7 @@ public:
         }
         // The application's own reaction would be to leave a main loop that does not exist.
         if (event->type() == QEvent::Quit) {
-            AppTerminate();
+            quitByUser();
             return true;
         }
         return false;

@@ -15,19 +15,34 @@
 
 namespace tetrad {
 
+namespace {
+
+bool isAsking = false;
+
+} // namespace
+
+// A program that calls this in its answer to the question has decided; so has a fatal stop there.
 void AppTerminate()
 {
-    static bool asking = false;
-    if (asking) {
-        return;
+    if (isAsking || mayTerminate()) {
+        terminateWithoutAsking();
     }
-    {
-        const QScopedValueRollback guard(asking, true);
-        if (CUI_AppDelegateObj()->applicationShouldTerminate() != CUI_AppDelegate::terminateNow) {
-            return;
-        }
+}
+
+bool mayTerminate()
+{
+    if (isAsking) {
+        return false;
     }
-    terminateWithoutAsking();
+    const QScopedValueRollback guard(isAsking, true);
+    return CUI_AppDelegateObj()->applicationShouldTerminate() == CUI_AppDelegate::terminateNow;
+}
+
+void quitByUser()
+{
+    if (mayTerminate()) {
+        terminateWithoutAsking();
+    }
 }
 
 // Without destroying the application object or closing a window: below this frame are loops, event handlers and main
@@ -36,12 +51,15 @@ void AppTerminate()
 // with its connection.
 void terminateWithoutAsking()
 {
-    static bool ending = false;
-    if (std::exchange(ending, true)) {
-        return;
+    static bool isHandedOver = false;
+    static bool isNotified = false;
+    // Handing over serves events, so it comes first. Either may end the program itself and get here again.
+    if (!std::exchange(isHandedOver, true)) {
+        handClipboardOver();
     }
-    CUI_AppDelegateObj()->applicationWillTerminate({});
-    handClipboardOver();
+    if (!std::exchange(isNotified, true)) {
+        CUI_AppDelegateObj()->applicationWillTerminate({});
+    }
     std::fflush(nullptr);
 #ifdef TETRAD_FIND_LEAKS
     __lsan_do_leak_check();

@@ -1,5 +1,6 @@
 #include <tetrad/app/window.h>
 
+#include "runtime/app/process/termination.h"
 #include "runtime/app/windows/window_order.h"
 #include "runtime/app/windows/window_translator.h"
 #include <tetrad/app/app_delegate.h>
@@ -26,9 +27,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// While a window is being asked whether it may close, a second request would not reach it: the platform window would
+// be destroyed, whatever the answer.
+class CloseStopper : public QObject
+{
+public:
+    explicit CloseStopper(QWindow *window)
+    {
+        if (window) {
+            window->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        const bool isClose = event->type() == QEvent::Close;
+        if (isClose) {
+            event->ignore();
+        }
+        return isClose;
+    }
+};
+
 constexpr char callbackKey[] = "callbackValue";
 constexpr char userDataKey[] = "userDataValue";
 constexpr Qt::WindowStates spreadOut = Qt::WindowMaximized | Qt::WindowFullScreen;
+
+// The user cannot drag a window to less: an input panel still has room in it.
+constexpr QSize smallestUsable(140, 80);
 
 QPoint mainScreenOrigin()
 {
@@ -114,9 +140,20 @@ void Window::setContentRect(const QRectF &rect)
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     m_chrome = measuredChrome();
     const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - QPoint(0, m_chrome.height());
-    setGeometry(QRect(origin, rect.size().toSize() + m_chrome));
-    keepContentSize();
-    fixSizeUnlessResizable();
+    setGeometry(QRect(belowScreenTop(origin), rect.size().toSize() + m_chrome));
+    keepContentPlace();
+    limitDrags();
+}
+
+void Window::holdContentSize(const QSizeF &size)
+{
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (size.isValid()) {
+        setFixedSize(size.toSize() + m_chrome);
+    } else {
+        limitDrags();
+    }
 }
 
 qint64 Window::styleMask() const
@@ -130,6 +167,7 @@ void Window::setStyleMask(qint64 mask)
     const QRectF place = contentRect();
     // Not setWindowFlags, which hides the window.
     overrideWindowFlags((windowFlags() & Qt::WindowType_Mask) | hintsForStyle(mask));
+    menuBar()->setVisible(mask & windowStyleTitled);
     if (QWindow *const handle = windowHandle()) {
         handle->setFlags(windowFlags());
     }
@@ -182,6 +220,7 @@ CUI_WindowController *Window::windowController() const
 
 void Window::makeKeyAndOrderFront()
 {
+    leaveInFront(this);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -208,12 +247,13 @@ bool Window::event(QEvent *event)
         return true;
     }
     if (event->type() == QEvent::Show || (event->type() == QEvent::LayoutRequest && isVisible())) {
-        keepContentSize();
+        keepContentPlace();
     }
     if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) {
         WindowOrder::instance().bringToFront(this);
     }
     const bool closes = event->type() == QEvent::Close && event->isAccepted();
+    const bool isLast = closes && isVisible() && isLastVisible(this);
     m_closed = closes && isReleasedWhenClosed();
     m_translator->translate(event);
     if (guard && closes) {
@@ -223,19 +263,31 @@ bool Window::event(QEvent *event)
             WindowOrder::instance().remove(this);
         }
     }
+    if (isLast && CUI_AppDelegateObj()->applicationShouldTerminateAfterLastWindowClosed()) {
+        AppTerminate();
+    }
     return handled;
 }
 
 void Window::closeEvent(QCloseEvent *event)
 {
+    const CloseStopper stopper(windowHandle());
     const QPointer<Window> guard(this);
-    if (m_delegate && !m_delegate->windowShouldClose(this)) {
+    const bool byUser = event->spontaneous();
+    // Some window managers draw a close box whatever the style says.
+    if ((byUser && !(m_styleMask & windowStyleClosable)) || (m_delegate && !m_delegate->windowShouldClose(this))) {
         event->ignore();
         return;
     }
-    if (guard && closeMeansQuit(this)) {
-        AppTerminate();
-        event->ignore();
+    if (!guard || !byUser || !closeMeansQuit(this)) {
+        return;
+    }
+    event->ignore();
+    if (mayTerminate()) {
+        if (guard && m_delegate) {
+            m_delegate->windowWillClose(this);
+        }
+        terminateWithoutAsking();
     }
 }
 
@@ -245,6 +297,12 @@ bool Window::focusNextPrevChild(bool next)
         recalculateKeyViewLoop();
     }
     return QMainWindow::focusNextPrevChild(next);
+}
+
+// No menu of unlabelled ticks that hide tool bars.
+QMenu *Window::createPopupMenu()
+{
+    return nullptr;
 }
 
 // A window manager adds its frame some time after the window was shown. Until then the title bar that
@@ -269,9 +327,9 @@ QSize Window::measuredChrome()
     return rect().contains(m_contentView->pos()) ? size() - m_contentView->size() : m_chrome;
 }
 
-// The menu bar's height is known for certain only once it is shown, and it may come and go later: a
-// desktop may take it out of the window, menus may be added.
-void Window::keepContentSize()
+// The menu bar's height is known for certain only once it is shown, and bars may come and go later: a
+// desktop may take the menu bar out of the window, menus or a tool bar may be added.
+void Window::keepContentPlace()
 {
     const QSize grown = measuredChrome() - m_chrome;
     if (grown.isNull()) {
@@ -283,15 +341,26 @@ void Window::keepContentSize()
     }
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    resize(size() + grown);
-    fixSizeUnlessResizable();
+    setGeometry(QRect(belowScreenTop(geometry().topLeft() - QPoint(0, grown.height())), size() + grown));
+    limitDrags();
 }
 
-void Window::fixSizeUnlessResizable()
+// What the program made smaller than the smallest window that can be used stays so.
+void Window::limitDrags()
 {
-    if (!(m_styleMask & windowStyleResizable)) {
+    if (m_styleMask & windowStyleResizable) {
+        setMinimumSize(size().boundedTo(smallestUsable));
+    } else {
         setFixedSize(size());
     }
+}
+
+QPoint Window::belowScreenTop(QPoint origin) const
+{
+    const QScreen *const there = QGuiApplication::screenAt(origin + QPoint(0, m_chrome.height()));
+    const QRect available = (there ? there : screen())->availableGeometry();
+    origin.setY(std::max(origin.y(), available.top() + frameMargins().top()));
+    return origin;
 }
 
 void Window::recalculateKeyViewLoop()

@@ -8,9 +8,17 @@
 #include <QWindow>
 #include <QWindowStateChangeEvent>
 
+#include <algorithm>
+#include <utility>
+
 namespace tetrad {
 
 namespace {
+
+constexpr Qt::WindowStates spreadOut = Qt::WindowMaximized | Qt::WindowFullScreen;
+
+// How many geometries that the program requested may still be echoed.
+constexpr qsizetype mostRequested = 6;
 
 using Notification = void (CUI_WindowDelegate::*)(Window *);
 
@@ -24,25 +32,11 @@ void notify(const QPointer<Window> &window, const QList<Notification> &notificat
     }
 }
 
-// Asks whether the window may have the size it was given, and gives it the size in the answer.
-// Returns whether the resize still has to be reported.
-bool confirmSize(const QPointer<Window> &window, const QSizeF &size)
-{
-    const QSizeF answer = window->delegate()->windowWillResize(window, size);
-    if (!window || answer == size || !answer.isValid()) {
-        return window;
-    }
-    QRectF place = window->contentRect();
-    place.setSize(answer);
-    window->setContentRect(place);
-    return window && window->contentRect().size() == size;
-}
-
 // Asks about a zoom that the window system has begun. It is undone later: the window system must
 // not be contradicted while it is still at it.
 void confirmZoom(const QPointer<Window> &window)
 {
-    QRectF standard = window->screen()->availableGeometry();
+    QRectF standard = window->screen()->availableGeometry() - window->frameMargins();
     standard.setTop(standard.top() + window->contentView()->y());
     const QRectF frame = window->delegate()->windowWillUseStandardFrame(window, standard);
     const bool zooms = window && window->delegate() && window->delegate()->windowShouldZoom(window, frame);
@@ -70,21 +64,17 @@ void WindowTranslator::translate(QEvent *event)
         shown();
         break;
     case QEvent::Move:
-        moved(event->spontaneous());
-        break;
     case QEvent::Resize:
-        resized(event->spontaneous());
+        changed(event->spontaneous());
         break;
     case QEvent::Timer:
-        if (static_cast<QTimerEvent *>(event)->timerId() == m_liveResize.timerId()) {
-            m_liveResize.stop();
-            notify(m_window, {&CUI_WindowDelegate::windowDidEndLiveResize});
-        }
+        timedOut(static_cast<QTimerEvent *>(event)->timerId());
         break;
     case QEvent::WindowStateChange:
         stateChanged(static_cast<QWindowStateChangeEvent *>(event)->oldState());
         break;
     case QEvent::WindowActivate:
+        m_isSettled = true;
         notify(m_window, {&CUI_WindowDelegate::windowDidBecomeKey, &CUI_WindowDelegate::windowDidBecomeMain});
         break;
     case QEvent::WindowDeactivate:
@@ -116,41 +106,102 @@ void WindowTranslator::shown()
     }
 }
 
-void WindowTranslator::moved(bool byWindowSystem)
+// What the window system did is judged a moment later: a new state of the window and the geometry that belongs to it
+// come in either order, and a drag comes in more steps than anybody wants to be asked about.
+void WindowTranslator::changed(bool byWindowSystem)
 {
-    const QPointF place = m_window->contentRect().topLeft();
-    if (m_place.isNull() || place == m_place.topLeft()) {
+    if (m_place.isNull()) {
         return;
     }
-    m_place.moveTopLeft(place);
-    // As on the platform that the codes come from, only the user's moves are announced.
     if (byWindowSystem) {
-        notify(m_window, {&CUI_WindowDelegate::windowWillMove, &CUI_WindowDelegate::windowDidMove});
-    } else {
-        notify(m_window, {&CUI_WindowDelegate::windowDidMove});
+        if (!m_judge.isActive()) {
+            m_judge.start(judgePause_ms, m_window);
+        }
+        return;
+    }
+    m_requested = (QList{m_window->geometry()} + m_requested).first(std::min(m_requested.size() + 1, mostRequested));
+    report(false, false);
+}
+
+void WindowTranslator::timedOut(int timer)
+{
+    if (timer == m_judge.timerId()) {
+        m_judge.stop();
+        judge();
+    } else if (timer == m_liveResize.timerId()) {
+        m_liveResize.stop();
+        endLiveResize();
     }
 }
 
-void WindowTranslator::resized(bool byWindowSystem)
+// Not the user's: what the window manager does before the window is in use, what comes with maximising and back, and
+// the late echo of what the program requested.
+void WindowTranslator::judge()
+{
+    const QRect now = m_window->geometry();
+    const bool mayBeUser = m_isSettled && !(m_window->windowState() & spreadOut) && m_spreading.hasExpired();
+    const bool isMove = mayBeUser && std::ranges::none_of(m_requested, [now](const QRect &requested) {
+                            return requested.topLeft() == now.topLeft();
+                        });
+    const bool isResize = mayBeUser && std::ranges::none_of(m_requested, [now](const QRect &requested) {
+                              return requested.size() == now.size();
+                          });
+    if (isMove || isResize) {
+        m_requested.clear();
+    }
+    report(isMove, isResize);
+}
+
+void WindowTranslator::report(bool userMoved, bool userResized)
 {
     const QPointer<Window> window = m_window;
-    const QSizeF size = window->contentRect().size();
-    if (m_place.isNull() || size == m_place.size()) {
+    const QRectF now = window->contentRect();
+    const QRectF before = std::exchange(m_place, now);
+    if (now.topLeft() != before.topLeft()) {
+        // As on the platform that the codes come from, only the user's moves are announced.
+        if (userMoved) {
+            notify(window, {&CUI_WindowDelegate::windowWillMove});
+        }
+        notify(window, {&CUI_WindowDelegate::windowDidMove});
+    }
+    if (!window || now.size() == before.size()) {
         return;
     }
-    m_place.setSize(size);
-    const bool byUser = byWindowSystem && !(window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
-    if (byUser && window->delegate()) {
-        const bool begins = !m_liveResize.isActive();
-        m_liveResize.start(liveResizePause_ms, window);
-        if (begins) {
-            notify(window, {&CUI_WindowDelegate::windowWillStartLiveResize});
-        }
-        if (!window || !confirmSize(window, size)) {
-            return;
-        }
+    if (userResized && window->delegate()) {
+        confirmSize(now.size());
+    } else {
+        notify(window, {&CUI_WindowDelegate::windowDidResize});
     }
-    notify(window, {&CUI_WindowDelegate::windowDidResize});
+}
+
+// Asks once for each size that is offered. A window manager may go on with its own size as long as the user drags, so
+// the window is held at another size in the answer until the drag is over.
+void WindowTranslator::confirmSize(const QSizeF &size)
+{
+    const QPointer<Window> window = m_window;
+    if (!m_liveResize.isActive()) {
+        m_liveResize.start(liveResizePause_ms, window);
+        notify(window, {&CUI_WindowDelegate::windowWillStartLiveResize});
+    }
+    const QSizeF answer = window && window->delegate() ? window->delegate()->windowWillResize(window, size) : size;
+    if (!window) {
+        return;
+    }
+    m_liveResize.start(liveResizePause_ms, window);
+    if (answer.isValid() && answer != size) {
+        m_held = answer;
+        window->holdContentSize(answer);
+    } else {
+        notify(window, {&CUI_WindowDelegate::windowDidResize});
+    }
+}
+
+void WindowTranslator::endLiveResize()
+{
+    if (std::exchange(m_held, QSizeF()).isValid()) {
+        m_window->holdContentSize(QSizeF());
+    }
+    notify(m_window, {&CUI_WindowDelegate::windowDidEndLiveResize});
 }
 
 void WindowTranslator::stateChanged(Qt::WindowStates before)
@@ -158,6 +209,9 @@ void WindowTranslator::stateChanged(Qt::WindowStates before)
     const QPointer<Window> window = m_window;
     const Qt::WindowStates entered = window->windowState() & ~before;
     const Qt::WindowStates left = before & ~window->windowState();
+    if ((entered | left) & spreadOut) {
+        m_spreading.setRemainingTime(liveResizePause_ms);
+    }
     if (entered & Qt::WindowMinimized) {
         notify(window, {&CUI_WindowDelegate::windowWillMiniaturize, &CUI_WindowDelegate::windowDidMiniaturize});
     } else if (left & Qt::WindowMinimized) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QBasicTimer>
+#include <QDeadlineTimer>
+#include <QList>
 #include <QPointer>
 #include <QRectF>
 
@@ -21,6 +23,7 @@ class WindowTranslator
 {
 public:
     static constexpr int liveResizePause_ms = 250;
+    static constexpr int judgePause_ms = 30;
 
     explicit WindowTranslator(Window *window);
 
@@ -30,12 +33,23 @@ public:
 
 private:
     void shown();
-    void moved(bool byWindowSystem);
-    void resized(bool byWindowSystem);
+    void changed(bool byWindowSystem);
+    void timedOut(int timer);
+    void judge();
+    void report(bool userMoved, bool userResized);
+    void confirmSize(const QSizeF &size);
+    void endLiveResize();
     void stateChanged(Qt::WindowStates before);
 
     QPointer<Window> m_window;
+    QBasicTimer m_judge;
     QBasicTimer m_liveResize;
+    QDeadlineTimer m_spreading = QDeadlineTimer(0);
+    // The window's geometries that the program requested, newest first.
+    QList<QRect> m_requested;
+    // The size in the answer that the window is held at; invalid when it is not.
+    QSizeF m_held;
+    bool m_isSettled = false;
     // The content rectangle last reported; null until the window was first shown.
     QRectF m_place;
     QPointer<QWindow> m_watchedHandle;

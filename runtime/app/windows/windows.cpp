@@ -2,6 +2,7 @@
 
 #include "runtime/app/windows/window_order.h"
 #include <tetrad/app/app_delegate.h>
+#include <tetrad/app/modal.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/window_delegate.h>
 #include <tetrad/events/dialog_event.h>
@@ -97,6 +98,13 @@ void WindowCenter(Tag tag)
 {
     if (Window *const window = CUI_WindowWithTag(tag)) {
         window->center();
+    }
+}
+
+void WindowSetWorksWhenModal(Tag tag, bool works)
+{
+    if (Window *const window = CUI_WindowWithTag(tag)) {
+        setWorksWhenModal(window, works);
     }
 }
 

@@ -1,6 +1,7 @@
 #include <tetrad/console/console_scroll_view.h>
 
 #include <tetrad/app/content_view.h>
+#include <tetrad/app/modal.h>
 #include <tetrad/console/console_view.h>
 
 #include <QEvent>
@@ -11,13 +12,6 @@
 
 namespace tetrad {
 
-namespace {
-
-// A modal run withholds mouse and keys from other widgets; a console can be scrolled and copied from at any time.
-constexpr char worksWhenModal[] = "worksWhenModal";
-
-} // namespace
-
 CUI_PrintToWindowScrollView::CUI_PrintToWindowScrollView(QWidget *contentView) : QScrollArea(contentView)
 {
     setFrameShape(QFrame::NoFrame);
@@ -25,9 +19,8 @@ CUI_PrintToWindowScrollView::CUI_PrintToWindowScrollView(QWidget *contentView) :
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setFocusPolicy(Qt::NoFocus);
     setGeometry(contentView->rect());
-    for (QWidget *part : {static_cast<QWidget *>(this), viewport(), static_cast<QWidget *>(verticalScrollBar())}) {
-        part->setProperty(worksWhenModal, true);
-    }
+    // A console can be scrolled and copied from at any time.
+    setWorksWhenModal(this, true);
     viewport()->setAutoFillBackground(false);
     contentView->installEventFilter(this);
     lower();
@@ -38,7 +31,6 @@ void CUI_PrintToWindowScrollView::setDocumentView(CUI_PrintToWindowView *view)
 {
     setWidget(view);
     view->setAutoFillBackground(false);
-    view->setProperty(worksWhenModal, true);
     view->show();
 }
 

@@ -1,6 +1,7 @@
 #include <tetrad/controls/panels.h>
 
 #include "runtime/controls/dispatch/event_site.h"
+#include <tetrad/app/modal.h>
 #include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
@@ -21,6 +22,7 @@ Panel *panelIn(QPointer<Panel> &slot, Connect connectPanel)
         slot = new Panel;
         slot->setOptions(Panel::NoButtons | Panel::DontUseNativeDialog);
         slot->setWindowFlags(slot->windowFlags() | Qt::Tool);
+        setWorksWhenModal(slot, true);
         connectPanel(slot.data());
     }
     setObjectWindowTag(slot, CUI_OutputWindowTag());
