@@ -1,7 +1,6 @@
 #include "runtime/strings/description.h"
 
 #include <tetrad/strings/error_object.h>
-#include <tetrad/strings/mac_roman.h>
 
 #include <QObject>
 #include <QStringList>
@@ -54,9 +53,8 @@ QString mapDescription(const QVariantMap &map)
 
 QString objectDescription(const QObject *object)
 {
-    return object == nullptr
-               ? textOrNull({})
-               : u'<' + QString::fromLatin1(object->metaObject()->className()) + u": " + addressText(object) + u'>';
+    return object ? u'<' + QString::fromLatin1(object->metaObject()->className()) + u": " + addressText(object) + u'>'
+                  : textOrNull({});
 }
 
 /// A value of some other type: its text form if it has one, else the type's name.
@@ -88,7 +86,7 @@ QString descriptionOf(const QVariant &object)
     case QMetaType::QString:
         return textOrNull(object.toString());
     case QMetaType::QByteArray:
-        return object.toByteArray().isNull() ? textOrNull({}) : fromMacRoman(object.toByteArray());
+        return textOrNull(QString::fromUtf8(object.toByteArray()));
     case QMetaType::Bool:
         return QString::number(object.toInt());
     case QMetaType::Float:

@@ -61,27 +61,11 @@ private:
 
     void parseFlags()
     {
-        for (;; ++m_at) {
-            switch (current()) {
-            case u'-':
-                m_directive.leftAdjusted = true;
-                break;
-            case u'+':
-                m_directive.plusSign = true;
-                break;
-            case u' ':
-                m_directive.blankSign = true;
-                break;
-            case u'#':
-                m_directive.alternate = true;
-                break;
-            case u'0':
-                m_directive.zeroPadded = true;
-                break;
-            case u'\'': // Groups of digits are a matter of the locale: none.
-                break;
-            default:
-                return;
+        // "'" groups digits where the locale has groups; the C locale has none.
+        for (; QStringView(u"-+ #0'").contains(QChar(current())) && current() != u'\0'; ++m_at) {
+            const char flag = static_cast<char>(current());
+            if (flag != '\'' && !m_directive.flags.contains(flag)) {
+                m_directive.flags += flag;
             }
         }
     }

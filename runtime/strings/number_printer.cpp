@@ -14,9 +14,8 @@ namespace {
 // Single precision on purpose: it is a little below 1e-6, so that a fraction of 1e-6 still prints.
 constexpr float smallestFraction = 1e-6F;
 
-/// The digits of a fraction, as in "25" of "-0.2500000000". Leading zeros go along with the sign and
-/// the point: deliberate, programs rely on the printed form, and so 2.05 prints like 2.5. A fraction
-/// that rounds up to one leaves "1.".
+/// The digits of a fraction, as in "25" of "-0.2500000000". Deliberately drops leading zeros with the sign and the
+/// point: programs rely on this form, in which 2.05 prints like 2.5. A fraction that rounds up to one leaves "1.".
 QStringView fractionDigits(QStringView printed)
 {
     while (printed.endsWith(u'0')) {
@@ -35,9 +34,9 @@ QString CopyDblToString(double number)
     double integerPart = 0;
     const double fraction = std::modf(number, &integerPart);
     QString printed = QString::number(saturatedTo<qint64>(integerPart));
-    // Written so that a number that is none gets through to the fraction and prints as "nan".
+    // NaN falls through to the fraction branch and prints as "nan".
     if (!(std::abs(fraction) < double(smallestFraction))) {
-        const QString fractionText = printDouble({.precision = gZRFloatMaxDigits, .conversion = 'f'}, fraction);
+        const QString fractionText = printNumber("%*.*f", 0, gZRFloatMaxDigits, fraction);
         printed += u'.' + fractionDigits(fractionText);
     }
     return printed.startsWith(u'-') ? printed : u' ' + printed;

@@ -26,7 +26,7 @@ bool isFloating(const QVariant &value)
     return value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float;
 }
 
-/// The argument as the 64 bits printf would take it for.
+/// The argument as the 64 bits that printf would read.
 quint64 bitsOf(const QVariant &value, const FormatDirective &directive)
 {
     const bool isSigned = directive.conversion == 'd' || directive.conversion == 'i';
@@ -39,6 +39,9 @@ quint64 bitsOf(const QVariant &value, const FormatDirective &directive)
     }
     if (value.typeId() == QMetaType::QString) {
         return quint64(StringIntegerValue(value.toString()));
+    }
+    if (value.metaType().flags() & QMetaType::PointerToQObject) {
+        return quintptr(value.value<QObject *>());
     }
     if (value.typeId() == QMetaType::VoidStar) {
         return quintptr(value.value<void *>());
@@ -73,10 +76,10 @@ public:
     }
 
 private:
-    /// The argument at a place from 1, or for place 0 the next one; none if there are not that many.
-    QVariant argumentAt(int place)
+    /// The argument at a position from 1, or the next one for 0; null beyond the last.
+    QVariant argumentAt(int position)
     {
-        const std::size_t index = place > 0 ? static_cast<std::size_t>(place) - 1 : m_next++;
+        const std::size_t index = position > 0 ? static_cast<std::size_t>(position) - 1 : m_next++;
         return index < m_arguments.size() ? m_arguments[index].value() : QVariant();
     }
 
@@ -95,29 +98,18 @@ private:
         }
     }
 
-    NumberStyle styleOf(const FormatDirective &directive)
-    {
-        const int width = numberOf(directive.width, 0);
-        const int precision = numberOf(directive.precision, -1);
-        // A negative width from an argument means left-adjusted, a negative precision none.
-        return {.leftAdjusted = directive.leftAdjusted || width < 0,
-                .plusSign = directive.plusSign,
-                .blankSign = directive.blankSign,
-                .alternate = directive.alternate,
-                .zeroPadded = directive.zeroPadded,
-                .width = std::abs(width),
-                .precision = std::max(precision, -1),
-                .conversion = directive.conversion};
-    }
-
     void print(const FormatDirective &directive)
     {
         if (directive.conversion == '%') {
             m_out += u'%';
             return;
         }
-        const NumberStyle style = styleOf(directive);
+        int width = numberOf(directive.width, 0);
+        const int precision = numberOf(directive.precision, -1);
         const QVariant value = argumentAt(directive.argument);
+        if (width < 0 || directive.flags.contains('-')) {
+            width = -std::abs(width);
+        }
         switch (directive.conversion) {
         case 'd':
         case 'i':
@@ -125,50 +117,42 @@ private:
         case 'o':
         case 'x':
         case 'X':
-            m_out += integer(style, bitsOf(value, directive), directive.bits);
+            m_out += printNumber('%' + directive.flags + "*.*ll" + directive.conversion, width, precision,
+                                 cutToSize(bitsOf(value, directive), directive));
             break;
         case '@':
         case 's':
-        case 'S':
-            m_out += text(style, value);
+        case 'S': {
+            const QString text = descriptionOf(value);
+            m_out += padded(precision < 0 ? text : text.left(precision), width);
             break;
+        }
         case 'c':
         case 'C':
-            m_out += padded(style, character(directive, value));
+            m_out += padded(character(directive, value), width);
             break;
         case 'p':
-            m_out += padded(style, u"0x" + QString::number(bitsOf(value, directive), 16));
+            m_out += padded(u"0x" + QString::number(bitsOf(value, directive), 16), width);
             break;
-        case 'n': // Takes its argument and writes nothing, neither here nor there.
+        case 'n': // Takes its argument and deliberately writes nowhere.
             break;
         default:
-            m_out += printDouble(style, ZRDblVal(value));
+            m_out +=
+                printNumber('%' + directive.flags + "*.*" + directive.conversion, width, precision, ZRDblVal(value));
         }
     }
 
-    static QString integer(const NumberStyle &style, quint64 value, int bits)
+    /// A negative width means left-adjusted, as for printf.
+    static QString padded(const QString &text, int width)
     {
-        const int unused = 64 - bits;
-        if (style.conversion != 'd' && style.conversion != 'i') {
-            return printInteger(style, (value << unused) >> unused, false);
-        }
-        const qint64 number = static_cast<qint64>(value << unused) >> unused;
-        return printInteger(style, number < 0 ? 0 - static_cast<quint64>(number) : static_cast<quint64>(number),
-                            number < 0);
+        return width < 0 ? text.leftJustified(-width) : text.rightJustified(width);
     }
 
-    /// The precision counts characters, which for the bytes of "%s" are bytes; a zero byte ends those.
-    static QString text(const NumberStyle &style, const QVariant &value)
+    static quint64 cutToSize(quint64 value, const FormatDirective &directive)
     {
-        QString whole;
-        if (value.typeId() == QMetaType::QByteArray && !value.toByteArray().isNull()) {
-            const QByteArray bytes = value.toByteArray();
-            const qsizetype zero = bytes.indexOf('\0');
-            whole = fromMacRoman(zero < 0 ? bytes : bytes.first(zero));
-        } else {
-            whole = descriptionOf(value);
-        }
-        return padded(style, style.precision < 0 ? whole : whole.left(style.precision));
+        const int unused = 64 - directive.bits;
+        const bool isSigned = directive.conversion == 'd' || directive.conversion == 'i';
+        return isSigned ? quint64(static_cast<qint64>(value << unused) >> unused) : (value << unused) >> unused;
     }
 
     static QString character(const FormatDirective &directive, const QVariant &value)

@@ -3,6 +3,7 @@
 #include <tetrad/strings/text_format.h>
 
 #include <QStringList>
+#include <QTimer>
 
 #include <cmath>
 #include <limits>
@@ -21,10 +22,14 @@ void expectAll(const Table<QString, const char *> &rows)
     }
 }
 
-// What C's printf prints as well is compared with it by the fuzz harness; here is what it would not take.
-TEST(TextFormat, printsNumbersGivenAsAnotherType)
+TEST(TextFormat, printsNumbersAsPrintfDoesAndThoseGivenAsAnotherType)
 {
     expectAll({
+        {"flags", StringWithFormat(u"%+08.3d %#o %#-8llx| % .1e %'d"_s, 42, 8, 255, 2.5, 1234),
+         "    +042 010 0xff    |  2.5e+00 1234"},
+        {"general and hexadecimal", StringWithFormat(u"%#G %g %.2a"_s, 0.5, 1e10, 1.0), "0.500000 1e+10 0x1.00p+0"},
+        {"halves round to even, -0 keeps its sign", StringWithFormat(u"%.0f %.0f %f"_s, 0.5, 1.5, -0.0),
+         "0 2 -0.000000"},
         {"width from arguments", StringWithFormat(u"[%*d|%*d]"_s, 3, 7, -3, 7), "[  7|7  ]"},
         {"precision from an argument", StringWithFormat(u"%.*f %.*f"_s, 1, 0.25, -1, 0.25), "0.2 0.250000"},
         {"extremes",
@@ -50,8 +55,9 @@ TEST(TextFormat, printsTextsAndObjects)
         {"a directive in an argument is text", StringWithFormat(u"%@"_s, u"%d"_s), "%d"},
         {"width and precision", StringWithFormat(u"[%5@|%-5@|%.2@]"_s, u"ab"_s, u"ab"_s, u"abc"_s), "[   ab|ab   |ab]"},
         {"C string", StringWithFormat(u"[%s|%5.2s|%.*s]"_s, "abc", "abc", 1, "abc"), "[abc|   ab|a]"},
-        {"C string is Mac Roman", StringWithFormat(u"%s %@ %c"_s, "\x80", "\x80", 0x80), "Ä Ä Ä"},
-        {"bytes up to a zero", StringWithFormat(u"%s"_s, QByteArray("a\0b", 3)), "a"},
+        {"narrow text is UTF-8", StringWithFormat(u"%s %@ %@"_s, "é", "é", QByteArray("é")), "é é é"},
+        {"wide text", StringWithFormat(u"%@ %.1s"_s, u"é", u"éa"), "é é"},
+        {"byte of Mac Roman", StringWithFormat(u"%c"_s, 0x80), "Ä"},
         {"numbers", StringWithFormat(u"%@ %@ %@ %@"_s, 24, 0.1, 0.1F, -7LL), "24 0.1 0.1 -7"},
         {"error object", StringWithFormat(u"%@"_s, error), "No operand at 2"},
         {"list", StringWithFormat(u"%@"_s, QStringList{u"a"_s, u"b"_s}), "(a, b)"},
@@ -60,6 +66,14 @@ TEST(TextFormat, printsTextsAndObjects)
          "0xbeef 0xbeef"},
         {"count of characters is not written", StringWithFormat(u"a%nb%d"_s, 1, 2), "ab2"},
     });
+}
+
+TEST(TextFormat, describesAPointerToAnObject)
+{
+    QTimer object;
+    const QString address = StringWithFormat(u"%p"_s, &object);
+    EXPECT_EQ(address, u"0x" + QString::number(quintptr(&object), 16));
+    EXPECT_EQ(StringWithFormat(u"%@"_s, &object), u"<QTimer: " + address + u'>');
 }
 
 TEST(TextFormat, survivesWhatIsMissingOrMalformed)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QVariant>
 
@@ -8,15 +9,17 @@
 
 namespace tetrad {
 
-/// One argument of a formatted text: a number, a text, a C string, an address, or any object in a
-/// QVariant. C strings are Mac Roman, as length-prefixed strings are.
+/// One argument of a formatted text: a number, a text, an object, an address, or anything in a QVariant. Narrow texts
+/// are UTF-8, as the format is.
 class FormatArgument
 {
 public:
     FormatArgument(const QVariant &value) : m_value(value) {}
     FormatArgument(const QString &text) : m_value(text) {}
-    FormatArgument(const char *bytes) : m_value(QByteArray(bytes)) {}
-    FormatArgument(const QByteArray &bytes) : m_value(bytes) {}
+    FormatArgument(const char16_t *text) : m_value(QString::fromUtf16(text)) {}
+    FormatArgument(const char *text) : m_value(QString::fromUtf8(text)) {}
+    FormatArgument(const QByteArray &text) : m_value(QString::fromUtf8(text)) {}
+    FormatArgument(const QObject *object) : m_value(QVariant::fromValue(const_cast<QObject *>(object))) {}
     FormatArgument(const void *address) : m_value(QVariant::fromValue(const_cast<void *>(address))) {}
     template <typename Number>
     requires std::is_arithmetic_v<Number> FormatArgument(Number number) : m_value(widest(number)) {}
@@ -41,11 +44,12 @@ private:
     QVariant m_value;
 };
 
-/// Formats by printf conventions in the C locale, "%1$d" positions included, "%@" standing for a text
-/// or any object's description. An integer is cut to the directive's size (32 bits, or by hh, h, l, ll,
-/// q, j, z, t), a double given for one saturates, a text given for a number is read as its value. A
-/// missing argument is 0 or "(null)"; what is no directive stays in the text as it is. Widths and
-/// precisions end at 10000.
+/// Formats by printf conventions in the C locale, "%1$d" positions included; "%@" prints a text or any object's
+/// description. An integer is cut to the directive's size (32 bits, or by hh, h, l, ll, q, j, z, t), a double given for
+/// one saturates, a text given for a number is read as its value. The precision of a text counts UTF-16 units. A
+/// missing argument is 0 or "(null)"; a malformed directive stays in the text as it is. Widths and precisions end at
+/// 10000.
+// Implemented in runtime/strings/text_format.cpp
 QString formatText(const QString &format, std::initializer_list<FormatArgument> arguments);
 
 template <typename... Args>
