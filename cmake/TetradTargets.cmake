@@ -14,11 +14,14 @@ if(TETRAD_SANITIZE)
     add_link_options(-fsanitize=${TETRAD_SANITIZE})
 endif()
 
-# Warnings and definitions of the project's own code.
+# Warnings, definitions and the precompiled header of the project's own code.
 function(tetrad_target_defaults target)
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
+    if(TARGET tetrad_precompiled AND NOT target STREQUAL "tetrad_precompiled")
+        target_precompile_headers(${target} REUSE_FROM tetrad_precompiled)
+    endif()
     if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow)
         if(TETRAD_WERROR)
@@ -28,6 +31,21 @@ function(tetrad_target_defaults target)
         target_compile_options(${target} PRIVATE /W4 /utf-8)
     endif()
 endfunction()
+
+# One precompiled header for all of that code, which takes a third off the time to build it. Clang goes without: a precompiled
+# header hides a missing include, and one compiler has to find it.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    file(CONFIGURE OUTPUT precompiled.cpp CONTENT "")
+    add_library(tetrad_precompiled OBJECT "${CMAKE_CURRENT_BINARY_DIR}/precompiled.cpp")
+    set_target_properties(tetrad_precompiled PROPERTIES AUTOMOC OFF POSITION_INDEPENDENT_CODE ON)
+    # Only the folders of Qt6::Widgets: a definition of its own would keep the layers that link Qt6::Core alone from using this.
+    target_include_directories(tetrad_precompiled SYSTEM PRIVATE
+        $<TARGET_PROPERTY:Qt6::Gui,INTERFACE_INCLUDE_DIRECTORIES>
+        $<TARGET_PROPERTY:Qt6::Widgets,INTERFACE_INCLUDE_DIRECTORIES>)
+    target_link_libraries(tetrad_precompiled PRIVATE Qt6::Core)
+    tetrad_target_defaults(tetrad_precompiled)
+    target_precompile_headers(tetrad_precompiled PRIVATE "${PROJECT_SOURCE_DIR}/cmake/precompiled.h")
+endif()
 
 # A layer of the runtime: a static library. Its public headers are in include/, as in <tetrad/app/windows.h>; private ones
 # stay beside their sources and are included from the repository's root, as in "runtime/app/menus/menu_keys.h".
