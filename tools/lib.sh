@@ -16,6 +16,8 @@ packages_lint=(clang clang-format clang-tidy)
 # shellcheck disable=SC2034
 packages_fuzz=(clang libclang-rt-dev)
 # shellcheck disable=SC2034
+packages_system=(debootstrap git)
+# shellcheck disable=SC2034
 packages_bench=(libbenchmark-dev libfparser-dev libmuparser-dev pkgconf libx11-dev libxtst-dev libxdamage-dev
     xvfb openbox dbus-daemon python3 sgt-puzzles kmines gbrainy)
 
