@@ -21,6 +21,8 @@ function(tetrad_target_defaults target)
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
     if(TARGET tetrad_precompiled AND NOT target STREQUAL "tetrad_precompiled")
         target_precompile_headers(${target} REUSE_FROM tetrad_precompiled)
+        # Executables would be compiled with -fPIE, for which the header is another one.
+        target_compile_options(${target} PRIVATE -fPIC)
     endif()
     if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow)
@@ -35,7 +37,7 @@ endfunction()
 # One precompiled header for all of that code, which takes a third off the time to build it. Clang goes without: a precompiled
 # header hides a missing include, and one compiler has to find it.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    file(CONFIGURE OUTPUT precompiled.cpp CONTENT "")
+    file(CONFIGURE OUTPUT precompiled.cpp CONTENT "// Only the header counts.\n")
     add_library(tetrad_precompiled OBJECT "${CMAKE_CURRENT_BINARY_DIR}/precompiled.cpp")
     set_target_properties(tetrad_precompiled PROPERTIES AUTOMOC OFF POSITION_INDEPENDENT_CODE ON)
     # Only the folders of Qt6::Widgets: a definition of its own would keep the layers that link Qt6::Core alone from using this.
