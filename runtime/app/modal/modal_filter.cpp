@@ -239,7 +239,11 @@ void ModalFilter::followKeyboard()
     const bool isOver = QApplication::activePopupWidget() == nullptr;
     if (isOver && window != nullptr && window->isVisible() && window->windowType() != Qt::Popup &&
         !window->isActiveWindow()) {
+        // The recommended activateWindow() does nothing for the window that has the keyboard already.
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
         QApplication::setActiveWindow(window);
+        QT_WARNING_POP
     }
 }
 
