@@ -8,7 +8,7 @@ import signal
 from desktop import until
 from playing import PROGRAM, REPOSITORY, PlayingTest
 
-NO_DISPLAY = r"(?m)^Tetrad Game cannot open the display \(.*\); start it from a desktop session"
+NO_DISPLAY = r"(?m)^Tetrad Game cannot open the display \(.*\)[;:] "
 EXHAUSTED = r"(?m)^Tetrad Game has reached the limit of memory or of threads"
 ONE_SENTENCE = r"\A[^\n]*display[^\n]*\.\n\Z"
 MEGABYTE = 1 << 20
@@ -106,6 +106,7 @@ class TestDisplay(FaultTest):
                 self.assertEqual(status, 1)
                 self.assertRegex(errors, NO_DISPLAY)
                 self.assertIn(f"QT_QPA_PLATFORM={platform}", errors)
+                self.assertEqual(f'"{platform}" is not installed' in errors, platform != "linuxfb")
 
     def test_a_platform_with_unknown_options_plays(self):
         for platform in ("xcb:nonsense=1:%n", "nonsense;xcb", ""):

@@ -20,10 +20,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QStringView startElsewhere = u"; start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY to one";
+
 [[noreturn]] void endWithoutDisplay(const QString &trouble)
 {
-    const QString sentence = QCoreApplication::applicationName() + u' ' + trouble +
-                             u"; start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY to one.\n";
+    const QString sentence = QCoreApplication::applicationName() + u' ' + trouble + u".\n";
     std::fputs(qUtf8Printable(sentence), stderr);
     std::fflush(nullptr);
     // Not exit: the application object is half made.
@@ -41,21 +42,39 @@ QString requestedPlatform()
     return requests.join(u' ');
 }
 
-QString cannotOpenDisplay()
-{
-    return u"cannot open the display (" + requestedPlatform() + u')';
-}
-
 void requireDisplaySetting()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     if (requestedPlatform().isEmpty()) {
-        endWithoutDisplay(u"needs a display and there is none"_s);
+        endWithoutDisplay(u"needs a display and there is none" + startElsewhere);
     }
 #endif
 }
 
 QtMessageHandler handlerBefore = nullptr;
+
+// The quoted name in Qt's report of a platform plugin that is not installed.
+QString missingPlugin;
+
+void findMissingPlugin(const QString &message)
+{
+    if (message.startsWith(u"Could not find the Qt platform plugin \"")) {
+        missingPlugin = message.section(u'"', 1, 1);
+    }
+}
+
+[[noreturn]] void endWithUnopenableDisplay()
+{
+    QString trouble = u"cannot open the display (" + requestedPlatform() + u')';
+    if (missingPlugin.isEmpty()) {
+        endWithoutDisplay(trouble + startElsewhere);
+    }
+    trouble += u": Qt's platform plugin \"" + missingPlugin + u"\" is not installed";
+    if (missingPlugin == u"wayland") {
+        trouble += u"; on Debian the package qt6-wayland has it";
+    }
+    endWithoutDisplay(trouble);
+}
 
 // The Wayland plugin reports a missing compositor without a category.
 bool isAboutAPlatform(const QMessageLogContext &context, const QString &message)
@@ -69,9 +88,10 @@ bool isAboutAPlatform(const QMessageLogContext &context, const QString &message)
 void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtFatalMsg) {
-        endWithoutDisplay(cannotOpenDisplay());
+        endWithUnopenableDisplay();
     }
-    if (handlerBefore != nullptr && !isAboutAPlatform(context, message)) {
+    findMissingPlugin(message);
+    if (handlerBefore && !isAboutAPlatform(context, message)) {
         handlerBefore(type, context, message);
     }
 }
@@ -115,7 +135,7 @@ void makeApplication()
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
     // Some platforms go on without.
     if (QGuiApplication::primaryScreen() == nullptr) {
-        endWithoutDisplay(cannotOpenDisplay());
+        endWithUnopenableDisplay();
     }
 }
 
