@@ -50,7 +50,8 @@ class Node:
 
     name = _asked(Atspi.Accessible.get_name, "")
     description = _asked(Atspi.Accessible.get_description, "")
-    role = _asked(Atspi.Accessible.get_role_name, "")
+    # Newer versions of AT-SPI call a push button a button.
+    role = _asked(lambda it: {"button": "push button"}.get(name := it.get_role_name(), name), "")
     process_id = _asked(Atspi.Accessible.get_process_id, 0)
     states = _asked(lambda it: {state.value_nick for state in it.get_state_set().get_states()}, frozenset())
     children = _asked(_children, [])

@@ -79,7 +79,7 @@ class Game:
 
     def button(self, name):
         alert = self.alert()
-        return alert and alert.find("push button", "button", name=name)
+        return alert and alert.find("push button", name=name)
 
     def puzzle(self):
         """The puzzle on the screen, or None."""
