@@ -7,6 +7,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 # shellcheck disable=SC2034
 packages_build=(g++ cmake ninja-build qt6-base-dev librsvg2-bin fonts-dejavu-core fonts-noto-color-emoji)
 # shellcheck disable=SC2034
+packages_wayland=(qt6-wayland)
+# shellcheck disable=SC2034
 packages_test=(libgtest-dev xvfb xauth openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core
     python3-gi gir1.2-atspi-2.0 python3-xlib locales strace sway wtype grim qt6-wayland)
 # shellcheck disable=SC2034
@@ -26,12 +28,36 @@ fail() {
     exit 1
 }
 
-# Runs a command silently; if it fails, shows what it said and ends with the sentence in $1.
+# Shows the progress lines of ninja and apt as they come in, each over the one before.
+show_progress() {
+    local line percent text width
+    width=$(tput cols 2>/dev/null || echo 80)
+    while IFS= read -r line; do
+        case $line in
+        '['*) ;;
+        [dp][lm]status:*)
+            IFS=: read -r _ _ percent text <<<"$line"
+            line="[${percent%.*} %] $text"
+            ;;
+        *) continue ;;
+        esac
+        printf '\r\033[K%s' "${line:0:width-1}"
+    done
+    printf '\r\033[K'
+}
+
+# Runs a command silently, on a terminal with its progress in one line; if it fails, shows what it said and ends with the
+# sentence in $1.
 quietly() {
     local sentence=$1 log status=0
     shift
     log=$(mktemp)
-    "$@" >"$log" 2>&1 </dev/null || status=$?
+    if [ -t 1 ]; then
+        "$@" 2>&1 </dev/null | tee "$log" | show_progress
+        status=${PIPESTATUS[0]}
+    else
+        "$@" >"$log" 2>&1 </dev/null || status=$?
+    fi
     if [ "$status" -ne 0 ]; then cat "$log" >&2; fi
     rm -f "$log"
     if [ "$status" -ne 0 ]; then fail "$sentence"; fi
@@ -69,7 +95,7 @@ set_up() {
         command -v sudo >/dev/null || fail "Run this as root, then try again: apt-get install ${missing[*]}"
         as_root=(sudo)
     fi
-    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=600)
+    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=600 -o APT::Status-Fd=1)
     echo "Installing ${missing[*]}"
     # sudo asks for its password here, where it can be seen.
     if [ "${as_root[0]}" = sudo ] && ! sudo -v; then
