@@ -198,4 +198,25 @@ TEST_F(Terminate, EndsFromAnyDepth)
     }
 }
 
+TEST_F(Terminate, ASignalEndsAtOnceWhileNoRunIsServedAndTheSecondTime)
+{
+    const auto outsideARun = [] {
+        CocoaInit();
+        std::raise(SIGTERM);
+        std::_Exit(3);
+    };
+    EXPECT_EXIT(outsideARun(), testing::KilledBySignal(SIGTERM), nothingOfOurs);
+    const auto twice = [] {
+        CocoaInit();
+        QWidget window;
+        QTimer::singleShot(0, &window, [] {
+            std::raise(SIGHUP);
+            std::raise(SIGHUP);
+        });
+        runModalForWindow(&window);
+        std::_Exit(3);
+    };
+    EXPECT_EXIT(twice(), testing::KilledBySignal(SIGHUP), nothingOfOurs);
+}
+
 } // namespace

@@ -2,16 +2,13 @@
 
 import contextlib
 import os
-import resource
 import signal
 
 from desktop import until
 from playing import PROGRAM, REPOSITORY, PlayingTest
 
 NO_DISPLAY = r"(?m)^Tetrad Game cannot open the display \(.*\)[;:] "
-EXHAUSTED = r"(?m)^Tetrad Game has reached the limit of memory or of threads"
 ONE_SENTENCE = r"\A[^\n]*display[^\n]*\.\n\Z"
-MEGABYTE = 1 << 20
 
 
 def shell(script):
@@ -168,38 +165,3 @@ class TestSurroundings(FaultTest):
         finally:
             owner.kill()
             owner.wait()
-
-
-class TestMemory(FaultTest):
-    def assert_said_why(self, game):
-        """Ended by itself, not by a signal, and with a word why."""
-        status, errors = game.wait_for_end()
-        self.assertGreater(status, 0, errors)
-        self.assertNotEqual(errors.strip(), "")
-        return errors
-
-    def test_too_little_memory_to_start_is_said(self):
-        said = ""
-        for megabytes in range(60, 200, 20):
-            with self.subTest(megabytes=megabytes):
-                game = self.start_blind(command=shell(f"ulimit -c 0; ulimit -v {megabytes * 1024};"))
-                until(lambda: game.has_ended() or game.is_accessible() and game.field(), "the prompt or the end")
-                if game.has_ended():
-                    said += self.assert_said_why(game)
-                else:
-                    game.process.terminate()
-                    self.assert_clean_end(game)
-        self.assertRegex(said, EXHAUSTED)
-
-    def test_memory_that_runs_out_while_playing_is_said(self):
-        # Without assistive technology and with a text of its own in the clipboard nothing large is asked for but in the
-        # program itself: the libraries of display and bus do not all survive an allocation that fails.
-        game = self.start_blind(environment={"DBUS_SESSION_BUS_ADDRESS": None})
-        game.wait(game.has_keyboard, "a window with the keyboard")
-        self.desktop.set_clipboard("nothing")
-        until(lambda: self.desktop.press("1", "ctrl+a", "ctrl+c") or self.desktop.clipboard() == "1", "the field")
-        with open(f"/proc/{game.process.pid}/statm", encoding="ascii") as facts:
-            used = int(facts.read().split()[0]) * resource.getpagesize()
-        resource.prlimit(game.process.pid, resource.RLIMIT_AS, (used + 8 * MEGABYTE, used + 8 * MEGABYTE))
-        self.press_until_the_end(game, "ctrl+a", "ctrl+c", "Right", "ctrl+v")
-        self.assertRegex(self.assert_said_why(game), EXHAUSTED)

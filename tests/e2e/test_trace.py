@@ -2,7 +2,6 @@
 
 import os
 import re
-import signal
 
 from desktop import Gio
 from playing import PROGRAM, PlayingTest
@@ -60,13 +59,3 @@ class TestTrace(PlayingTest):
         for kind in allowed:
             self.assertTrue(any(re.match(kind, call) for call in calls), f"nothing in the trace is {kind}")
         self.assertEqual([call for call in calls if not re.match("|".join(allowed), call)], [])
-
-    def test_a_signal_to_end_is_backed_by_an_alarm_until_it_is_noticed(self):
-        game = self.start_traced("alarm,rt_sigaction")
-        game.wait_for_prompt()
-        game.process.send_signal(signal.SIGTERM)
-        self.assert_clean_end(game)
-        calls = self.trace()
-        self.assertEqual([call.split(")")[0] for call in calls if call.startswith("alarm(")], ["alarm(10", "alarm(0"])
-        # The system's own way with it: the end of the process.
-        self.assertEqual([call for call in calls if call.startswith("rt_sigaction(SIGALRM, {")], [])

@@ -16,6 +16,8 @@ namespace tetrad {
 
 class Window;
 
+// Implemented in runtime/app/process/app_delegate.cpp
+
 /// The application's delegate: answers what the window system asks about the application and reports
 /// what happens to it, each callback as one numbered event (AppEvent). A callback stores its
 /// arguments and its default answer in the fields below, forwards the event, and returns the answer

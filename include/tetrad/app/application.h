@@ -7,11 +7,22 @@ namespace tetrad {
 
 class CUI_AppDelegate;
 
-/// Makes the process a window system application driven from the program's own straight-line main:
-/// creates the application object, gives it the icon that is named like its id unless it has one (in the theme
-/// "hicolor" where the desktop keeps its themes, or in share/icons beside the program or the program's folder), and
-/// installs the runtime's delegate unless one is installed. A second call changes nothing.
-/// Without a display the process ends here with one sentence on standard error and status 1.
+// Implemented in runtime/app/process/: application.cpp, termination.cpp, about_panel.cpp, app_events.cpp
+
+/// Makes the process an application of the window system that is driven from the program's own straight-line main. A
+/// second call changes nothing. What it does to the process:
+/// - It creates the application object unless there is one, and installs the runtime's delegate unless one is
+/// installed.
+///   Without a display the process ends with one sentence on standard error and status 1.
+/// - A program that has not named itself gets the runtime's name, version and id.
+/// - The application gets the icon named like its id unless it has one: from the theme "hicolor" of the desktop, or
+/// from
+///   share/icons next to the program or to the program's folder.
+/// - The locale becomes the environment's, and the layout direction that locale's.
+/// - Standard streams that are closed are opened on /dev/null.
+/// - SIGPIPE is ignored. The first SIGTERM or SIGHUP restores the signal's default action and ends the program through
+///   the modal run that is being served, as AppTerminate does but without the question. While no run is served, or at a
+///   second signal, the process ends at once. Signals with another action than the default keep it.
 void CocoaInit();
 
 /// The application's current delegate; if none is installed, one that is remembered but not installed.
@@ -33,7 +44,7 @@ QString applicationName();
 QString applicationVersion();
 QString applicationId();
 
-/// Shows name, version and licence in a panel, modally until it is closed.
+/// Shows the application's name, and its version if it has one, modally until the panel is closed.
 void orderFrontStandardAboutPanel();
 
 /// Codes of the application events, in the order of CUI_AppDelegate's callbacks. 18 and 32 are not used.

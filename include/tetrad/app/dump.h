@@ -2,6 +2,8 @@
 
 #include <QString>
 
+// Implemented in runtime/app/process/dump.cpp
+
 namespace tetrad {
 
 /// The application's windows and views, one a line, indented by depth: class, name, tag, geometry in its

@@ -2,6 +2,7 @@
 
 #include "runtime/app/modal/modal_filter.h"
 #include "runtime/app/process/platform_events.h"
+#include "runtime/app/process/termination_signals.h"
 #include <tetrad/app/dump.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/app/window.h>
@@ -99,6 +100,7 @@ void begin(ModalRun &run)
         filter().install();
     }
     runs.append(&run);
+    setServingEvents(true);
     filter().setWidget(run.widget);
     watch(run);
     addMenuShortcutsTo(run.widget);
@@ -121,6 +123,7 @@ void returnTo(ModalRun &outer, QWidget *focusBefore)
 void finish(const ModalRun &run)
 {
     runs.removeLast();
+    setServingEvents(!runs.isEmpty());
     if (run.widget != nullptr) {
         removeMenuShortcutsFrom(run.widget);
     }

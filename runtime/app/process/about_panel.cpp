@@ -1,13 +1,11 @@
 #include <tetrad/app/application.h>
+
 #include <tetrad/app/modal.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QIcon>
-#include <QLabel>
+#include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace tetrad {
 
@@ -15,67 +13,35 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int iconSize = 64;
-
-// Leaves room for the title beside the buttons of a title bar.
-constexpr int leastTextWidth = 220;
-
-QLabel *centredLabel(const QString &text)
+// A program with a name of its own shows only what it has set.
+QString facts()
 {
-    auto *label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    return label;
-}
-
-QLabel *nameLabel()
-{
-    QLabel *label = centredLabel(applicationName());
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    label->setFont(font);
-    return label;
-}
-
-void addIcon(QVBoxLayout *layout)
-{
-    if (const QIcon icon = QApplication::windowIcon(); !icon.isNull()) {
-        QLabel *label = centredLabel(QString());
-        label->setPixmap(icon.pixmap(QSize(iconSize, iconSize), label->devicePixelRatio()));
-        layout->addWidget(label);
+    QStringList lines;
+    if (!applicationVersion().isEmpty()) {
+        lines += u"Version "_s + applicationVersion();
     }
-}
-
-void fill(QDialog *panel)
-{
-    auto *ok = new QPushButton(u"OK"_s);
-    ok->setDefault(true);
-    QObject::connect(ok, &QPushButton::clicked, panel, &QDialog::accept);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->setContentsMargins(32, 24, 32, 16);
-    layout->addStrut(leastTextWidth);
-    addIcon(layout);
-    layout->addWidget(nameLabel());
-    layout->addWidget(centredLabel(u"Version %1"_s.arg(applicationVersion())));
-    layout->addWidget(centredLabel(u"License: MIT"_s));
-    layout->addSpacing(12);
-    layout->addWidget(ok, 0, Qt::AlignHCenter);
+    if (applicationName() == QLatin1String(TETRAD_APP_NAME)) {
+        lines += u"License: MIT"_s;
+    }
+    return lines.join(u'\n');
 }
 
 } // namespace
 
 void orderFrontStandardAboutPanel()
 {
-    static QPointer<QDialog> panel;
-    if (panel != nullptr) {
+    static QPointer<QMessageBox> panel;
+    if (panel) {
         return;
     }
-    // It goes with the window that it stands over, if that goes first.
-    panel = new QDialog(QApplication::activeWindow());
-    panel->setWindowTitle(u"About %1"_s.arg(applicationName()));
-    fill(panel);
+    // Its window deletes it if that goes first.
+    panel = new QMessageBox(QApplication::activeWindow());
+    panel->setWindowTitle(u"About "_s + applicationName());
+    panel->setTextFormat(Qt::PlainText);
+    panel->setText(applicationName());
+    panel->setInformativeText(facts());
+    panel->setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), panel->devicePixelRatio()));
+    panel->addButton(QMessageBox::Ok);
     QObject::connect(panel, &QDialog::finished, panel, [] { stopModalWithCode(modalStopped); });
     runModalForWindow(panel);
     delete panel.data();

@@ -34,7 +34,7 @@ void CUI_AppDelegate::setMenuObj(QMenu *menu)
 
 void CUI_AppDelegate::forwardApplicationEvent(qint64 event, const QVariant &object)
 {
-    if (m_delegateCallback != nullptr) {
+    if (m_delegateCallback) {
         m_delegateCallback(event, m_delegateUserData);
     } else {
         CallUserDefinedOnAppEventFunction(event, object);
@@ -50,7 +50,7 @@ bool CUI_AppDelegate::ask(qint64 event, bool preset, const QVariant &object)
 
 void CUI_AppDelegate::applicationWillFinishLaunching(const QVariant &notification)
 {
-    if (mainMenu() == nullptr) {
+    if (!mainMenu()) {
         CUI_BuildMinimalMenu();
     }
     forwardApplicationEvent(appEventWillFinishLaunching, notification);
@@ -251,7 +251,7 @@ void CUI_AppDelegate::timerFired(QTimer *timer)
 {
     const auto function = timer->property(timerFunctionKey).value<TimerFunction>();
     const QPointer<QTimer> guard(timer);
-    if (function != nullptr && function(timer) && guard != nullptr) {
+    if (function && function(timer) && guard) {
         timer->stop();
     }
 }

@@ -22,7 +22,7 @@ AppEventFunction CUI_OnAppEventFunction()
 
 QVariant CallUserDefinedOnAppEventFunction(qint64 event, const QVariant &object)
 {
-    return sCUI_OnAppEventFunction != nullptr ? sCUI_OnAppEventFunction(event, object) : QVariant();
+    return sCUI_OnAppEventFunction ? sCUI_OnAppEventFunction(event, object) : QVariant();
 }
 
 } // namespace tetrad

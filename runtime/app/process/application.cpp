@@ -2,7 +2,7 @@
 
 #include "runtime/app/process/platform_application.h"
 #include "runtime/app/process/platform_events.h"
-#include "runtime/app/process/termination.h"
+#include "runtime/app/process/termination_signals.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/run_time_stop.h>
 #include <tetrad/strings/pascal_strings.h>
@@ -24,8 +24,8 @@ QPointer<CUI_AppDelegate> installedDelegate;
 // the theme, which takes a fifth of all the work of starting a program.
 QIcon installedIcon(const QString &name)
 {
-    // Also a program installed where the desktop does not look, in a prefix of its own, or not installed at all, finds
-    // its icon: in share, beside the folder the program is in or beside the program.
+    // A program that the desktop does not know, in a prefix of its own or not installed, has its icon in share, next to
+    // the program or to its folder.
     const QString programFolder = QCoreApplication::applicationDirPath();
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths()
                                << programFolder + u"/../share/icons"_s << programFolder + u"/share/icons"_s);
@@ -57,7 +57,7 @@ void giveIcon()
     }
 }
 
-// Whoever's delegate is installed, and once for each application object.
+// Once for each application object, whichever delegate is installed.
 void serveApplication()
 {
     static QPointer<QCoreApplication> served;
@@ -76,7 +76,7 @@ void serveApplication()
 void CocoaInit()
 {
     ensurePlatformApplication();
-    if (installedDelegate == nullptr) {
+    if (!installedDelegate) {
         setAppDelegate(new CUI_AppDelegate(qApp));
     }
     serveApplication();
@@ -84,7 +84,7 @@ void CocoaInit()
 
 CUI_AppDelegate *CUI_AppDelegateObj()
 {
-    if (installedDelegate != nullptr) {
+    if (installedDelegate) {
         return installedDelegate;
     }
     static auto *const remembered = new CUI_AppDelegate;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The text of whatever shows one: a window's title, a label's, button's or field's text.
+// A window's title, or the text of a label, button or field.
 QString textOf(const QWidget *widget)
 {
     for (const char *name : {"text", "title"}) {
@@ -68,7 +68,7 @@ void dumpInto(QString &out, QWidget *widget, qsizetype depth)
     }
     for (QObject *child : widget->children()) {
         auto *view = qobject_cast<QWidget *>(child);
-        if (view != nullptr && !view->isWindow()) {
+        if (view && !view->isWindow()) {
             dumpInto(out, view, depth + 1);
         }
     }

@@ -1,7 +1,5 @@
 #include "runtime/app/process/platform_application.h"
 
-#include "runtime/app/process/exhaustion.h"
-
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
@@ -82,9 +80,8 @@ bool isAboutAPlatform(const QMessageLogContext &context, const QString &message)
     return qstrncmp(context.category, "qt.qpa.", 7) == 0 || message.startsWith(u"Failed to create wl_display");
 }
 
-// Without a usable display the construction aborts with several lines and a core dump. Its lines are
-// one sentence here; those about a platform that was tried in vain before another one worked are
-// of no use to anybody.
+// Without a usable display the construction aborts with several lines and a core dump; here they become one sentence.
+// Lines about a platform that was tried before another one worked are dropped.
 void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtFatalMsg) {
@@ -96,8 +93,8 @@ void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, 
     }
 }
 
-// A standard stream that the program was started without would be the next descriptor opened: the connection
-// to the display, which a warning must not be written to.
+// The next descriptor opened takes the number of a standard stream that is closed. It would be the connection to the
+// display, and warnings would be written to it.
 void fillStandardStreams()
 {
 #ifdef Q_OS_UNIX
@@ -118,7 +115,7 @@ const char *executableName()
 #endif
 }
 
-// Only the executable's own name: what the command line says is not for the application object.
+// Only the executable's own name: the command line is the program's, not the application object's.
 void makeApplication()
 {
     static QByteArray name = executableName();
@@ -126,24 +123,23 @@ void makeApplication()
     static int count = 1;
     fillStandardStreams();
     requireDisplaySetting();
-    endOnExhaustion();
     handlerBefore = qInstallMessageHandler(&readConstructionMessage);
     // Deliberately never deleted: the process ends from the depth of a modal loop, with windows open.
     new QApplication(count, arguments);
     qInstallMessageHandler(handlerBefore);
-    // By itself it follows only its own translations, which need not be installed.
+    // Qt alone follows only its own translations, which need not be installed.
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
-    // Some platforms go on without.
-    if (QGuiApplication::primaryScreen() == nullptr) {
+    // Some platform plugins start without a screen.
+    if (!QGuiApplication::primaryScreen()) {
         endWithUnopenableDisplay();
     }
 }
 
-// An application object named by nobody has its executable's name.
+// An application object that was not named has its executable's name.
 bool isNamed()
 {
     const QString name = QCoreApplication::applicationName();
-    return !name.isEmpty() && (qApp == nullptr || name != QFileInfo(QCoreApplication::arguments().value(0)).fileName());
+    return !name.isEmpty() && (!qApp || name != QFileInfo(QCoreApplication::arguments().value(0)).fileName());
 }
 
 void giveName()
@@ -161,7 +157,7 @@ void ensurePlatformApplication()
     if (!isNamed()) {
         giveName();
     }
-    if (qApp == nullptr) {
+    if (!qApp) {
         makeApplication();
     }
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -13,8 +13,4 @@ void quitByUser();
 /// delegate, exits with status 0.
 [[noreturn]] void terminateWithoutAsking();
 
-/// From now on SIGTERM and SIGHUP end the process through terminateWithoutAsking as soon as events are
-/// served; a second one that comes before that kills. A signal ignored at this time stays ignored.
-void terminateOnSignals();
-
 } // namespace tetrad

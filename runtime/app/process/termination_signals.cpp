@@ -1,3 +1,5 @@
+#include "runtime/app/process/termination_signals.h"
+
 #include "runtime/app/process/termination.h"
 
 #include <QtGlobal>
@@ -8,6 +10,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -19,23 +22,23 @@ namespace {
 
 std::array<int, 2> signalPipe = {-1, -1};
 
-// How long the event loop may take to notice a signal, as when it waits for another program's clipboard. After
-// that the system ends the process.
-constexpr unsigned noticeTime_s = 10;
+std::atomic<bool> isServing = false;
+static_assert(std::atomic<bool>::is_always_lock_free);
 
 // Runs inside the signal: only what is safe there.
 void onSignal(int number)
 {
     const int saved = errno;
     std::signal(number, SIG_DFL);
-    ::alarm(noticeTime_s);
     const char byte = 0;
-    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
+    if (!isServing || ::write(signalPipe[1], &byte, 1) != 1) {
+        std::raise(number);
+    }
     errno = saved;
 }
 
-// Writing where nobody reads any more is an error of that write and not the end of the program.
-void survive(int number)
+// A write to a closed pipe then fails instead of ending the program.
+void ignore(int number)
 {
     struct sigaction before = {};
     if (sigaction(number, nullptr, &before) == 0 && before.sa_handler == SIG_DFL) {
@@ -68,13 +71,15 @@ void terminateOnSignals()
         ::fcntl(end, F_SETFL, O_NONBLOCK);
     }
     auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, qApp);
-    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [] {
-        ::alarm(0);
-        terminateWithoutAsking();
-    });
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, &terminateWithoutAsking);
     listenFor(SIGTERM);
     listenFor(SIGHUP);
-    survive(SIGPIPE);
+    ignore(SIGPIPE);
+}
+
+void setServingEvents(bool serving)
+{
+    isServing = serving;
 }
 
 } // namespace tetrad
@@ -84,6 +89,8 @@ void terminateOnSignals()
 namespace tetrad {
 
 void terminateOnSignals() {}
+
+void setServingEvents(bool) {}
 
 } // namespace tetrad
 
