@@ -1,4 +1,4 @@
-// What GCC builds compile once for all of the project's own code: headers of Qt and of the standard library, never ours.
+// What GCC builds compile once for all of our code: headers of Qt and of the standard library, never ours.
 #pragma once
 
 #include <QAction>
