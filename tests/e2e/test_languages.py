@@ -1,5 +1,7 @@
 """The game in the languages of the world: played the same everywhere, menus in the desktop's direction."""
 
+import re
+
 from playing import PlayingTest
 from solver import solve
 
@@ -46,4 +48,6 @@ class TestLanguages(PlayingTest):
         game.wait_for_focus_on("Quit")
         game.play_again()
         game.answer("Q")
-        self.assert_clean_end(game)
+        status, said = game.wait_for_end()
+        # In the locale C newer versions of Qt say that they use C.UTF-8.
+        self.assertEqual((status, re.sub(r'\ADetected locale "C"(.*\n){4}\Z', "", said)), (0, ""))
