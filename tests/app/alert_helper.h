@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/windows.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/alert.h>
 
 #include <QPushButton>

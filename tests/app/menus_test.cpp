@@ -1,6 +1,6 @@
 #include <tetrad/app/menus.h>
 
-#include "tests/windows.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/application.h>
 
 #include <QClipboard>

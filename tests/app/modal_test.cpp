@@ -1,6 +1,6 @@
 #include <tetrad/app/modal.h>
 
-#include "tests/windows.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>
 

@@ -2,7 +2,7 @@
 
 #include "runtime/app/windows/window_translator.h"
 #include "runtime/controls/events/current_event.h"
-#include "tests/windows.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/content_view.h>

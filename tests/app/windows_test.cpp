@@ -1,6 +1,6 @@
 #include <tetrad/app/windows.h>
 
-#include "tests/windows.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/menus.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/table.h"
+#include "tests/support/table.h"
 #include <tetrad/console/console_view.h>
 
 #include <QImage>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/windows.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/event_codes.h>

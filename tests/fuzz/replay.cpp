@@ -93,5 +93,6 @@ int main(int argc, char **argv)
         run(mutator.next());
     }
     std::printf("%lld inputs of the corpus and %d others\n", qint64{corpus.size()}, count);
+    std::remove(qgetenv("TEST_PREMATURE_EXIT_FILE").constData());
     return 0;
 }

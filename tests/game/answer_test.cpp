@@ -2,7 +2,7 @@
 
 #include "game/rules/puzzle_deck.h"
 #include "solutions.h"
-#include "tests/table.h"
+#include "tests/support/table.h"
 #include <tetrad/strings/pascal_strings.h>
 
 using namespace tetrad;

@@ -1,6 +1,6 @@
 #include "game/rules/puzzle_deck.h"
 
-#include "tests/table.h"
+#include "tests/support/table.h"
 
 #include <set>
 

@@ -1,7 +1,7 @@
 #include "game/rules/expression.h"
 
 #include "game/rules/regular_expression.h"
-#include "tests/table.h"
+#include "tests/support/table.h"
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 
 #include <tetrad/strings/not_given.h>
 
-#include "tests/table.h"
+#include "tests/support/table.h"
 
 using namespace tetrad;
 

@@ -53,5 +53,6 @@ files_under() {
 
 finish() {
     echo "$failures checks failed"
+    rm -f "${TEST_PREMATURE_EXIT_FILE:-}"
     [ "$failures" -eq 0 ]
 }

@@ -1,4 +1,4 @@
-#include "tests/table.h"
+#include "tests/support/table.h"
 #include <tetrad/strings/error_object.h>
 #include <tetrad/strings/text_format.h>
 

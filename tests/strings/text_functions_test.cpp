@@ -1,4 +1,4 @@
-#include "tests/table.h"
+#include "tests/support/table.h"
 #include <tetrad/strings/text_functions.h>
 
 #include <QSet>

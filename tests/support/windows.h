@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/table.h"
+#include "tests/support/table.h"
 #include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
 #include <tetrad/app/window.h>
