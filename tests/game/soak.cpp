@@ -3,6 +3,7 @@
 // question to the next: no window, no file, no slot of the string stack, and no memory.
 //   soak [PUZZLES]
 
+#include "game/rules/puzzle_deck.h"
 #include "solutions.h"
 
 #include <tetrad/app/alert.h>
@@ -28,6 +29,16 @@
 #include <unistd.h>
 
 int gameMain(int argc, char **argv);
+
+namespace tetrad {
+
+// The loop draws from here.
+quint32 drawnRandom()
+{
+    return systemRandom();
+}
+
+} // namespace tetrad
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
