@@ -1,8 +1,10 @@
 #include "tests/support/table.h"
+#include <tetrad/strings/mac_roman.h>
 #include <tetrad/strings/pascal_strings.h>
 
 #include <algorithm>
 #include <cstdlib>
+#include <iconv.h>
 #include <string>
 
 using namespace tetrad;
@@ -23,7 +25,19 @@ std::string charactersOf(const unsigned char *string)
     return {reinterpret_cast<const char *>(string + 1), string[0]};
 }
 
-TEST(StringStack, handsOutSlots1To64WithoutUnderflow)
+class StringStack : public testing::Test
+{
+    void TearDown() override
+    {
+        gZRStk = 0;
+        setStringStackStop(nullptr);
+    }
+};
+
+using StringStackDeathTest = StringStack;
+using PascalStrings = StringStack;
+
+TEST_F(StringStack, handsOutSlots1To64WithoutUnderflow)
 {
     for (int slot = 1; slot <= stringStackSize; ++slot) {
         EXPECT_EQ(STACK_PUSH(), gZRStrStk[slot]);
@@ -43,7 +57,7 @@ void reportAndReturn(const QString &message, const QString &informative, qint32 
     std::fprintf(stderr, "%s|%s|%d", qUtf8Printable(message), qUtf8Printable(informative), fatal);
 }
 
-TEST(StringStackDeathTest, stopsWhenFull)
+TEST_F(StringStackDeathTest, stopsWhenFull)
 {
     const std::string message = "Pascal String stack index \\( gZRStk \\) exceeds string stack size of 64. "
                                 "Zarvane will terminate";
@@ -58,8 +72,55 @@ TEST(StringStackDeathTest, stopsWhenFull)
         << "aborts if the stop returns";
 }
 
-// Parts of strings and conversions there and back are compared with a model by the fuzz harness.
-TEST(PascalStrings, shareOneResult)
+TEST_F(PascalStrings, giveTheirParts)
+{
+    const Table<qint16, qint16, std::string> rows = {
+        {"from the first", 1, 2, "24"},
+        {"to the last", 3, 2, "68"},
+        {"a start below 1 keeps the count", -3, 3, "246"},
+        {"a count beyond the end", 3, 100, "68"},
+        {"the last", 4, 1, "8"},
+        {"past the end", 5, 1, ""},
+        {"a count of 0", 2, 0, ""},
+        {"a negative count", 2, -1, ""},
+        {"the largest numbers", 32767, 32767, ""},
+        {"the smallest start", -32768, 32767, "2468"},
+    };
+    for (const auto &[name, start, count, part] : rows) {
+        EXPECT_EQ(charactersOf(PSmid(pushed("2468"), start, count)), part) << name;
+    }
+    EXPECT_EQ(PSlen(pushed("24\x80")), 3);
+    EXPECT_EQ(PSasc(pushed("\x80xy")), 0x80);
+    EXPECT_EQ(PSasc(pushed("")), 0);
+    EXPECT_EQ(StringWithPascalString(pushed(std::string("a\0b", 3))), u"a"_s) << "a zero ends a text";
+    EXPECT_EQ(gZRStk, 0) << "each took its argument";
+}
+
+// But for two bytes, which the C library reads as the Greek capital delta and as a private character of its own.
+TEST(MacRoman, IsTheCLibrarys)
+{
+    iconv_t library = iconv_open("UTF-8", "MACINTOSH");
+    if (library == iconv_t(-1)) {
+        GTEST_SKIP() << "the C library has no Mac Roman here";
+    }
+    for (int code = 0; code < 256; ++code) {
+        char byte = char(code);
+        char *in = &byte;
+        char text[8] = {};
+        char *out = text;
+        std::size_t left = 1;
+        std::size_t room = sizeof text;
+        iconv(library, &in, &left, &out, &room);
+        const QString expected = code == 0xC6   ? u"\u2206"_s
+                                 : code == 0xF0 ? u"\uF8FF"_s
+                                                : QString::fromUtf8(text, out - text);
+        EXPECT_EQ(fromMacRoman(QByteArrayView(&byte, 1)), expected) << code;
+        EXPECT_EQ(toMacRoman(expected), QByteArray(1, byte)) << code;
+    }
+    iconv_close(library);
+}
+
+TEST_F(PascalStrings, shareOneResult)
 {
     const unsigned char *first = PSmid(pushed("first"), 1, 5);
     EXPECT_EQ(first, gReturnedString);
@@ -69,7 +130,7 @@ TEST(PascalStrings, shareOneResult)
     EXPECT_EQ(charactersOf(PSstrcpy(buffer + 1, buffer)), "\2ab") << "a copy may overlap";
 }
 
-TEST(PascalStrings, convertFromTexts)
+TEST_F(PascalStrings, convertFromTexts)
 {
     const Table<QString, std::string> rows = {
         {"none", {}, ""},
