@@ -7,6 +7,8 @@
 #include <QIcon>
 #include <QTemporaryDir>
 
+#include <cstdlib>
+
 using namespace tetrad;
 using namespace Qt::StringLiterals;
 
@@ -26,8 +28,8 @@ QColor colorOf(const QPixmap &picture)
     return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
 }
 
-// The colour of the icon that a program starts with which has one of its own, or none.
-QColor iconAtStart(const QIcon &own)
+// Ends with status 0 if the icon that a program starts with, which has one of its own or none, is of the colour.
+void startWithIcon(const QIcon &own, Qt::GlobalColor color)
 {
     const QTemporaryDir folder;
     const QString icons = folder.path() + u"/hicolor/48x48/apps/"_s;
@@ -37,17 +39,13 @@ QColor iconAtStart(const QIcon &own)
     QGuiApplication::setDesktopFileName(u"org.example.Sketch"_s);
     QApplication::setWindowIcon(own);
     CocoaInit();
-    return colorOf(QApplication::windowIcon().pixmap(48));
+    std::_Exit(colorOf(QApplication::windowIcon().pixmap(48)) == QColor(color) ? 0 : 1);
 }
 
-TEST(ApplicationIcon, IsTheInstalledOneNamedLikeTheId)
+TEST(ApplicationIcon, IsTheInstalledOneNamedLikeTheIdUnlessTheProgramHasOne)
 {
-    EXPECT_EQ(iconAtStart({}), QColor(Qt::red));
-}
-
-TEST(ApplicationIcon, OfTheProgramsOwnStays)
-{
-    EXPECT_EQ(iconAtStart(filled(Qt::blue)), QColor(Qt::blue));
+    EXPECT_EXIT(startWithIcon({}, Qt::red), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(startWithIcon(filled(Qt::blue), Qt::blue), testing::ExitedWithCode(0), "");
 }
 
 TEST(AlertIcon, IsTheApplicationsUnlessCritical)

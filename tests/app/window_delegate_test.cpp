@@ -96,16 +96,6 @@ TEST_F(WindowDelegate, RealEventsAreToldInOrder)
     }
 }
 
-TEST_F(WindowDelegate, TheProgramPlacesASheet)
-{
-    const QRectF place(1, 2, 30, 40);
-    const auto ask = [&] { return CUI_WindowDelegateObj()->windowWillPositionSheet(m_window, m_window, place); };
-    EXPECT_EQ(ask(), place);
-    atEvent = [](qint64) { CUI_DialogEventObj()->rectVal.translate(4, 4); };
-    EXPECT_EQ(ask(), place.translated(4, 4));
-    EXPECT_EQ(lastObject, tagFromObject(m_window));
-}
-
 TEST_F(WindowDelegate, RelayPrefersTheNearestCallback)
 {
     static int userData = 0;

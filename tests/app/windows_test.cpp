@@ -132,30 +132,6 @@ TEST_F(Windows, ContentKeepsItsSizeThroughMenuBarsAndTinyWindows)
     }
 }
 
-TEST_F(Windows, StyleBecomesWindowFlags)
-{
-    const Qt::WindowFlags buttons =
-        Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
-    const Qt::WindowFlags judged = buttons | Qt::WindowTitleHint | Qt::FramelessWindowHint;
-    const Table<qint64, Qt::WindowFlags> rows = {
-        {"default", windowStyleDefault, Qt::WindowTitleHint | buttons},
-        {"title only", windowStyleTitled, Qt::WindowTitleHint},
-        {"closable", windowStyleTitled | windowStyleClosable, Qt::WindowTitleHint | Qt::WindowCloseButtonHint},
-        {"borderless", windowStyleBorderless, Qt::FramelessWindowHint},
-    };
-    Window *const window = open(1);
-    const QRectF place = window->contentRect();
-    for (const auto &[name, style, flags] : rows) {
-        SCOPED_TRACE(name);
-        window->setStyleMask(style);
-        QApplication::processEvents();
-        EXPECT_EQ(window->windowHandle()->flags() & judged, flags);
-        EXPECT_TRUE(window->isVisible());
-        EXPECT_EQ(window->contentRect(), place);
-        EXPECT_EQ(window->minimumSize() == window->maximumSize(), !(style & windowStyleResizable));
-    }
-}
-
 TEST_F(Windows, FrontToBackOrder)
 {
     Window *const one = open(1);

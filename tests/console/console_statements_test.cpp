@@ -1,6 +1,7 @@
 #include <tetrad/console/console_statements.h>
 
 #include "tests/console/printing.h"
+#include "tests/support/windows.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
 #include <tetrad/app/window.h>
@@ -13,12 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Statements = WindowTest;
+
 CUI_PrintToWindowView *outputView()
 {
     return CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow());
 }
 
-TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
+TEST_F(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
 {
     CUI_Window(1, u"Game"_s, notGiven, QRectF(0, 0, 300, 200));
     Window *window = CUI_WindowWithTag(1);
@@ -34,7 +37,7 @@ TEST(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
     EXPECT_NE(CUI_PrintToWindowViewObj(&popover), view);
 }
 
-TEST(Statements, printJoinsUpToTheFirstNullText)
+TEST_F(Statements, printJoinsUpToTheFirstNullText)
 {
     CUI_PrintToWindowPrintStatement({u"a"_s, u""_s, u"b"_s, u"\b"_s, QString(), u"c"_s});
     CUI_PrintToWindowPrintStatement({QString()});
@@ -49,7 +52,7 @@ TEST(Statements, printJoinsUpToTheFirstNullText)
     EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_s);
 }
 
-TEST(Statements, textAppliesOnlyWhatIsGiven)
+TEST_F(Statements, textAppliesOnlyWhatIsGiven)
 {
     const auto look = [] {
         CUI_PrintToWindowClearStatement();
@@ -69,7 +72,7 @@ TEST(Statements, textAppliesOnlyWhatIsGiven)
     EXPECT_EQ(now.value(u"paragraphStyle"_s).value<ParagraphStyle>().defaultTabInterval, 50);
 }
 
-TEST(Statements, aRectangleChasesTheFillColour)
+TEST_F(Statements, aRectangleChasesTheFillColour)
 {
     const Table<QColor, bool, const char *, QColor> rows = {{"given", Qt::red, true, "#ff0000", Qt::red},
                                                             {"remembered", QColor(), true, "#0000ff", Qt::blue},

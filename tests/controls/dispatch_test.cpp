@@ -155,14 +155,6 @@ TEST_F(Dispatch, SurvivesWhatACallbackDoes)
     }
 }
 
-TEST_F(Dispatch, QueuedActionOfADeletedControlIsDropped)
-{
-    makeControls();
-    QTest::keyClick(ControlWithTag(3), Qt::Key_Right);
-    delete ControlWithTag(3);
-    EXPECT_EQ(takeSiteCalls(), QString());
-}
-
 TEST_F(Dispatch, StatementsMakeAndChange)
 {
     CUI_Button(-5, u"Press"_s, QRectF(10, 10, 80, 30));

@@ -2,6 +2,8 @@
 
 #include "tests/support/table.h"
 
+#include <QCryptographicHash>
+
 #include <set>
 
 using namespace tetrad;
@@ -19,6 +21,16 @@ TEST(Deck, LevelsChangeBetweenTheRuns)
         EXPECT_EQ(puzzleText(position), QString::fromUtf8(puzzle));
         EXPECT_EQ(levelLabel(levelAtPosition(position)).toStdString(), level);
     }
+}
+
+TEST(Deck, IsTheTypedOneWithItsLevels)
+{
+    QByteArray deck;
+    for (qint64 position = 0; position < puzzleCount; ++position) {
+        deck += puzzleText(position).toLatin1() + ':' + char('0' + qint16(levelAtPosition(position))) + '\n';
+    }
+    EXPECT_EQ(QCryptographicHash::hash(deck, QCryptographicHash::Sha1).toHex(),
+              "105cc78718eac4be49b5a66ef4621f2c56088178");
 }
 
 TEST(ArcRandom, ReducesThe32BitNumberToTheRange)
