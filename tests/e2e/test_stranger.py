@@ -166,6 +166,14 @@ class TestStranger(unittest.TestCase):
         self.assertEqual(self.said("1000[356]|10026"), [])
         self.assertEqual(len(self.said("10010")), 1)
 
+    def test_menus_open_beside_a_sheet(self):
+        self.start("sheet")
+        self.settle()
+        self.click(1, 30, 10)
+        self.settle()
+        self.desktop.press("Up", "Return")  # the last item quits
+        self.assertEqual(self.program.wait(10), 0)
+
     def test_the_answer_to_a_drag_holds(self):
         for scene, is_answer in (("least", lambda size: size == [380, 120]),
                                  ("steps", lambda size: size[0] % 50 == 0 and size[1] % 50 == 0)):

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/alerts/alert.cpp, alert_keys.cpp, alert_sheet.cpp and alert_delegate.cpp
+
 #include <tetrad/events/tag.h>
 
 #include <QMessageBox>
@@ -103,8 +105,8 @@ public:
     /// "OK". The alert may be gone when this returns.
     qint64 runModal(QWidget *over);
 
-    /// Shows the alert attached to a window, which takes no input until it is answered, its menu bar included (the
-    /// shortcuts of the menus work in the alert), and returns at once. `completion` gets the button's code; it is not
+    /// Shows the alert attached to a window, which takes no input but in its menus until it is answered, and returns at
+    /// once. `completion` gets the button's code; it is not
     /// called when the alert is dismissed.
     void beginSheet(QWidget *window, std::function<void(qint64)> completion);
     bool isRunningAsSheet() const { return m_sheetWindow && isVisible(); }
@@ -119,7 +121,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    void attachTo(QWidget *window, Qt::WindowModality modality);
+    void attachTo(QWidget *window, bool asSheet);
     void prepareToShow();
     bool takesKey(QObject *receiver, QEvent *event);
     void onFinished();
@@ -132,6 +134,7 @@ private:
     QPushButton *m_returnButton = nullptr;
     QPointer<CUI_AlertDelegate> m_delegate;
     QPointer<QWidget> m_sheetWindow;
+    QObject *m_sheetGuard = nullptr;
     std::function<void(qint64)> m_completion;
     qint64 m_style = 0;
     qint64 m_code = 0;

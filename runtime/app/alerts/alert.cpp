@@ -1,6 +1,5 @@
 #include <tetrad/app/alert.h>
 
-#include "runtime/app/alerts/alert_keys.h"
 #include "runtime/app/alerts/alert_text.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
@@ -31,6 +30,13 @@ constexpr char titleKey[] = "alertButtonTitle";
 
 // No close box: a title alone, on the platforms that honour the hint.
 constexpr Qt::WindowFlags alertFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+
+// Elsewhere blocking the window would block its menu bar as well.
+#ifdef Q_OS_MACOS
+constexpr Qt::WindowModality sheetModality = Qt::WindowModal;
+#else
+constexpr Qt::WindowModality sheetModality = Qt::NonModal;
+#endif
 
 // The application's own icon, or none if it has none; only a critical alert has an icon of its own.
 QPixmap iconOf(const Alert &alert)
@@ -139,25 +145,6 @@ QString Alert::buttonTitle(quint64 index) const
                                              : QString();
 }
 
-void Alert::setKeyEquivalent(quint64 index, const QString &key)
-{
-    if (index >= quint64(m_buttons.size())) {
-        return;
-    }
-    QPushButton *const button = m_buttons.at(qsizetype(index));
-    const bool isDefault = !key.isEmpty() && isDefaultKey(key.front());
-    // A button has one key: any other takes Return away from it.
-    button->setShortcut(key.isEmpty() || isDefault ? QKeySequence() : keySequenceOf(key.front()));
-    button->setAutoDefault(isDefault);
-    button->setDefault(isDefault);
-    if (isDefault) {
-        m_returnButton = button;
-        setDefaultButton(button);
-    } else if (m_returnButton == button) {
-        m_returnButton = nullptr;
-    }
-}
-
 bool Alert::showsSuppressionButton() const
 {
     return checkBox();
@@ -209,7 +196,7 @@ void Alert::setDelegate(CUI_AlertDelegate *delegate)
 qint64 Alert::runModal(QWidget *over)
 {
     if (!isVisible()) {
-        attachTo(over && over->isVisible() ? over : nullptr, Qt::NonModal);
+        attachTo(over && over->isVisible() ? over : nullptr, false);
     }
     prepareToShow();
     const QPointer<Alert> self(this);
@@ -226,34 +213,6 @@ qint64 Alert::runModal(QWidget *over)
     return code == modalAborted ? 0 : code;
 }
 
-void Alert::beginSheet(QWidget *window, std::function<void(qint64)> completion)
-{
-    attachTo(window, Qt::WindowModal);
-    prepareToShow();
-    // The window that the sheet blocks cannot fire them.
-    addMenuShortcutsTo(this);
-    m_sheetWindow = window->window();
-    m_completion = std::move(completion);
-    auto *const owner = qobject_cast<Window *>(m_sheetWindow);
-    if (!owner) {
-        show();
-        return;
-    }
-    // Each report may end in a callback that deletes the window, and the alert with it.
-    const QPointer<Alert> self(this);
-    CUI_WindowDelegateObj()->windowWillBeginSheet(owner);
-    if (!self) {
-        return;
-    }
-    const QRectF top(0, 0, owner->contentView()->width(), 0);
-    const QRectF place = CUI_WindowDelegateObj()->windowWillPositionSheet(owner, this, top);
-    if (self) {
-        show();
-        move(owner->contentView()->mapToGlobal(place.topLeft().toPoint()) +
-             QPoint((qRound(place.width()) - width()) / 2, 0));
-    }
-}
-
 void Alert::dismiss()
 {
     if (isVisible()) {
@@ -263,14 +222,13 @@ void Alert::dismiss()
     }
 }
 
-void Alert::attachTo(QWidget *window, Qt::WindowModality modality)
+void Alert::attachTo(QWidget *window, bool asSheet)
 {
-    const bool isSheet = modality != Qt::NonModal;
     setParent(window ? window->window() : nullptr, alertFlags);
-    setWindowModality(modality);
-    // The modality changed the flags.
-    setWindowFlags(isSheet ? (alertFlags & ~Qt::WindowType_Mask) | Qt::Sheet : alertFlags);
-    setWorksWhenModal(this, isSheet);
+    setWindowModality(asSheet ? sheetModality : Qt::NonModal);
+    // Last and in full, since the modality changes them.
+    setWindowFlags(asSheet ? (alertFlags & ~Qt::WindowType_Mask) | Qt::Sheet : alertFlags);
+    setWorksWhenModal(this, asSheet);
 }
 
 void Alert::prepareToShow()
@@ -300,65 +258,6 @@ void Alert::onFinished()
     } else if (modalWindow() == this) {
         stopModalWithCode(m_code);
     }
-}
-
-void Alert::endSheet()
-{
-    auto *const owner = qobject_cast<Window *>(m_sheetWindow);
-    m_sheetWindow = nullptr;
-    // A callback may delete the alert; who began the sheet is still to be told.
-    const auto completion = std::exchange(m_completion, nullptr);
-    const qint64 code = m_code;
-    if (owner) {
-        CUI_WindowDelegateObj()->windowDidEndSheet(owner);
-    }
-    if (completion) {
-        completion(code);
-    }
-}
-
-// Return presses the focused button, else the one whose key it is. The dialog itself would press a button that lost the
-// key, since it never forgets the first default it had.
-bool Alert::takesKey(QObject *receiver, QEvent *event)
-{
-    if (isHeldKey(event)) {
-        event->accept();
-        return true;
-    }
-    if (!isReturnPress(event)) {
-        return false;
-    }
-    event->accept();
-    auto *const focused = qobject_cast<QPushButton *>(receiver);
-    if (QPushButton *const pressed = focused ? focused : m_returnButton) {
-        pressed->click();
-    }
-    return true;
-}
-
-bool Alert::event(QEvent *event)
-{
-    return takesKey(this, event) || QMessageBox::event(event);
-}
-
-bool Alert::eventFilter(QObject *watched, QEvent *event)
-{
-    return takesKey(watched, event) || QMessageBox::eventFilter(watched, event);
-}
-
-void Alert::keyPressEvent(QKeyEvent *event)
-{
-    // The base class would press a button that it takes for the one to cancel with.
-    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Cancel)) {
-        event->accept();
-        return;
-    }
-    if (event->matches(QKeySequence::Copy)) {
-        QMessageBox::keyPressEvent(event);
-        return;
-    }
-    // The box presses a button by its key whatever the Shift key says; shortcuts have done that already.
-    QDialog::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void Alert::closeEvent(QCloseEvent *event)

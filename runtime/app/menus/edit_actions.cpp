@@ -61,7 +61,7 @@ const QList<EditAction> &editActions()
 // QLineEdit's del() is a plain function, not a slot.
 bool isLineEditDelete(const QWidget *widget, const EditAction &action)
 {
-    return qstrcmp(action.slot, "del") == 0 && qobject_cast<const QLineEdit *>(widget) != nullptr;
+    return qstrcmp(action.slot, "del") == 0 && qobject_cast<const QLineEdit *>(widget);
 }
 
 bool answersTo(const QWidget *widget, const EditAction &action)
@@ -72,7 +72,7 @@ bool answersTo(const QWidget *widget, const EditAction &action)
 
 QWidget *responderFor(const EditAction &action)
 {
-    for (QWidget *each = firstResponder(); each != nullptr; each = each->isWindow() ? nullptr : each->parentWidget()) {
+    for (QWidget *each = firstResponder(); each; each = each->isWindow() ? nullptr : each->parentWidget()) {
         if (answersTo(each, action)) {
             return each;
         }
@@ -83,14 +83,14 @@ QWidget *responderFor(const EditAction &action)
 bool wouldAct(const EditAction &action)
 {
     const QWidget *responder = responderFor(action);
-    if (responder == nullptr || !responder->isEnabled()) {
+    if (!responder || !responder->isEnabled()) {
         return false;
     }
     if (const QVariant can = responder->property(action.property); can.isValid()) {
         return can.toBool();
     }
     const auto *field = qobject_cast<const QLineEdit *>(responder);
-    return field == nullptr || action.lineEditCan(*field);
+    return !field || action.lineEditCan(*field);
 }
 
 // Asks again, since a shortcut comes without the menu having been opened.
@@ -130,14 +130,14 @@ QPointer<QWidget> &lastResponder()
 
 bool isMenu(const QWidget *widget)
 {
-    return qobject_cast<const QMenu *>(widget) != nullptr || qobject_cast<const QMenuBar *>(widget) != nullptr;
+    return qobject_cast<const QMenu *>(widget) || qobject_cast<const QMenuBar *>(widget);
 }
 
 void followFocus()
 {
     lastResponder() = QApplication::focusWidget();
     QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget *, QWidget *now) {
-        if (now != nullptr && !isMenu(now)) {
+        if (now && !isMenu(now)) {
             lastResponder() = now;
         }
     });
@@ -159,8 +159,8 @@ QMenu *makeEditMenu()
 QWidget *firstResponder()
 {
     QWidget *focus = QApplication::focusWidget();
-    const bool menuIsOpen = QApplication::activePopupWidget() != nullptr;
-    return isMenu(focus) || (focus == nullptr && menuIsOpen) ? lastResponder().data() : focus;
+    const bool menuIsOpen = QApplication::activePopupWidget();
+    return isMenu(focus) || (!focus && menuIsOpen) ? lastResponder().data() : focus;
 }
 
 } // namespace tetrad

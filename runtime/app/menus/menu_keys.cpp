@@ -14,7 +14,7 @@ namespace {
 void openFirstMenu(QMenuBar *bar)
 {
     for (QAction *title : bar->actions()) {
-        if (title->isVisible() && title->isEnabled() && title->menu() != nullptr) {
+        if (title->isVisible() && title->isEnabled() && title->menu()) {
             bar->setActiveAction(title);
             return;
         }
@@ -25,7 +25,7 @@ QMenuBar *barShowing(const QMenu *menu)
 {
     for (QObject *each : menu->menuAction()->associatedObjects()) {
         auto *bar = qobject_cast<QMenuBar *>(each);
-        if (bar != nullptr && bar->activeAction() == menu->menuAction()) {
+        if (bar && bar->activeAction() == menu->menuAction()) {
             return bar;
         }
     }
@@ -44,12 +44,12 @@ public:
         }
         const QPointer<QMenu> menu = static_cast<QMenu *>(watched);
         QMenuBar *bar = barShowing(menu);
-        if (bar == nullptr) {
+        if (!bar) {
             return false;
         }
         // A bar that was entered by key gives the keyboard back to where it came from.
         QCoreApplication::sendEvent(bar, event);
-        if (menu != nullptr) {
+        if (menu) {
             menu->close();
         }
         return true;

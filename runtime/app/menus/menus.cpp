@@ -29,7 +29,7 @@ QString verbatim(QString title)
 
 MainMenu *takeMainMenu()
 {
-    if (theMainMenu == nullptr) {
+    if (!theMainMenu) {
         theMainMenu = new MainMenu{u"MainMenu"_s, {}};
 #ifdef Q_OS_MACOS
         showMainMenuIn(new QMenuBar(nullptr));
@@ -58,7 +58,7 @@ QMenu *makeUntitledMenu()
 template <typename Function>
 void forEachShortcut(Function function)
 {
-    const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
+    const QList<QMenu *> menus = theMainMenu ? theMainMenu->menus : QList<QMenu *>();
     for (const QMenu *menu : menus) {
         for (QAction *action : menu->actions()) {
             if (!action->shortcut().isEmpty()) {
@@ -92,7 +92,7 @@ void CUI_BuildMinimalMenu()
 
 void CUI_EditMenu(qint64 index)
 {
-    if (theMainMenu == nullptr) {
+    if (!theMainMenu) {
         CUI_BuildMinimalMenu();
     }
     if (index < theMainMenu->menus.size()) {
@@ -121,7 +121,7 @@ void appendMenu(MainMenu *menu, QMenu *added)
         return;
     }
     for (const auto &bar : std::as_const(bars)) {
-        if (bar != nullptr) {
+        if (bar) {
             bar->addMenu(added);
         }
     }
@@ -132,7 +132,7 @@ void showMainMenuIn(QMenuBar *bar)
     bars.removeAll(nullptr);
     bars.append(bar);
     openWithF10(bar);
-    const QList<QMenu *> menus = theMainMenu != nullptr ? theMainMenu->menus : QList<QMenu *>();
+    const QList<QMenu *> menus = theMainMenu ? theMainMenu->menus : QList<QMenu *>();
     for (QMenu *menu : menus) {
         bar->addMenu(menu);
     }

@@ -51,7 +51,7 @@ void endRun(ModalRun &run, qint64 code)
     if (&run != runs.last()) {
         return;
     }
-    filter().setWidget(nullptr);
+    filter().focus().setWidget(nullptr);
     // An open menu has a loop of its own above this one.
     while (QWidget *popup = QApplication::activePopupWidget()) {
         popup->close();
@@ -63,7 +63,7 @@ void endRun(ModalRun &run, qint64 code)
 
 void endIfGone(ModalRun &run)
 {
-    if (run.widget == nullptr || !run.widget->isVisible()) {
+    if (!run.widget || !run.widget->isVisible()) {
         endRun(run, modalAborted);
     }
 }
@@ -91,7 +91,7 @@ void present(QWidget *widget)
     if (widget->isWindow()) {
         widget->activateWindow();
     }
-    filter().focusInside();
+    filter().focus().focusInside();
 }
 
 void begin(ModalRun &run)
@@ -101,22 +101,22 @@ void begin(ModalRun &run)
     }
     runs.append(&run);
     setServingEvents(true);
-    filter().setWidget(run.widget);
+    filter().focus().setWidget(run.widget);
     watch(run);
     addMenuShortcutsTo(run.widget);
 }
 
 void returnTo(ModalRun &outer, QWidget *focusBefore)
 {
-    filter().setWidget(outer.ended ? nullptr : outer.widget.data());
-    if (outer.ended || outer.widget == nullptr) {
+    filter().focus().setWidget(outer.ended ? nullptr : outer.widget.data());
+    if (outer.ended || !outer.widget) {
         return;
     }
     outer.widget->window()->activateWindow();
-    if (focusBefore != nullptr) {
+    if (focusBefore) {
         focusBefore->setFocus(Qt::OtherFocusReason);
     } else {
-        filter().focusInside();
+        filter().focus().focusInside();
     }
 }
 
@@ -124,11 +124,11 @@ void finish(const ModalRun &run)
 {
     runs.removeLast();
     setServingEvents(!runs.isEmpty());
-    if (run.widget != nullptr) {
+    if (run.widget) {
         removeMenuShortcutsFrom(run.widget);
     }
     if (runs.isEmpty()) {
-        filter().setWidget(nullptr);
+        filter().focus().setWidget(nullptr);
         filter().remove();
     } else {
         returnTo(*runs.last(), run.focusBefore);
@@ -139,7 +139,7 @@ void finish(const ModalRun &run)
 
 qint64 runModalForWindow(QWidget *window)
 {
-    if (window == nullptr) {
+    if (!window) {
         return modalAborted;
     }
     announceLaunch();
@@ -172,7 +172,7 @@ void abortModal()
 
 void leaveInFront(QWidget *window)
 {
-    filter().leaveInFront(window);
+    filter().focus().leaveInFront(window);
 }
 
 QWidget *modalWindow()

@@ -1,42 +1,28 @@
 #pragma once
 
-#include <QKeyEvent>
-#include <QObject>
-#include <QPointer>
-#include <QWidget>
+#include "runtime/app/modal/kept_keys.h"
+#include "runtime/app/modal/modal_focus.h"
 
-#include <memory>
-#include <vector>
+#include <QObject>
 
 class QWindow;
 
 namespace tetrad {
 
 /// Sees every event of the application during modal runs and withholds the ones that are not for the
-/// newest run's widget.
+/// newest run's widget. Once that run has been ended nothing passes, and keys are kept for the next one.
 class ModalFilter : public QObject
 {
     Q_OBJECT
 
 public:
-    ModalFilter();
-    ~ModalFilter() override;
-
     void install();
     void remove();
 
-    /// The widget the user may work with from now on; null when the newest run has been ended and its
-    /// loop is only unwinding: then nothing passes, and keys are kept.
-    void setWidget(QWidget *widget);
-
-    /// Moves the focus into the widget: to where it was there, else to the first place that takes it.
-    void focusInside();
-
-    /// Lets a window that the program brought to the front stay there until the user leaves it.
-    void leaveInFront(QWidget *window) { m_front = window; }
+    ModalFocus &focus() { return m_focus; }
 
     /// Sends the keys that were kept to the widget.
-    void deliverKeptKeys();
+    void deliverKeptKeys() { m_keys.deliverTo(m_focus); }
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
@@ -47,24 +33,15 @@ Q_SIGNALS:
 private:
     bool isWithheldFromWindow(QWindow *window, QEvent *event);
     bool isWithheldFromWidget(QWidget *widget, QEvent *event);
-    void followKeyboard();
-    bool keepKey(QEvent *event);
     bool redirectKey(QEvent *event);
     static bool endHere(QEvent *event);
     bool comesFromInside(const QWidget *widget) const;
-    bool isLive(const QWidget *widget) const;
     bool isCarrier(const QWidget *window) const;
     bool isScrollBar(const QWidget *widget) const;
     bool scrolls(const QWidget *widget) const;
-    void windowActivated(const QWidget *widget);
-    void activateAgain();
-    void bringBack();
-    void focusMoved(QWidget *now);
 
-    QPointer<QWidget> m_widget;
-    QPointer<QWidget> m_lastFocus;
-    QPointer<QWidget> m_front;
-    std::vector<std::unique_ptr<QKeyEvent>> m_keptKeys;
+    ModalFocus m_focus;
+    KeptKeys m_keys;
     bool m_redirecting = false;
 };
 
