@@ -8,4 +8,6 @@ with open(sys.argv[1], encoding="utf-8") as document:
 includes = {line for program in programs for line in re.findall("#include .*", program)}
 print("\n".join(sorted(includes)))
 for number, program in enumerate(programs):
-    print(f"namespace recipe{number} {{", re.sub("#include .*", "", program), "}", sep="\n")
+    # Only the one main may end without a return.
+    program = re.sub("#include .*", "", program).replace("int main()", "void program()")
+    print(f"namespace recipe{number} {{", program, "}", sep="\n")
