@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/alerts/alerts.cpp and show_alert.cpp
+
 #include <tetrad/events/tag.h>
 
 #include <QString>

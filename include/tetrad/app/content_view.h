@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/windows/content_view.cpp
+
 #include <QColor>
 #include <QStringList>
 #include <QWidget>

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/menus/menus.cpp
+
 #include <QList>
 #include <QString>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/modal/modal.cpp
+
 #include <QtGlobal>
 
 class QWidget;

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/popovers/popover.cpp
+
 #include <tetrad/events/tag.h>
 
 #include <QWidget>

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/alerts/run_time_stop.cpp
+
 #include <QString>
 
 namespace tetrad {

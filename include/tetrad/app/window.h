@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/windows/window.cpp and window_controller.cpp
+
 #include <tetrad/events/tag.h>
 
 #include <QMainWindow>

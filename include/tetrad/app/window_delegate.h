@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/windows/window_delegate.cpp
+
 #include <tetrad/app/window.h>
 #include <tetrad/events/event_codes.h>
 

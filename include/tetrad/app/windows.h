@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/windows/windows.cpp and output_window.cpp
+
 #include <tetrad/events/output_window_tag.h>
 
 #include <QColor>
