@@ -116,7 +116,7 @@ QString CUI_ControlFormatter::withoutRefused(const QString &proposal) const
     return accepted;
 }
 
-// Two halves, between which something was taken out, have become a character that nobody has looked at.
+// When characters between two halves of a pair are removed, the halves become a character that was not checked yet.
 void CUI_ControlFormatter::takeBackRefusedPair(QString &accepted) const
 {
     if (accepted.size() < 2) {

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A key that may well be held down still from the answer before; its repetition is no new answer.
+/// A key that may still be held down from the previous answer; its repetition is no new answer.
 bool isLeftover(const QKeyEvent *event)
 {
     return event->isAutoRepeat() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
@@ -70,8 +70,8 @@ void ZRInkeyWindow::windowDidBecomeKey()
     if (m_cursorTimer) {
         return;
     }
-    // The panel owns the one timer there is: a second one, started with the panel and stopped by
-    // nobody, would toggle the cursor out of step and outlive the panel.
+    // Deliberately the only timer: one that also starts with the panel and is never stopped would toggle the cursor out
+    // of step and outlive the panel.
     m_cursorTimer = new QTimer(this);
     connect(m_cursorTimer, &QTimer::timeout, this, &ZRInkeyWindow::timerFired);
     m_cursorTimer->start(std::chrono::milliseconds(500));

@@ -4,11 +4,40 @@
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
 #include <tetrad/input/control_formatter.h>
+#include <tetrad/strings/not_given.h>
 
 #include <QLineEdit>
 #include <QPointer>
 
+#include <optional>
+
 namespace tetrad {
+
+namespace {
+
+std::optional<ZRInputFormat> sPendingInputFormat;
+
+} // namespace
+
+void InputSetFormat(const QString &characters, qint64 pass, qint64 maxLength, qint64 caseOption)
+{
+    sPendingInputFormat = ZRInputFormat{
+        .characters = characters,
+        .pass = pass != 0,
+        .maxLength = maxLength == notGiven ? 0 : static_cast<quint64>(maxLength),
+        .caseOption = caseOption == notGiven ? caseInsensitiveList : caseOption,
+    };
+}
+
+void InputRemoveFormat()
+{
+    sPendingInputFormat.reset();
+}
+
+const ZRInputFormat *pendingInputFormat()
+{
+    return sPendingInputFormat ? &*sPendingInputFormat : nullptr;
+}
 
 QString ZRInput(qint64 x, qint64 y, const QString &prompt, const QString &characters, qint64 pass, qint64 maxLength,
                 qint64 caseOption)

@@ -20,7 +20,7 @@ unsigned char *PSmid(const unsigned char *source, qint16 start, qint16 count)
     popString();
     const int length = source[0];
     const int first = std::clamp<int>(start, 1, sizeof(PascalString));
-    // What is left from the start, which is less than nothing for a start beyond the end.
+    // The characters from the start on; a negative number for a start beyond the end.
     const int copied = std::clamp<int>(count, 0, std::max(length - first + 1, 0));
     std::memmove(gReturnedString + 1, source + first, static_cast<std::size_t>(copied));
     gReturnedString[0] = static_cast<unsigned char>(copied);

@@ -8,8 +8,8 @@
 
 namespace tetrad {
 
-/// Drops the fraction. A number outside the integer's range becomes the nearer limit, one that is
-/// none becomes 0; a plain conversion would be undefined.
+/// Drops the fraction. A number outside the integer's range becomes the nearer limit, and NaN
+/// becomes 0; a plain conversion would be undefined.
 template <typename Integer>
 constexpr Integer saturatedTo(double number)
 {

@@ -43,8 +43,8 @@ qint64 InString(qint32 start, const QString &haystack, const QString &needle, qi
     }
     const auto sensitivity = (chosen & searchCaseInsensitive) != 0 ? Qt::CaseInsensitive : Qt::CaseSensitive;
     if (backwards) {
-        // The place to search from is given although it is the end: without it this view reads one
-        // character beyond its own when the needle is a single one.
+        // The position to search from is passed although it is the end: without it the view reads one character beyond
+        // its end for a needle of one character.
         return foundAt(QStringView(haystack).first(from + 1).lastIndexOf(needle, from, sensitivity));
     }
     return foundAt(haystack.indexOf(needle, from, sensitivity));

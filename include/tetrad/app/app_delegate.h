@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/app/process/app_delegate.cpp
+
 #include <tetrad/strings/error_object.h>
 
 #include <QObject>
@@ -15,8 +17,6 @@ class QTimer;
 namespace tetrad {
 
 class Window;
-
-// Implemented in runtime/app/process/app_delegate.cpp
 
 /// The application's delegate: answers what the window system asks about the application and reports
 /// what happens to it, each callback as one numbered event (AppEvent). A callback stores its

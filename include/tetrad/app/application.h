@@ -1,13 +1,13 @@
 #pragma once
 
+// Implemented in runtime/app/process/: application.cpp, termination.cpp, about_panel.cpp and app_events.cpp
+
 #include <QString>
 #include <QVariant>
 
 namespace tetrad {
 
 class CUI_AppDelegate;
-
-// Implemented in runtime/app/process/: application.cpp, termination.cpp, about_panel.cpp, app_events.cpp
 
 /// Makes the process an application of the window system that is driven from the program's own straight-line main. A
 /// second call changes nothing. What it does to the process:

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
-
 // Implemented in runtime/app/process/dump.cpp
+
+#include <QString>
 
 namespace tetrad {
 

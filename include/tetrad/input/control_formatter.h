@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/input/control_formatter.cpp and character_set.cpp
+
 #include <tetrad/events/tag.h>
 
 #include <QSet>
@@ -55,11 +57,11 @@ public:
     CUI_ControlFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption,
                          QObject *parent = nullptr);
 
-    /// The proposal without its refused characters, in the case asked for; the limit is not looked at.
+    /// The proposal without its refused characters, in the wanted case; the limit is ignored.
     QString formatted(const QString &proposal) const;
 
     /// Invalid when the proposal is too long; else Acceptable, with input and pos replaced by the
-    /// formatted text and the cursor's place in it.
+    /// formatted text and the cursor's position in it.
     State validate(QString &input, int &pos) const override;
 
 private:

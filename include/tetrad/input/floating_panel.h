@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/input/floating_panel.cpp
+
 #include <QPoint>
 #include <QPointer>
 #include <QString>
@@ -15,14 +17,13 @@ class PromptLabel;
 /// its shadow over the content of the front window, whose raised child it is. Without any window it is a frameless
 /// window of its own. It is as wide as its texts, stays inside the content, and is dragged by its background. The
 /// derived class supplies the entry and decides which key ends the run.
-// Implemented in runtime/input/floating_panel.cpp
 class FloatingPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The requested position as it was given: the body's bottom left corner in pixels from the
-    /// content's top left; notGiven in both when there was none.
+    /// The requested position: the body's bottom left corner in pixels from the content's top left; notGiven in both
+    /// for none.
     qint64 xPos() const { return m_xPos; }
     qint64 yPos() const { return m_yPos; }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/input/key_input.cpp and inkey_window.cpp
+
 #include <tetrad/input/control_formatter.h>
 #include <tetrad/input/floating_panel.h>
 

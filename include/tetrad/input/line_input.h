@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/input/line_input.cpp and line_input_window.cpp
+
 #include <tetrad/input/floating_panel.h>
 
 #include <QByteArrayView>

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/strings/number_printer.cpp and number_reader.cpp
+
 #include <QString>
 
 class QVariant;
@@ -13,12 +15,12 @@ extern quint8 gZRFloatMaxDigits;
 /// without the zeros at either end, so 2.05 is " 2.5". The integer part saturates at the 64-bit limits.
 QString CopyDblToString(double number);
 
-/// The decimal number the text starts with, after blanks; what follows it is ignored. 0 if there is
-/// none, an infinity if it is too large. Hexadecimal digits, "inf" and "nan" are no numbers.
+/// The decimal number at the start of the text, after blanks; the rest is ignored. 0 without a number, an infinity for
+/// one that is too large. Hexadecimal digits, "inf" and "nan" do not count as numbers.
 double StringDoubleValue(const QString &text);
 
-/// The decimal integer the text starts with, after blanks; what follows it is ignored. 0 if there is
-/// none, the nearer 64-bit limit if it is too large.
+/// The decimal integer at the start of the text, after blanks; the rest is ignored. 0 without a number, the nearer
+/// 64-bit limit for one that is too large.
 qint64 StringIntegerValue(const QString &text);
 
 /// The value of a number or of a text, as StringDoubleValue reads it; 0 for any other object.

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/strings/pascal_strings.cpp and string_stack.cpp
+
 #include <QString>
 
 namespace tetrad {
@@ -26,8 +28,8 @@ unsigned char *STACK_PUSH();
 /// next push return slot 0.
 void popString();
 
-/// Who is told of a full stack, after the message went to standard error: the message, the advice and a fatal
-/// flag (always -1). It should not return; the program aborts if it does, or if there is none.
+/// Called when the stack is full, after the message was written to standard error, with the message, the advice and a
+/// fatal flag (always -1). It should not return. The program aborts if it does, or if none is set.
 using StringStackStop = void (*)(const QString &message, const QString &informative, qint32 fatal);
 void setStringStackStop(StringStackStop stop);
 
@@ -35,17 +37,17 @@ void setStringStackStop(StringStackStop stop);
 /// overwrites it.
 extern PascalString gReturnedString;
 
-/// Copies the string, also onto itself, and returns the destination. Pops nothing.
+/// Copies the string and returns the destination, which may be the source. Pops nothing.
 unsigned char *PSstrcpy(unsigned char *destination, const unsigned char *source);
 
-/// Pops one slot. Returns, in gReturnedString, count characters from start (the first is 1) or those
-/// there are. A start below 1 is taken as 1 without shortening the count.
+/// Pops one slot. Returns, in gReturnedString, count characters from start (the first is 1), or
+/// as many as there are. A start below 1 is taken as 1 without shortening the count.
 unsigned char *PSmid(const unsigned char *source, qint16 start, qint16 count);
 
 /// Pops one slot. The number of characters, 0 to 255.
 int PSlen(const unsigned char *source);
 
-/// Pops one slot. The first character's code, 0 to 255, or 0 if there is none.
+/// Pops one slot. The first character's code, 0 to 255, or 0 for the empty string.
 int PSasc(const unsigned char *source);
 
 /// Pops one slot. The text up to the first zero byte, if the string holds one.

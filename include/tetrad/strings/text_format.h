@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/strings/text_format.cpp
+
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -49,7 +51,6 @@ private:
 /// one saturates, a text given for a number is read as its value. The precision of a text counts UTF-16 units. A
 /// missing argument is 0 or "(null)"; a malformed directive stays in the text as it is. Widths and precisions end at
 /// 10000.
-// Implemented in runtime/strings/text_format.cpp
 QString formatText(const QString &format, std::initializer_list<FormatArgument> arguments);
 
 template <typename... Args>

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/strings/text_functions.cpp and case_tables.cpp
+
 #include <tetrad/strings/not_given.h>
 
 #include <QString>
@@ -20,18 +22,18 @@ extern unsigned char gZRLowerChar[256];
 /// either is used. Returns 0.
 int InitZRGlobals();
 
-// Positions and lengths count UTF-16 units, positions from 0. A null text is no text: it equals,
-// contains and yields nothing.
+// Positions and lengths count UTF-16 units, positions from 0. A null text equals and
+// contains nothing, and every part of it is null.
 
 /// The location of a search that failed.
 inline constexpr qint64 notFound = std::numeric_limits<qint64>::max();
 
-/// Search options, to be added up.
+/// Search options; add those wanted.
 inline constexpr qint64 searchCaseInsensitive = 1;
 inline constexpr qint64 searchLiteral = 2;
 inline constexpr qint64 searchBackwards = 4;
 
-/// Where the needle stands in the haystack, or notFound. A forward search begins at start; a backward
+/// The position of the needle in the haystack, or notFound. A forward search begins at start; a backward
 /// one finds the last match that ends at start or before it, and searches everything if start is
 /// outside the haystack. Without options the search is literal, which every search here is.
 qint64 InString(qint32 start, const QString &haystack, const QString &needle, qint64 options = notGiven);
@@ -47,7 +49,7 @@ qint64 LenCF(const QVariant &object);
 
 QString StringWithString(const QString &text);
 
-/// 1 or 0, literally. No text equals nothing, not even no text.
+/// 1 or 0; the comparison is literal. A null text equals nothing, not even another null text.
 int StringIsEqual(const QString &left, const QString &right);
 
 QString StringByAppendingString(const QString &text, const QString &tail);
@@ -58,7 +60,7 @@ QStringList StringComponentsSeparatedByString(const QString &text, const QString
 /// A range that reaches outside the text is cut to it.
 QString StringSubstringWithRange(const QString &text, qint64 location, qint64 length);
 
-/// 1 or 0. The empty text is contained in none.
+/// 1 or 0. No text contains the empty text.
 int StringContainsString(const QString &text, const QString &part);
 
 /// An empty target occurs nowhere.

@@ -41,6 +41,8 @@ void orderFrontStandardAboutPanel()
     panel->setText(applicationName());
     panel->setInformativeText(facts());
     panel->setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), panel->devicePixelRatio()));
+    // Leaves room for the title next to the buttons of a title bar.
+    panel->setStyleSheet(u"QLabel#qt_msgbox_label { min-width: 220px; }"_s);
     panel->addButton(QMessageBox::Ok);
     QObject::connect(panel, &QDialog::finished, panel, [] { stopModalWithCode(modalStopped); });
     runModalForWindow(panel);

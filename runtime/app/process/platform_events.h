@@ -6,8 +6,8 @@ namespace tetrad {
 /// activation, screens, files to open, the session's end, requests to quit. Called once.
 void translatePlatformEvents();
 
-/// Tells the delegate that the application is launching and has launched, once, in the first modal run:
-/// only there events begin to be served, and a program has installed its functions by then.
+/// Notifies the delegate once, in the first modal run, that the application is launching and has launched. Events are
+/// served only from then on, and a program has installed its functions by then.
 void announceLaunch();
 
 } // namespace tetrad
