@@ -92,7 +92,7 @@ class TestWindows(PlayingTest):
         # Width and height of the window, then left and top of the panel's field from the console's corner.
         for width, height, *place in [
             (140, 80),
-            (300, 120, 170, 75),
+            (300, 120, 176, 75),
             (1260, 740, 176, 164),
             (580, 269, 176, 164),
         ]:
