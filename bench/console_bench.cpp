@@ -1,9 +1,9 @@
 // The console beside what Qt offers for printing lines: one window of 580 x 250 pixels each, the same font. Arguments
 // are numbers of lines. Memory is what the C library has handed out.
+#include "runtime/console/document/font_facts.h"
 #include <tetrad/app/application.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/console/console_scroll_view.h>
 #include <tetrad/console/console_statements.h>
 #include <tetrad/console/console_view.h>
 #include <tetrad/strings/not_given.h>

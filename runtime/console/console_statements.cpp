@@ -2,7 +2,6 @@
 #include <tetrad/console/console_statements.h>
 
 #include <tetrad/app/windows.h>
-#include <tetrad/console/console_scroll_view.h>
 #include <tetrad/console/console_view.h>
 #include <tetrad/strings/not_given.h>
 

@@ -54,7 +54,7 @@ TEST_F(Console, alignmentUsesTheWidthOfTheViewButTheCurrentPointMovesOn)
         view.setAlignment(alignment);
         view.addString(u"abcd\b"_s);
         EXPECT_DOUBLE_EQ(view.currentPoint().x(), 7 + 4 * advance);
-        return view.items().item(view.items().size() - 1).pt().x();
+        return view.items().at(view.items().size() - 1).pt().x();
     };
     EXPECT_DOUBLE_EQ(placed(0), 7);
     EXPECT_DOUBLE_EQ(placed(1), (400 - 4 * advance) / 2);
@@ -109,7 +109,7 @@ TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
     const auto font = now.value(u"font"_s).value<QFont>();
     EXPECT_TRUE(now.value(u"mood"_s) == 7 && font.family() == u"Menlo" && font.pixelSize() == 12)
         << view.dump().toStdString();
-    EXPECT_EQ(view.items().item(0).attributes().backgroundColor(), QColor(Qt::transparent));
+    EXPECT_EQ(view.items().at(0).attributes().backgroundColor(), QColor(Qt::transparent));
 }
 
 TEST(Measuring, agreesWithLayingOut)

@@ -1,5 +1,4 @@
 #include "tests/console/printing.h"
-#include <tetrad/console/console_scroll_view.h>
 
 #include <QAccessible>
 #include <QApplication>

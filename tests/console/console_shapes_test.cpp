@@ -8,7 +8,7 @@ namespace {
 TEST_F(Console, aPolylineIsASegmentPerPoint)
 {
     view.addLines({{1, 2}}, false);
-    EXPECT_EQ(view.items().size(), 0U);
+    EXPECT_EQ(view.items().size(), 0);
     EXPECT_EQ(view.currentLinePoint(), QPointF(1, 2));
     EXPECT_EQ(view.viewH(), 0);
     view.setCurrentLineWidth(4);

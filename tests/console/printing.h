@@ -1,5 +1,9 @@
 #pragma once
 
+#include "runtime/console/document/console_reader.h"
+#include "runtime/console/document/display_list.h"
+#include "runtime/console/document/font_facts.h"
+#include "runtime/console/document/text_layout.h"
 #include "tests/support/table.h"
 #include <tetrad/console/console_view.h>
 
@@ -22,8 +26,8 @@ protected:
     QString items() const
     {
         QStringList all;
-        for (quint32 i = 0; i < view.items().size(); ++i) {
-            const CUI_PrintToWindowItem &item = view.items().item(i);
+        for (qsizetype i = 0; i < view.items().size(); ++i) {
+            const CUI_PrintToWindowItem &item = view.items().at(i);
             all.append(item.string() + u'@' + QString::number(item.pt().x()) + u',' +
                        QString::number(item.pt().y() / lineHeight));
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/console/view/item_painter.h"
 #include <tetrad/console/console_view.h>
 
 #include <QImage>
@@ -7,7 +8,7 @@
 
 namespace tetrad {
 
-/// Draws every item of a view's list in order, wherever it is, and all of its selection.
+/// Draws every item of a view's list in order, wherever it is.
 class WholeList : public QWidget
 {
 public:
@@ -16,19 +17,14 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        constexpr double everywhere = 1e9;
         QPainter painter(this);
-        const ItemPainter::Canvas canvas{painter, palette().color(QPalette::WindowText), !m_view.flipView(),
-                                         m_view.documentSize().height()};
-        for (quint32 i = 0; i < m_view.items().size(); ++i) {
-            m_itemPainter.draw(canvas, m_view.items(), i);
+        for (qsizetype i = 0; i < m_view.items().size(); ++i) {
+            drawItem({painter, m_view.mirror(), palette()}, m_view, static_cast<quint32>(i));
         }
-        m_view.reader().drawSelection(canvas, palette(), -everywhere, everywhere);
     }
 
 private:
     CUI_PrintToWindowView &m_view;
-    ItemPainter m_itemPainter;
 };
 
 /// What a widget shows in a part of itself, over white; seen in its coordinates.

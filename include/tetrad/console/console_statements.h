@@ -1,8 +1,10 @@
+// Implemented in runtime/console/console_statements.cpp and colors.cpp
 #pragma once
 
 #include <tetrad/strings/text_format.h>
 
 #include <QColor>
+#include <QFont>
 #include <QPointF>
 #include <QRectF>
 #include <QStringList>
@@ -12,6 +14,15 @@ class QWidget;
 namespace tetrad {
 
 class CUI_PrintToWindowView;
+
+/// A plain record that a program may keep its own console defaults in; nothing in the console reads it.
+struct CUI_PrintToWindowDefaults
+{
+    QFont font;
+    double textInset = 0;
+    bool showScroller = false;
+    bool autoHideScroller = false;
+};
 
 QColor ColorBlack();
 QColor ColorGreen(); ///< pure green: red 0, green 1, blue 0

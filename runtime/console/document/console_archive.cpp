@@ -1,4 +1,4 @@
-#include <tetrad/console/console_archive.h>
+#include "runtime/console/document/console_archive.h"
 
 #include <tetrad/console/console_item.h>
 

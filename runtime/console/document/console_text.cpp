@@ -1,7 +1,7 @@
-#include <tetrad/console/console_text.h>
+#include "runtime/console/document/console_text.h"
 
-#include <tetrad/console/display_list.h>
-#include <tetrad/console/text_layout.h>
+#include "runtime/console/document/display_list.h"
+#include "runtime/console/document/text_layout.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +12,7 @@ namespace tetrad {
 void ConsoleText::sync(const DisplayList &list)
 {
     for (; m_taken < list.size(); ++m_taken) {
-        const DisplayList::Entry &entry = list.at(m_taken);
+        const DisplayList::Entry &entry = list.entry(m_taken);
         if (entry.item.isShape()) {
             continue;
         }
@@ -22,7 +22,7 @@ void ConsoleText::sync(const DisplayList &list)
             join(entry.item.pt());
             m_atLineStart = false;
         }
-        m_pieces.push_back({m_text.size(), m_taken});
+        m_pieces.push_back({m_text.size(), static_cast<quint32>(m_taken)});
         append(drawn);
         m_end = entry.item.pt() + QPointF(entry.width, 0);
         if (entry.endsLine) {

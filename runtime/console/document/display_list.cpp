@@ -1,62 +1,168 @@
-#include <tetrad/console/display_list.h>
+#include "runtime/console/document/display_list.h"
 
+#include "runtime/console/document/band_index.h"
 #include "runtime/console/document/console_dump.h"
-#include <tetrad/console/console_archive.h>
+#include "runtime/console/document/font_facts.h"
+#include "runtime/console/document/shape_geometry.h"
+#include "runtime/console/document/text_layout.h"
 
+#include <algorithm>
 #include <cmath>
+#include <deque>
+#include <limits>
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-bool isDrawable(const QRectF &ink)
+constexpr float outward = std::numeric_limits<float>::infinity();
+
+float roundedTo(float direction, double value)
 {
-    return std::isfinite(ink.top()) && std::isfinite(ink.bottom()) && std::isfinite(ink.left()) &&
-           std::isfinite(ink.right()) && !ink.isEmpty();
+    return std::nextafter(static_cast<float>(std::clamp(value, -1e9, 1e9)), direction);
 }
 
 } // namespace
 
-bool DisplayList::append(Entry entry, const QRectF &ink)
+struct DisplayList::Contents
 {
-    const bool drawable = isDrawable(ink);
-    if (drawable) {
-        m_bands.add(size(), ink.top(), ink.bottom());
-        // Whole pixels, which a float holds as they are.
-        entry.inkLeft = static_cast<float>(std::floor(ink.left()) - 1);
-        entry.inkRight = static_cast<float>(std::ceil(ink.right()) + 1);
+    std::deque<Entry> entries;
+    BandIndex bands;
+    size_t banded = 0; ///< How many entries the bands know.
+
+    void fillBands()
+    {
+        for (; banded < entries.size(); ++banded) {
+            if (const Ink &ink = entries[banded].ink; !ink.isEmpty()) {
+                bands.add(static_cast<quint32>(banded), ink.top, ink.bottom);
+            }
+        }
     }
-    m_entries.push_back(std::move(entry));
-    return drawable;
+};
+
+Ink::Ink(const QRectF &rect)
+{
+    const auto isFinite = std::isfinite(rect.left()) && std::isfinite(rect.top()) && std::isfinite(rect.right()) &&
+                          std::isfinite(rect.bottom());
+    if (!isFinite || rect.isEmpty()) {
+        return;
+    }
+    left = roundedTo(-outward, rect.left());
+    top = roundedTo(-outward, rect.top());
+    right = roundedTo(outward, rect.right());
+    bottom = roundedTo(outward, rect.bottom());
+}
+
+DisplayList::Entry DisplayList::Entry::of(const CUI_PrintToWindowItem &item)
+{
+    if (item.isShape()) {
+        return {item, Ink(shapeInk(item))};
+    }
+    const TextExtent extent = measureText(item.string(), item.attributes());
+    return {item, Ink(extent.ink.translated(item.pt())), static_cast<float>(extent.width)};
+}
+
+QRectF DisplayList::Entry::box() const
+{
+    return {item.pt(), QSizeF(width, item.attributes().facts().lineHeight)};
+}
+
+DisplayList::DisplayList(ConsoleDocument &document) : m_document(document), m_contents(std::make_unique<Contents>()) {}
+
+DisplayList::~DisplayList() = default;
+
+qsizetype DisplayList::size() const
+{
+    return static_cast<qsizetype>(m_contents->entries.size());
+}
+
+const DisplayList::Entry &DisplayList::entry(qsizetype index) const
+{
+    return m_contents->entries[static_cast<size_t>(index)];
+}
+
+const CUI_PrintToWindowItem &DisplayList::at(qsizetype index) const
+{
+    return entry(index).item;
+}
+
+void DisplayList::append(const CUI_PrintToWindowItem &item)
+{
+    append(Entry::of(item));
+}
+
+void DisplayList::append(Entry entry)
+{
+    const Ink ink = entry.ink;
+    m_contents->entries.push_back(std::move(entry));
+    m_document.itemAppended(ink.isEmpty() ? QRectF()
+                                          : QRectF(QPointF(ink.left, ink.top), QPointF(ink.right, ink.bottom)));
+}
+
+bool DisplayList::has(qsizetype index) const
+{
+    if (index >= 0 && index < size()) {
+        return true;
+    }
+    qWarning("console: there is no item %lld of %lld", static_cast<qint64>(index), static_cast<qint64>(size()));
+    return false;
+}
+
+void DisplayList::replace(qsizetype index, const CUI_PrintToWindowItem &item)
+{
+    if (has(index)) {
+        m_contents->entries[static_cast<size_t>(index)] = Entry::of(item);
+        changed();
+    }
+}
+
+void DisplayList::insert(qsizetype index, const CUI_PrintToWindowItem &item)
+{
+    if (index == size()) {
+        append(item);
+    } else if (has(index)) {
+        m_contents->entries.insert(m_contents->entries.begin() + index, Entry::of(item));
+        changed();
+    }
+}
+
+void DisplayList::removeAt(qsizetype index)
+{
+    if (has(index)) {
+        m_contents->entries.erase(m_contents->entries.begin() + index);
+        changed();
+    }
 }
 
 void DisplayList::clear()
 {
-    m_entries.clear();
-    m_entries.shrink_to_fit();
-    m_bands.clear();
+    // A new one: a deque keeps the memory of what it once held.
+    m_contents = std::make_unique<Contents>();
+    changed();
 }
 
-std::vector<quint32> DisplayList::itemsIn(double top, double bottom) const
+void DisplayList::changed()
 {
-    return m_bands.numbersIn(top, bottom);
+    m_contents->bands.clear();
+    m_contents->banded = 0;
+    m_document.itemsChanged();
 }
 
-QVariantList DisplayList::itemArray() const
+std::vector<quint32> DisplayList::itemsIn(const QRectF &part, qsizetype from) const
 {
-    QVariantList array;
-    array.reserve(static_cast<qsizetype>(m_entries.size()));
-    for (const Entry &entry : m_entries) {
-        array.append(archivedItem(entry.item));
-    }
-    return array;
+    m_contents->fillBands();
+    std::vector<quint32> items = m_contents->bands.numbersIn(part.top(), part.bottom(), static_cast<quint32>(from));
+    std::erase_if(items, [&](quint32 index) { return !entry(index).ink.meets(part); });
+    return items;
 }
 
 QString DisplayList::dump() const
 {
     QString dump;
-    for (const Entry &entry : m_entries) {
-        dump += dumpedItem(entry.item) + u'\n';
+    for (const Entry &each : m_contents->entries) {
+        dump += dumpedItem(each.item) + u'\n';
     }
     return dump;
 }

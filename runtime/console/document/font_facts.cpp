@@ -1,4 +1,6 @@
-#include <tetrad/console/font_facts.h>
+#include "runtime/console/document/font_facts.h"
+
+#include "runtime/console/document/text_layout.h"
 
 #include <QCoreApplication>
 #include <QFontDatabase>
@@ -23,7 +25,8 @@ struct ChoiceHash
 {
     size_t operator()(const FontChoice &choice) const
     {
-        return qHashMulti(0, choice.family, choice.size, choice.weight, choice.italic);
+        return qHashMulti(0, choice.family, choice.size, choice.weight, choice.italic, choice.underline,
+                          choice.strikeOut);
     }
 };
 
@@ -44,12 +47,6 @@ bool isStandardFamily(const QString &family)
 {
     // The font database does not tell case apart either.
     return family.compare(standardFamily(), Qt::CaseInsensitive) == 0;
-}
-
-/// NaN counts as the smallest.
-double drawableSize(double size)
-{
-    return size >= 1 ? std::min(size, largestFontSize) : 1;
 }
 
 QString installedFamily(const QString &family)
@@ -141,18 +138,26 @@ std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
 
 } // namespace
 
+FontFacts::FontFacts() = default;
+
+FontFacts::~FontFacts() = default;
+
+bool isFontSize(double size)
+{
+    constexpr double largest = 4096;
+    return size >= 1 && size <= largest;
+}
+
 std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
 {
-    FontChoice key = choice;
-    key.size = drawableSize(choice.size);
     FactsTable &table = factsTable();
     if (table.empty()) {
         // Fonts must not outlive the application object that loaded them.
         qAddPostRoutine([] { factsTable().clear(); });
     }
-    std::shared_ptr<const FontFacts> &facts = table[key];
+    std::shared_ptr<const FontFacts> &facts = table[choice];
     if (!facts) {
-        facts = computeFacts(key);
+        facts = computeFacts(choice);
     }
     return facts;
 }
@@ -160,7 +165,12 @@ std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
 FontChoice fontChoice(const QFont &font)
 {
     const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() / pointsPerPixel();
-    return {.family = font.family(), .size = drawableSize(size), .weight = font.weight(), .italic = font.italic()};
+    return {.family = font.family(),
+            .size = size,
+            .weight = font.weight(),
+            .italic = font.italic(),
+            .underline = font.underline(),
+            .strikeOut = font.strikeOut()};
 }
 
 QFont fontObject(const FontChoice &choice)
@@ -168,6 +178,8 @@ QFont fontObject(const FontChoice &choice)
     QFont font(choice.family);
     font.setWeight(static_cast<QFont::Weight>(choice.weight));
     font.setItalic(choice.italic);
+    font.setUnderline(choice.underline);
+    font.setStrikeOut(choice.strikeOut);
     setPixelSize(font, choice.size);
     return font;
 }

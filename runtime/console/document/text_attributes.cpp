@@ -1,6 +1,10 @@
-#include <tetrad/console/text_attributes.h>
+#include <tetrad/console/console_item.h>
+
+#include "runtime/console/document/font_facts.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPalette>
 #include <QSharedData>
 
 namespace tetrad {
@@ -16,8 +20,12 @@ struct TextAttributes::Data : QSharedData
     ParagraphStyle paragraph;
     QVariantMap others;
 
-    void setFont(const FontChoice &choice)
+    void setFont(FontChoice choice)
     {
+        if (!isFontSize(choice.size)) {
+            qWarning("console: font size %g is not between 1 and 4096, ignored", choice.size);
+            choice.size = font.size;
+        }
         font = choice;
         facts = fontFacts(choice);
     }
@@ -103,7 +111,8 @@ QVariantMap TextAttributes::toMap() const
 {
     QVariantMap map = m_data->others;
     map.insert(u"font"_s, fontObject(m_data->font));
-    map.insert(u"foregroundColor"_s, m_data->foreground);
+    const QColor standard = QGuiApplication::palette().color(QPalette::WindowText);
+    map.insert(u"foregroundColor"_s, m_data->foreground.isValid() ? m_data->foreground : standard);
     map.insert(u"backgroundColor"_s, m_data->background);
     map.insert(u"paragraphStyle"_s, QVariant::fromValue(m_data->paragraph));
     return map;

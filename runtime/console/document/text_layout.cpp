@@ -1,7 +1,8 @@
-#include <tetrad/console/text_layout.h>
+#include "runtime/console/document/text_layout.h"
 
 #include "runtime/console/document/emoji_runs.h"
-#include <tetrad/console/text_attributes.h>
+#include "runtime/console/document/font_facts.h"
+#include <tetrad/console/console_item.h>
 
 #include <algorithm>
 
@@ -123,19 +124,35 @@ TextExtent measureText(const QString &text, const TextAttributes &attributes)
     if (facts.plainAdvance > 0 && std::all_of(drawn.begin(), drawn.end(), isPlain)) {
         const double width = static_cast<double>(drawn.size()) * facts.plainAdvance;
         if (width <= measuringLimit) {
-            return {width, boxInk(width, facts), nullptr};
+            return {width, boxInk(width, facts)};
         }
     }
-    auto shape = std::make_unique<ShapedText>(drawn, attributes);
+    const auto shape = shapedText(text, attributes);
     const QRectF ink = glyphInk(*shape, facts);
-    // Shaping emoji decodes their pictures each time; what fits is not laid out again to be measured.
     if (const double width = shape->width(); width <= measuringLimit) {
-        return {width, boxInk(width, facts) | ink, std::move(shape)};
+        return {width, boxInk(width, facts) | ink};
     }
     QTextLayout layout;
     layOut(layout, drawn, attributes, measuringLimit);
     const double width = widestLine(layout);
-    return {width, boxInk(width, facts) | ink, nullptr};
+    return {width, boxInk(width, facts) | ink};
+}
+
+std::shared_ptr<const ShapedText> shapedText(const QString &text, const TextAttributes &attributes)
+{
+    const QString drawn = drawnText(text, attributes);
+    // The paragraph style counts where there is a tab; long texts would fill the memory.
+    constexpr qsizetype longest = 1000;
+    if (drawn.contains(u'\t') || drawn.size() > longest) {
+        return std::make_shared<ShapedText>(drawn, attributes);
+    }
+    auto &shapes = attributes.facts().shapes;
+    if (const auto *known = shapes.object(drawn)) {
+        return *known;
+    }
+    const auto shape = std::make_shared<const ShapedText>(drawn, attributes);
+    shapes.insert(drawn, new auto(shape));
+    return shape;
 }
 
 ShapedText::ShapedText(const QString &text, const TextAttributes &attributes)

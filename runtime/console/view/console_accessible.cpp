@@ -1,5 +1,7 @@
 #include "runtime/console/view/console_accessible.h"
 
+#include "runtime/console/document/console_reader.h"
+#include "runtime/console/document/display_list.h"
 #include <tetrad/console/console_view.h>
 
 #include <QAccessible>
@@ -99,13 +101,13 @@ public:
         if (offset < 0 || offset >= characterCount()) {
             return {};
         }
-        const QRect rect = m_view->mirrored(m_view->reader().characterRect(inward(offset))).toAlignedRect();
+        const QRect rect = m_view->mirror().mapRect(m_view->reader().characterRect(inward(offset))).toAlignedRect();
         return {m_view->mapToGlobal(rect.topLeft()), rect.size()};
     }
 
     int offsetAtPoint(const QPoint &point) const override
     {
-        return outward(m_view->reader().characterAt(m_view->mirrored(QPointF(m_view->mapFromGlobal(point)))));
+        return outward(m_view->reader().characterAt(m_view->mirror().map(QPointF(m_view->mapFromGlobal(point)))));
     }
 
     int cursorPosition() const override { return outward(m_view->reader().caret()); }
@@ -148,7 +150,7 @@ public:
         if (const ConsoleText::Piece *next = text.pieceAfter(*piece)) {
             *endOffset = outward(next->offset);
         }
-        return described(m_view->items().item(piece->item).attributes());
+        return described(m_view->items().at(piece->item).attributes());
     }
 
     void scrollToSubstring(int startIndex, int endIndex) override

@@ -1,8 +1,7 @@
-#include <tetrad/console/console_scroll_view.h>
+#include <tetrad/console/console_view.h>
 
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/console/console_view.h>
 
 #include <QEvent>
 #include <QScrollBar>
@@ -72,6 +71,7 @@ void CUI_PrintToWindowScrollView::resizeEvent(QResizeEvent *event)
 {
     if (QWidget *view = widget()) {
         view->resize(viewport()->width(), view->height());
+        view->update();
     }
     QScrollArea::resizeEvent(event);
 }

@@ -1,7 +1,7 @@
 #include "runtime/console/view/console_selection.h"
 
+#include "runtime/console/document/console_reader.h"
 #include <tetrad/app/modal.h>
-#include <tetrad/console/console_scroll_view.h>
 #include <tetrad/console/console_view.h>
 
 #include <QApplication>
@@ -64,6 +64,13 @@ bool ConsoleSelection::eventFilter(QObject *object, QEvent *event)
     case QEvent::MouseButtonRelease:
         releaseMouse(static_cast<QMouseEvent *>(event));
         return false;
+    // The frame around what is visible does not scroll with it.
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (m_view->hasFocus()) {
+            m_view->update();
+        }
+        return false;
     default:
         return QObject::eventFilter(object, event);
     }
@@ -109,13 +116,13 @@ qsizetype ConsoleSelection::destination(const QKeyEvent &event) const
     case Qt::Key_Right:
         return reader.stepFrom(caret, 1);
     case Qt::Key_Up:
-        return lineAway(-1);
+        return reader.caretBeyond(-1);
     case Qt::Key_Down:
-        return lineAway(1);
+        return reader.caretBeyond(1);
     case Qt::Key_PageUp:
-        return lineAway(-pageHeight());
+        return pageAway(-1);
     case Qt::Key_PageDown:
-        return lineAway(pageHeight());
+        return pageAway(1);
     case Qt::Key_Home:
         return 0;
     case Qt::Key_End:
@@ -125,18 +132,14 @@ qsizetype ConsoleSelection::destination(const QKeyEvent &event) const
     }
 }
 
-double ConsoleSelection::pageHeight() const
-{
-    const QRectF here = m_view->reader().characterRect(m_view->reader().caret());
-    const QWidget *viewport = m_view->parentWidget();
-    return viewport && here.height() > 0 ? std::max(1.0, viewport->height() / here.height() - 1) : 1;
-}
-
-qsizetype ConsoleSelection::lineAway(double heights) const
+/// A page overlaps the one before by a line.
+qsizetype ConsoleSelection::pageAway(int direction) const
 {
     ConsoleReader &reader = m_view->reader();
     const QRectF here = reader.characterRect(reader.caret());
-    return reader.caretNear({here.left(), here.center().y() + heights * here.height()});
+    const QWidget *viewport = m_view->parentWidget();
+    const double page = std::max(here.height(), (viewport ? viewport->height() : 0) - here.height());
+    return reader.caretNear({here.left(), here.center().y() + direction * page});
 }
 
 QWidget *ConsoleSelection::typingTarget() const
@@ -150,12 +153,12 @@ QWidget *ConsoleSelection::typingTarget() const
         }
     }
     QWidget *modal = modalWindow();
-    return modal != nullptr ? modal->focusWidget() : nullptr;
+    return modal ? modal->focusWidget() : nullptr;
 }
 
 qsizetype ConsoleSelection::caretAt(const QMouseEvent *event) const
 {
-    return m_view->reader().caretNear(m_view->mirrored(event->position()));
+    return m_view->reader().caretNear(m_view->mirror().map(event->position()));
 }
 
 void ConsoleSelection::pressMouse(const QMouseEvent *event)
@@ -193,7 +196,7 @@ void ConsoleSelection::drawFocus(QPainter &painter) const
     }
     // The colour of a selection is seen on any background that the program may have chosen.
     const QColor color = m_view->palette().color(QPalette::Highlight);
-    const QRectF caret = m_view->mirrored(m_view->reader().characterRect(m_view->reader().caret()));
+    const QRectF caret = m_view->mirror().mapRect(m_view->reader().characterRect(m_view->reader().caret()));
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(QRectF(caret.left(), caret.top(), 2, caret.height()), color);
     painter.setPen(color);

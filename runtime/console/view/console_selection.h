@@ -12,8 +12,8 @@ namespace tetrad {
 
 class CUI_PrintToWindowView;
 
-/// The reader's hands: selects by mouse and keyboard, moves the caret, scrolls, copies, and gives the keyboard focus
-/// back to whoever had it before as soon as one types, or presses F6 or Escape.
+/// Selects by mouse and keyboard, moves the caret, scrolls, copies, and gives the keyboard focus
+/// back to the widget that had it before as soon as one types, or presses F6 or Escape.
 class ConsoleSelection : public QObject
 {
     Q_OBJECT
@@ -34,9 +34,8 @@ private:
     void releaseMouse(const QMouseEvent *event);
     /// Where a key moves the caret to; -1 when it does not move it.
     qsizetype destination(const QKeyEvent &event) const;
-    qsizetype lineAway(double heights) const;
+    qsizetype pageAway(int direction) const;
     qsizetype caretAt(const QMouseEvent *event) const;
-    double pageHeight() const;
     QWidget *typingTarget() const;
 
     CUI_PrintToWindowView *m_view = nullptr;

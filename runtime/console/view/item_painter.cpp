@@ -1,76 +1,73 @@
-#include <tetrad/console/item_painter.h>
+#include "runtime/console/view/item_painter.h"
 
+#include "runtime/console/document/console_reader.h"
+#include "runtime/console/document/display_list.h"
+#include "runtime/console/document/text_layout.h"
 #include "runtime/console/view/shape_painter.h"
-#include <tetrad/console/display_list.h>
 
 #include <QPainter>
 
 namespace tetrad {
 
-QPointF ItemPainter::textOrigin(const Canvas &canvas, QPointF pt, double lineHeight)
+namespace {
+
+void fillBox(QPainter &painter, const QRectF &box, const QColor &color)
 {
-    return canvas.upwards ? QPointF(pt.x(), canvas.documentHeight - pt.y() - lineHeight) : pt;
+    // Not smoothed: rows that touch must neither overlap nor leave a seam, at any scale factor.
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(box, color);
 }
 
-void ItemPainter::draw(const Canvas &canvas, const DisplayList &list, quint32 index)
+void drawGlyphs(QPainter &painter, const ShapedText &shape, QPointF topLeft, const QColor &color)
 {
-    const DisplayList::Entry &entry = list.at(index);
-    const CUI_PrintToWindowItem &item = entry.item;
-    QPainter &painter = canvas.painter;
-    if (item.isShape()) {
-        painter.save();
-        if (canvas.upwards) {
-            painter.translate(0, canvas.documentHeight);
-            painter.scale(1, -1);
-        }
-        drawShape(painter, item);
-        painter.restore();
-        return;
+    painter.setPen(color);
+    for (const QGlyphRun &run : shape.glyphRuns()) {
+        painter.drawGlyphRun(topLeft + QPointF(0, shape.baseline()), run);
     }
-    if (item.string().isEmpty()) {
-        return;
-    }
-    const TextAttributes &attributes = item.attributes();
+}
+
+void drawText(const Canvas &canvas, const DisplayList::Entry &entry, const QRectF &selected)
+{
+    const TextAttributes &attributes = entry.item.attributes();
+    const QRectF box = canvas.mirror.mapRect(entry.box());
     if (const QColor background = attributes.backgroundColor(); background.isValid() && background.alpha() != 0) {
-        const double lineHeight = attributes.facts().lineHeight;
-        // Not smoothed: rows that touch must neither overlap nor leave a seam, at any scale factor.
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.fillRect(QRectF(textOrigin(canvas, item.pt(), lineHeight), QSizeF(entry.width, lineHeight)),
-                         background);
+        fillBox(canvas.painter, box, background);
     }
     const QColor foreground = attributes.foregroundColor();
-    drawGlyphs(canvas, list, index, foreground.isValid() ? foreground : canvas.standardTextColor);
+    const auto shape = shapedText(entry.item.string(), attributes);
+    drawGlyphs(canvas.painter, *shape, box.topLeft(),
+               foreground.isValid() ? foreground : canvas.palette.color(QPalette::WindowText));
+    if (selected.isEmpty()) {
+        return;
+    }
+    const QRectF lit = canvas.mirror.mapRect(selected);
+    canvas.painter.save();
+    fillBox(canvas.painter, lit, canvas.palette.color(QPalette::Highlight));
+    canvas.painter.setClipRect(lit, Qt::IntersectClip);
+    drawGlyphs(canvas.painter, *shape, box.topLeft(), canvas.palette.color(QPalette::HighlightedText));
+    canvas.painter.restore();
 }
 
-void ItemPainter::drawPart(const Canvas &canvas, const DisplayList &list, const QRectF &part)
+} // namespace
+
+void drawItem(const Canvas &canvas, ConsoleDocument &document, quint32 index)
 {
-    for (const quint32 index : list.itemsIn(part.top(), part.bottom())) {
-        if (list.isBetween(index, part.left(), part.right())) {
-            draw(canvas, list, index);
-        }
+    const DisplayList::Entry &entry = document.items().entry(index);
+    if (entry.item.isShape()) {
+        canvas.painter.save();
+        canvas.painter.setTransform(canvas.mirror, true);
+        drawShape(canvas.painter, entry.item);
+        canvas.painter.restore();
+    } else if (!entry.item.string().isEmpty()) {
+        drawText(canvas, entry, document.reader().selectedBox(index));
     }
 }
 
-void ItemPainter::drawGlyphs(const Canvas &canvas, const DisplayList &list, quint32 index, const QColor &color)
+void drawItems(const Canvas &canvas, ConsoleDocument &document, const QRectF &part, qsizetype from)
 {
-    const CUI_PrintToWindowItem &item = list.item(index);
-    const ShapedText &shape = shaped(list, index);
-    const QPointF origin = textOrigin(canvas, item.pt(), item.attributes().facts().lineHeight);
-    canvas.painter.setPen(color);
-    for (const QGlyphRun &run : shape.glyphRuns()) {
-        canvas.painter.drawGlyphRun(origin + QPointF(0, shape.baseline()), run);
+    for (const quint32 index : document.items().itemsIn(part, from)) {
+        drawItem(canvas, document, index);
     }
-}
-
-const ShapedText &ItemPainter::shaped(const DisplayList &list, quint32 index)
-{
-    if (const ShapedText *known = m_shapes.object(index)) {
-        return *known;
-    }
-    const CUI_PrintToWindowItem &item = list.item(index);
-    auto *shape = new ShapedText(drawnText(item.string(), item.attributes()), item.attributes());
-    m_shapes.insert(index, shape);
-    return *shape;
 }
 
 } // namespace tetrad

@@ -1,8 +1,8 @@
 #include "runtime/console/view/shape_painter.h"
 
+#include "runtime/console/document/shape_geometry.h"
 #include <tetrad/console/console_item.h>
 
-#include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPainterPathStroker>
@@ -17,8 +17,6 @@ namespace {
 
 using Item = CUI_PrintToWindowItem;
 
-constexpr double farthest = 1e8;
-
 // A pen refuses any wider one and would stay at 1. Below the narrowest nothing is seen, and dashes, which are counted
 // in widths, would become infinite.
 constexpr double narrowestPen = 1e-3;
@@ -26,25 +24,6 @@ constexpr double widestPen = 32767;
 
 // Dashes of what is larger than any screen are followed by the painter, at the cost of those it shows.
 constexpr double largestOutlined = 5000;
-
-QPointF limited(QPointF point)
-{
-    return {std::clamp(point.x(), -farthest, farthest), std::clamp(point.y(), -farthest, farthest)};
-}
-
-/// From the first corner or end to the other, neither of them too far away.
-QRectF placeOf(const Item &item)
-{
-    const QRectF place = item.type() == Item::line ? QRectF(item.linePt1(), item.linePt2()) : item.rect();
-    const QPointF first = limited(place.topLeft());
-    const QPointF second = limited(place.bottomRight());
-    return first == place.topLeft() && second == place.bottomRight() ? place : QRectF(first, second);
-}
-
-bool isSomewhere(const QRectF &place)
-{
-    return !std::isnan(place.x() + place.y() + place.width() + place.height());
-}
 
 bool isStroked(const Item &item)
 {
@@ -101,32 +80,32 @@ QPen penFor(const LineStyle &style, double thinnest)
     return pen;
 }
 
-void fill(QPainter &painter, const Item &item, const QRectF &place)
+void fill(QPainter &painter, const Item &item, const QRectF &extent)
 {
     if (!item.fillColor().isValid()) {
         return;
     }
     if (item.type() == Item::rectangle) {
         painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.fillRect(place.normalized(), item.fillColor());
+        painter.fillRect(extent.normalized(), item.fillColor());
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(Qt::NoPen);
     painter.setBrush(item.fillColor());
-    painter.drawEllipse(place.normalized());
+    painter.drawEllipse(extent.normalized());
 }
 
-/// The painter loses its place in a dash pattern at what need not be repainted, so that dashes would be broken after a
-/// part was drawn anew. It does not where it follows a line of one device pixel.
-bool losesItsPlace(const QPainter &painter, const QPen &pen, const QRectF &place)
+/// Whether the painter loses its position in a dash pattern at what it need not repaint, so that a part drawn again
+/// would have other dashes. It does not where it follows a line of one device pixel.
+bool losesItsPosition(const QPainter &painter, const QPen &pen, const QRectF &extent)
 {
-    const QRectF bounds = place.normalized();
+    const QRectF bounds = extent.normalized();
     return pen.style() == Qt::CustomDashLine && bounds.width() < largestOutlined && bounds.height() < largestOutlined &&
            (pen.widthF() > 1 || painter.deviceTransform().type() > QTransform::TxTranslate);
 }
 
-void stroke(QPainter &painter, const Item &item, const QRectF &place)
+void stroke(QPainter &painter, const Item &item, const QRectF &extent)
 {
     if (!isStroked(item)) {
         return;
@@ -134,15 +113,15 @@ void stroke(QPainter &painter, const Item &item, const QRectF &place)
     painter.setRenderHint(QPainter::Antialiasing, true);
     QPainterPath path;
     if (item.type() == Item::line) {
-        path.moveTo(place.topLeft());
-        path.lineTo(place.bottomRight());
+        path.moveTo(extent.topLeft());
+        path.lineTo(extent.bottomRight());
     } else if (item.type() == Item::rectangle) {
-        path.addRect(place);
+        path.addRect(extent);
     } else {
-        path.addEllipse(place);
+        path.addEllipse(extent);
     }
-    const QPen pen = penFor(item.lineStyle(), 1.0 / painter.device()->devicePixelRatioF());
-    if (losesItsPlace(painter, pen, place)) {
+    const QPen pen = penFor(item.lineStyle(), 1.0 / painter.deviceTransform().m11());
+    if (losesItsPosition(painter, pen, extent)) {
         painter.fillPath(QPainterPathStroker(pen).createStroke(path), pen.color());
     } else {
         painter.strokePath(path, pen);
@@ -151,28 +130,16 @@ void stroke(QPainter &painter, const Item &item, const QRectF &place)
 
 } // namespace
 
-QRectF shapeInk(const CUI_PrintToWindowItem &item)
-{
-    const QRectF place = placeOf(item);
-    if (!isSomewhere(place)) {
-        return {};
-    }
-    // Half a width to each side, more at caps and corners; those of a rectangle without height point twice the width
-    // out.
-    const double room = (isStroked(item) ? 2 * std::clamp(item.lineStyle().lineWidth, 1.0, farthest) : 0) + 2;
-    return place.normalized().adjusted(-room, -room, room, room);
-}
-
 void drawShape(QPainter &painter, const CUI_PrintToWindowItem &item)
 {
-    const QRectF place = placeOf(item);
-    if (!isSomewhere(place)) {
+    const QRectF extent = shapeExtent(item);
+    if (!isDrawable(extent)) {
         return;
     }
     if (item.type() != Item::line) {
-        fill(painter, item, place);
+        fill(painter, item, extent);
     }
-    stroke(painter, item, place);
+    stroke(painter, item, extent);
 }
 
 } // namespace tetrad

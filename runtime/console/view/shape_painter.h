@@ -1,18 +1,13 @@
 #pragma once
 
-#include <QRectF>
-
 class QPainter;
 
 namespace tetrad {
 
 class CUI_PrintToWindowItem;
 
-/// What drawing the shape may touch; empty for one with a coordinate that is no number, which is not drawn.
-QRectF shapeInk(const CUI_PrintToWindowItem &item);
-
 /// Fills and strokes a shape in the painter's coordinates. A rectangle's fill covers whole device pixels, so that it
-/// hides completely what it is drawn over; everything else is smoothed. Places and widths beyond a hundred million
+/// hides completely what it is drawn over; everything else is smoothed. Coordinates and widths beyond a hundred million
 /// pixels count as that, since farther out the painter draws what is not there.
 void drawShape(QPainter &painter, const CUI_PrintToWindowItem &item);
 

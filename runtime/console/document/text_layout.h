@@ -16,7 +16,7 @@ class TextAttributes;
 /// stays, unless the tab interval makes it worthless.
 QString drawnText(const QString &text, const TextAttributes &attributes);
 
-/// A drawn text shaped for drawing and for finding characters in it.
+/// A text without control characters, shaped for drawing and for finding characters in it.
 class ShapedText
 {
 public:
@@ -34,7 +34,7 @@ public:
     qsizetype indexAt(double x) const;
 
 private:
-    QTextLayout m_layout;
+    QTextLayout m_layout; ///< Of one line at most.
     QList<QGlyphRun> m_glyphRuns;
     double m_baseline = 0;
 };
@@ -46,9 +46,10 @@ struct TextExtent
     double width = 0;
     /// Covers every pixel that drawing the text on one line may touch, with room to spare.
     QRectF ink;
-    /// The shaped text, where measuring had to shape it and found a line within the limit.
-    std::unique_ptr<ShapedText> shape;
 };
+
+/// A text as it is drawn, laid out at most once while it is in use.
+std::shared_ptr<const ShapedText> shapedText(const QString &text, const TextAttributes &attributes);
 
 /// Measures a text on one line, in device-independent pixels.
 TextExtent measureText(const QString &text, const TextAttributes &attributes);

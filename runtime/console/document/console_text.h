@@ -53,7 +53,7 @@ private:
     QString m_text;
     std::vector<Piece> m_pieces;
     std::vector<qsizetype> m_pairs; ///< Where each pair's second unit is.
-    quint32 m_taken = 0;
+    qsizetype m_taken = 0;
     bool m_atLineStart = true;
     QPointF m_end;
     qsizetype m_mark = 0;
