@@ -14,7 +14,7 @@ namespace tetrad {
 
 struct FontFacts;
 
-/// Where tabs lead to, in device-independent pixels from the start of the text.
+/// Where tabs lead, in device-independent pixels from the start of the text.
 struct ParagraphStyle
 {
     /// A tab past the explicit stops goes to the next multiple of this; with 0 or less it does not advance.
@@ -26,7 +26,7 @@ struct ParagraphStyle
 
 /// What a text is drawn with: font, colours and paragraph style. A value that is shared until it is changed, so that an
 /// item's private copy costs one pointer. As a dictionary it has the keys "font" (QFont), "foregroundColor",
-/// "backgroundColor" (QColor) and "paragraphStyle" (ParagraphStyle).
+/// "backgroundColor" (QColor) and "paragraphStyle" (ParagraphStyle), and those that were merged into it.
 class TextAttributes
 {
 public:
@@ -42,6 +42,7 @@ public:
     void setFontName(const QString &name);
 
     double fontSize() const;
+    /// A size outside 1 to 4096 pixels is ignored with a warning, here and in a dictionary's font.
     void setFontSize(double size);
 
     /// Invalid: the palette's text colour at the time of drawing.
@@ -72,11 +73,11 @@ private:
 /// How a line or an outline is stroked. Lengths are device-independent pixels, whatever the width.
 struct LineStyle
 {
-    /// 0 is the thinnest line there is; negative: not stroked.
+    /// 0: one pixel of the screen; negative: not stroked.
     double lineWidth = 1.0;
     /// 1 round, 2 square; 0 leaves the default, which ends flush with the line's end.
     quint32 lineCapStyle = 0;
-    /// Lengths drawn and left out in turn; empty: solid.
+    /// Lengths of dashes and gaps in turn; empty: solid.
     QList<double> lineDashPattern = {};
     double lineDashPhase = 0;
     /// Invalid: black.
@@ -85,8 +86,8 @@ struct LineStyle
     bool operator==(const LineStyle &) const = default;
 };
 
-/// One entry of the console's display list: a line of text, a line segment, a rectangle or an oval. A value; what only
-/// shapes have is shared until changed and costs a text nothing.
+/// One entry of the console's display list: a line of text, a line segment, a rectangle or an oval. A value whose parts
+/// are shared until they are changed; a text does not pay for those of shapes.
 class CUI_PrintToWindowItem
 {
 public:
@@ -101,7 +102,7 @@ public:
 
     static CUI_PrintToWindowItem itemWithString(const QString &string, QPointF pt, const TextAttributes &attributes);
     static CUI_PrintToWindowItem itemWithLinePoint1(QPointF linePt1, QPointF linePt2);
-    /// An unknown type is drawn as a text, and so not at all.
+    /// An unknown type counts as a text without characters and draws nothing.
     static CUI_PrintToWindowItem itemWithType(quint32 type, const QRectF &rect, const QColor &strokeColor,
                                               const QColor &fillColor);
 
@@ -117,11 +118,11 @@ public:
     QPointF linePt2() const;
     QRectF rect() const;
 
-    /// Width 0 and no colour until it is set, as every text's stays.
+    /// Width 0 and no colour until it is set; a text's stays so.
     const LineStyle &lineStyle() const;
     void setLineStyle(const LineStyle &style);
 
-    /// The colours alone, over whatever the line style said.
+    /// Sets the colours alone; they replace those of the line style.
     void setColors(const QColor &strokeColor, const QColor &fillColor);
     /// Invalid: no fill.
     QColor fillColor() const;

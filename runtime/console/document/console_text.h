@@ -11,7 +11,7 @@ class DisplayList;
 
 /// What has been printed since the last clear, as one text to be read or copied: in order, without control characters,
 /// a newline at each line's end, pieces of one row joined (by a blank where a gap lies between them), a tab as a blank.
-/// Costs nothing until it is asked for; then it catches up with the list.
+/// Costs nothing until it is read; then it catches up with the list.
 class ConsoleText
 {
 public:
@@ -31,19 +31,19 @@ public:
 
     /// The piece that owns the character at an offset of 0 to text().size(); null when nothing was printed.
     const Piece *pieceAt(qsizetype offset) const;
-    /// The piece made from an item; null when the item is no text.
+    /// The piece made from an item; null when the item is not a text.
     const Piece *pieceOf(quint32 item) const;
     /// Null after the last one.
     const Piece *pieceAfter(const Piece &piece) const;
 
-    // Offsets count UTF-16 units; some assistive technology counts characters, of which a pair of units makes one.
+    // Offsets count UTF-16 units; some assistive technology counts characters, where a surrogate pair is one.
 
     qsizetype charactersBefore(qsizetype offset) const;
     qsizetype offsetOfCharacter(qsizetype character) const;
 
     /// What was added since the last call, without the newlines around it.
     QString takeNew();
-    /// The same for whoever announces the text's growth, character by character.
+    /// The same, newlines included, for announcing the growth of the text.
     QString takeUnannounced();
 
 private:

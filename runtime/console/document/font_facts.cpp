@@ -45,7 +45,7 @@ QString standardFamily()
 
 bool isStandardFamily(const QString &family)
 {
-    // The font database does not tell case apart either.
+    // The font database ignores case too.
     return family.compare(standardFamily(), Qt::CaseInsensitive) == 0;
 }
 
@@ -54,7 +54,7 @@ QString installedFamily(const QString &family)
     if (!isStandardFamily(family) || QFontDatabase::hasFamily(family)) {
         return family;
     }
-    // The same advance (0.602 em) and nearly the same height as the font that it stands for.
+    // It has the same advance (0.602 em) and nearly the same height.
     const QString substitute = u"DejaVu Sans Mono"_s;
     return QFontDatabase::hasFamily(substitute) ? substitute
                                                 : QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
@@ -91,13 +91,13 @@ QFont drawnFont(const FontChoice &choice)
     QFont font = fontObject(choice);
     font.setFamilies({installedFamily(choice.family)});
     font.setStyleHint(QFont::Monospace);
-    // Advances must not change with the scale factor, or a text would not end where it was measured to.
+    // Advances must not change with the scale factor, or texts would not be as wide as they were measured.
     font.setHintingPreference(QFont::PreferVerticalHinting);
     font.setKerning(false);
     return font;
 }
 
-// One layout tells: widths are whole 64ths of a pixel and add up without rounding.
+// One layout is enough: widths are whole 64ths of a pixel and add up without rounding.
 double plainAdvance(const QFont &font)
 {
     if (!QFontInfo(font).fixedPitch()) {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double measuringLimit = 10000;
 
-// No text is wider; the layout engine counts in 64ths of a pixel in 32 bits.
+// The layout engine counts 64ths of a pixel in 32 bits.
 constexpr double unlimited = 16000000;
 
 bool isControl(QChar c)

@@ -12,8 +12,8 @@ namespace tetrad {
 
 class TextAttributes;
 
-/// The text as it is drawn and measured: without control characters, which have neither shape nor width. Only the tab
-/// stays, unless the tab interval makes it worthless.
+/// The text as it is drawn and measured: without control characters, which have neither shape nor width. Tabs stay
+/// unless they cannot advance.
 QString drawnText(const QString &text, const TextAttributes &attributes);
 
 /// A text without control characters, shaped for drawing and for finding characters in it.
@@ -39,7 +39,7 @@ private:
     double m_baseline = 0;
 };
 
-/// What is known of a text once it has been measured, relative to its top left.
+/// A measured text, relative to its top left.
 struct TextExtent
 {
     /// Of the bounding rectangle of the text laid out within 10000 pixels.

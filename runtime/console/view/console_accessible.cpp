@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The bridge to AT-SPI, whose offsets count characters, hands offsets through as they are. Elsewhere they count UTF-16
-// units as in a QString.
+// The bridge to AT-SPI passes offsets on unchanged, and AT-SPI counts characters. Other platforms count UTF-16 units as
+// QString does.
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
 constexpr bool clientsCountCharacters = true;
 #else
@@ -32,7 +32,7 @@ qsizetype inward(CUI_PrintToWindowView *view, int offset)
     return clientsCountCharacters ? view->reader().text().offsetOfCharacter(offset) : offset;
 }
 
-/// The console to an assistive technology: the reader's text, places in screen coordinates.
+/// The console as assistive technology sees it: the reader's text, rectangles in screen coordinates.
 class ConsoleAccessible : public QAccessibleWidget, public QAccessibleTextInterface
 {
 public:
@@ -63,7 +63,7 @@ public:
 
     QStringList actionNames() const override
     {
-        // The view takes no focus from a click or the Tab key, but an assistive technology may give it.
+        // Neither a click nor the Tab key gives the view the focus, but assistive technology may.
         return {setFocusAction()};
     }
 
@@ -199,7 +199,7 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     return view ? new ConsoleAccessible(view) : nullptr;
 }
 
-/// Asked for every printed line, so the answer is kept.
+/// Kept, since it is queried for every printed item.
 struct Listening : QAccessible::ActivationObserver
 {
     bool active = QAccessible::isActive();
@@ -207,7 +207,7 @@ struct Listening : QAccessible::ActivationObserver
     void accessibilityActiveChanged(bool nowActive) override
     {
         active = nowActive;
-        // Whoever begins to listen reads what is there already.
+        // A client that starts to listen reads what is already there.
         for (QWidget *widget : QApplication::allWidgets()) {
             if (auto *view = qobject_cast<CUI_PrintToWindowView *>(widget)) {
                 view->reader().takeUnannounced();
@@ -261,7 +261,7 @@ void announceSelection(CUI_PrintToWindowView *view)
     QAccessibleTextSelectionEvent event(view, outward(view, reader.selectionStart()),
                                         outward(view, reader.selectionEnd()));
     QAccessible::updateAccessibility(&event);
-    // The bridge to AT-SPI does not tell the caret's place together with the selection.
+    // The bridge to AT-SPI does not report the caret together with the selection.
     QAccessibleTextCursorEvent caret(view, outward(view, reader.caret()));
     QAccessible::updateAccessibility(&caret);
 }

@@ -17,12 +17,12 @@ namespace {
 
 using Item = CUI_PrintToWindowItem;
 
-// A pen refuses any wider one and would stay at 1. Below the narrowest nothing is seen, and dashes, which are counted
-// in widths, would become infinite.
+// A pen refuses a greater width and would stay at 1. A smaller one cannot be seen, and its dashes, which are counted in
+// widths, would become infinite.
 constexpr double narrowestPen = 1e-3;
 constexpr double widestPen = 32767;
 
-// Dashes of what is larger than any screen are followed by the painter, at the cost of those it shows.
+// Outlining the dashes of a shape that is larger than any screen takes too long; the painter follows the visible ones.
 constexpr double largestOutlined = 5000;
 
 bool isStroked(const Item &item)
@@ -42,7 +42,7 @@ Qt::PenCapStyle capStyle(quint32 code)
     }
 }
 
-/// Only a pattern that gets somewhere can be followed.
+/// A pattern of no length, or with a part that is negative or not finite, is drawn solid.
 bool isUsable(const QList<double> &pattern)
 {
     double length = 0;
@@ -57,7 +57,7 @@ bool isUsable(const QList<double> &pattern)
 
 void setDashes(QPen &pen, const LineStyle &style)
 {
-    // The pen counts dashes in widths and wants pairs; a pattern of odd length is gone through twice per round.
+    // The pen counts dashes in widths and needs pairs, so a pattern of odd length is given twice.
     QList<qreal> dashes;
     const qsizetype count = style.lineDashPattern.size() * (style.lineDashPattern.size() % 2 == 0 ? 1 : 2);
     for (qsizetype i = 0; i < count; ++i) {
