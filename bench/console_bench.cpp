@@ -27,6 +27,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize viewSize(580, 250);
+constexpr QSize boardSize(600, 360);
+constexpr int boardColumns = 80;
+constexpr int boardRows = 25;
 
 QFont sameFont()
 {
@@ -43,15 +46,28 @@ QString lineText(int number)
 class ConsoleLines
 {
 public:
-    ConsoleLines()
+    explicit ConsoleLines(const QSize &size = viewSize)
     {
-        CUI_Window(windowTag, QString(), notGiven, QRectF(QPointF(), viewSize));
+        CUI_Window(windowTag, QString(), notGiven, QRectF(QPointF(), size));
         m_window = CUI_WindowWithTag(windowTag);
         m_view = CUI_PrintToWindowViewObj(m_window);
     }
     ~ConsoleLines() { delete m_window; }
 
     void print(int number) { m_view->addString(lineText(number)); }
+    void printBoard()
+    {
+        for (int cell = 0; cell < boardColumns * boardRows; ++cell) {
+            m_view->setColumnRow(cell % boardColumns, cell / boardColumns);
+            m_view->addString(QChar(u'A' + cell % 26) + u"\b"_s);
+        }
+    }
+    /// As the game does with its error line.
+    void eraseAndPrint(int number)
+    {
+        m_view->addRect({10, 200, 400, 15}, Qt::black, Qt::black);
+        m_view->addString(lineText(number), {10, 200});
+    }
     QWidget *shown() const { return m_view->scrollView()->viewport(); }
     QScrollBar *scrollBar() const { return m_view->scrollView()->verticalScrollBar(); }
 
@@ -65,27 +81,39 @@ template <typename Edit>
 class EditLines
 {
 public:
-    EditLines()
+    explicit EditLines(const QSize &size = viewSize)
     {
         m_edit.setFont(sameFont());
         m_edit.setReadOnly(true);
         m_edit.setUndoRedoEnabled(false);
-        m_edit.setFixedSize(viewSize);
+        m_edit.setFixedSize(size);
         m_edit.show();
     }
 
-    void print(int number)
+    void print(int number) { print(lineText(number)); }
+    void printBoard()
     {
-        if constexpr (requires { m_edit.appendPlainText(QString()); }) {
-            m_edit.appendPlainText(lineText(number));
-        } else {
-            m_edit.append(lineText(number));
+        for (int row = 0; row < boardRows; ++row) {
+            QString line;
+            for (int column = 0; column < boardColumns; ++column) {
+                line += QChar(u'A' + (row * boardColumns + column) % 26);
+            }
+            print(line);
         }
     }
     QWidget *shown() const { return m_edit.viewport(); }
     QScrollBar *scrollBar() const { return m_edit.verticalScrollBar(); }
 
 private:
+    void print(const QString &line)
+    {
+        if constexpr (requires { m_edit.appendPlainText(line); }) {
+            m_edit.appendPlainText(line);
+        } else {
+            m_edit.append(line);
+        }
+    }
+
     Edit m_edit;
 };
 
@@ -170,6 +198,30 @@ void repaint(benchmark::State &state)
 }
 
 template <typename Lines>
+void board(benchmark::State &state)
+{
+    Lines lines(boardSize);
+    lines.printBoard();
+    QCoreApplication::processEvents();
+    for (auto step : state) {
+        lines.shown()->repaint();
+    }
+}
+
+void eraseAndPrint(benchmark::State &state)
+{
+    ConsoleLines lines;
+    for (int i = 0; i < state.range(0); ++i) {
+        lines.eraseAndPrint(i);
+    }
+    QCoreApplication::processEvents();
+    for (auto step : state) {
+        lines.eraseAndPrint(0);
+        QCoreApplication::processEvents();
+    }
+}
+
+template <typename Lines>
 void memory(benchmark::State &state)
 {
     Lines lines;
@@ -214,5 +266,14 @@ int main(int argc, char **argv)
     registerAll<EditLines<QPlainTextEdit>>("QPlainTextEdit");
     registerAll<EditLines<QTextEdit>>("QTextEdit");
     registerAll<SceneLines>("QGraphicsScene");
+    for (const auto &[name, run] : {std::pair("board/console", &board<ConsoleLines>),
+                                    std::pair("board/QPlainTextEdit", &board<EditLines<QPlainTextEdit>>)}) {
+        benchmark::RegisterBenchmark(name, run)->Iterations(50)->Unit(benchmark::kMicrosecond);
+    }
+    benchmark::RegisterBenchmark("erase/console", &eraseAndPrint)
+        ->RangeMultiplier(10)
+        ->Range(10, 100000)
+        ->Iterations(500)
+        ->Unit(benchmark::kMicrosecond);
     benchmark::RunSpecifiedBenchmarks();
 }

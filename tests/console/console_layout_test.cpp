@@ -1,6 +1,6 @@
 #include "tests/console/printing.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextLayout>
 
 using namespace tetrad;
@@ -24,37 +24,37 @@ TEST_F(Console, placesOnePieceAfterTheOther)
     };
     for (const auto &[name, printed, expected, endColumn, endLine] : rows) {
         SCOPED_TRACE(name);
-        view.clear();
-        const QPointF end = view.addString(printed);
+        page.clear();
+        const QPointF end = page.addString(printed);
         EXPECT_EQ(items(), QString::fromUtf8(expected));
         EXPECT_DOUBLE_EQ(end.x(), 3 + endColumn * advance);
         EXPECT_DOUBLE_EQ(end.y(), endLine * lineHeight);
-        EXPECT_EQ(view.currentPoint(), end);
-        EXPECT_DOUBLE_EQ(view.viewH(), (endLine + 1) * lineHeight + 20);
-        EXPECT_DOUBLE_EQ(view.documentSize().height(), view.viewH());
+        EXPECT_EQ(page.currentPoint(), end);
+        EXPECT_DOUBLE_EQ(page.viewH(), (endLine + 1) * lineHeight + 20);
+        EXPECT_DOUBLE_EQ(page.documentSize().height(), page.viewH());
     }
 }
 
 TEST_F(Console, tabsAndCellsHaveTheirColumns)
 {
-    view.setTabInterval(50);
-    EXPECT_DOUBLE_EQ(view.addString(u"abc\t"_s).x(), 3 + 50);
-    EXPECT_DOUBLE_EQ(view.addString(u"12345678\t"_s).x(), 3 + 50 + 100);
-    view.setTabInterval(0);
-    EXPECT_DOUBLE_EQ(view.addString(u"\t"_s).x(), 3 + 50 + 100);
-    view.setColumnRow(4, 30);
-    EXPECT_EQ(view.currentPoint(), QPointF(4 * advance, 30 * lineHeight)) << "without the inset";
-    EXPECT_DOUBLE_EQ(view.viewH(), 30 * lineHeight + 20);
+    page.setTabInterval(50);
+    EXPECT_DOUBLE_EQ(page.addString(u"abc\t"_s).x(), 3 + 50);
+    EXPECT_DOUBLE_EQ(page.addString(u"12345678\t"_s).x(), 3 + 50 + 100);
+    page.setTabInterval(0);
+    EXPECT_DOUBLE_EQ(page.addString(u"\t"_s).x(), 3 + 50 + 100);
+    page.setColumnRow(4, 30);
+    EXPECT_EQ(page.currentPoint(), QPointF(4 * advance, 30 * lineHeight)) << "without the inset";
+    EXPECT_DOUBLE_EQ(page.viewH(), 30 * lineHeight + 20);
 }
 
 TEST_F(Console, alignmentUsesTheWidthOfTheViewButTheCurrentPointMovesOn)
 {
     const auto placed = [this](qint64 alignment) {
-        view.setCurrentPoint({7, 0});
-        view.setAlignment(alignment);
-        view.addString(u"abcd\b"_s);
-        EXPECT_DOUBLE_EQ(view.currentPoint().x(), 7 + 4 * advance);
-        return view.items().at(view.items().size() - 1).pt().x();
+        page.setCurrentPoint({7, 0});
+        page.setAlignment(alignment);
+        page.addString(u"abcd\b"_s);
+        EXPECT_DOUBLE_EQ(page.currentPoint().x(), 7 + 4 * advance);
+        return page.items().at(page.items().size() - 1).pt().x();
     };
     EXPECT_DOUBLE_EQ(placed(0), 7);
     EXPECT_DOUBLE_EQ(placed(1), (400 - 4 * advance) / 2);
@@ -66,50 +66,72 @@ TEST_F(Console, theDocumentOnlyGrows)
 {
     for (const auto &[bottom, height] :
          QList<std::pair<double, double>>{{100, 120}, {119.5, 120}, {120, 140}, {10, 140}, {qQNaN(), 140}}) {
-        view.fixFrameHeight(bottom);
-        EXPECT_EQ(view.viewH(), height) << bottom;
+        page.fixFrameHeight(bottom);
+        EXPECT_EQ(page.viewH(), height) << bottom;
     }
-    QCoreApplication::sendPostedEvents(&view);
-    EXPECT_EQ(view.height(), 140);
-    view.setViewH(0);
-    view.fixFrameHeight(10);
-    EXPECT_EQ(view.viewH(), 30);
-    EXPECT_EQ(view.documentSize().height(), 140);
+    page.setViewH(0);
+    page.fixFrameHeight(10);
+    EXPECT_EQ(page.viewH(), 30);
+    EXPECT_EQ(page.documentSize().height(), 140);
 }
 
 TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
 {
-    view.setForegroundColor(Qt::green);
-    view.setFontSize(18);
-    view.setAlignment(2);
-    view.setTextInset(5);
-    view.addString(u"abc"_s, {50, 500});
-    view.clear();
-    EXPECT_TRUE(view.textString().isNull());
-    EXPECT_EQ(view.viewH(), 0);
-    EXPECT_EQ(view.height(), 1);
-    EXPECT_EQ(view.currentPoint(), QPointF(5, 0));
-    view.addString(u"x\b"_s);
-    EXPECT_EQ(view.currentAlignment(), 2);
-    view.resetAttributes();
-    EXPECT_EQ(view.currentAlignment(), 0);
-    view.addString(u"y\b"_s, {1, 2});
-    const QString dump = view.dump();
+    page.setForegroundColor(Qt::green);
+    page.setFontSize(18);
+    page.setAlignment(2);
+    page.setTextInset(5);
+    page.addString(u"abc"_s, {50, 500});
+    page.clear();
+    EXPECT_TRUE(page.textString().isNull());
+    EXPECT_EQ(page.viewH(), 0);
+    EXPECT_EQ(page.documentSize().height(), 1);
+    EXPECT_EQ(page.currentPoint(), QPointF(5, 0));
+    page.addString(u"x\b"_s);
+    EXPECT_EQ(page.currentAlignment(), 2);
+    page.resetAttributes();
+    EXPECT_EQ(page.currentAlignment(), 0);
+    page.addString(u"y\b"_s, {1, 2});
+    const QString dump = page.items().dump();
     EXPECT_TRUE(dump.contains(u"\"x\\x08\" size 18 color #00ff00\n"_s)) << dump.toStdString();
     EXPECT_TRUE(dump.endsWith(u"text (1,2) \"y\\x08\" size 12 color standard\n"_s)) << dump.toStdString();
 }
 
 TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
 {
-    view.addString(u"a\b"_s);
-    view.setAttributes({{u"backgroundColor"_s, QColor(Qt::blue)}, {u"mood"_s, 7}});
-    view.setFontName(u"No Such Family"_s);
-    view.setFontSize(-1);
-    const QVariantMap now = view.currentAttributes();
+    EXPECT_EQ(page.currentAttributes().value(u"foregroundColor"_s).value<QColor>(),
+              QGuiApplication::palette().color(QPalette::WindowText));
+    page.addString(u"a\b"_s);
+    page.setAttributes({{u"backgroundColor"_s, QColor(Qt::blue)}, {u"mood"_s, 7}});
+    page.setFontName(u"No Such Family"_s);
+    QFont tooLarge(u"DejaVu Serif"_s);
+    tooLarge.setPixelSize(5000);
+    page.setAttributes({{u"font"_s, tooLarge}});
+    for (const double size : {-1.0, 0.0, 0.5, 4097.0, qQNaN()}) {
+        page.setFontSize(size);
+    }
+    const QVariantMap now = page.currentAttributes();
     const auto font = now.value(u"font"_s).value<QFont>();
-    EXPECT_TRUE(now.value(u"mood"_s) == 7 && font.family() == u"Menlo" && font.pixelSize() == 12)
-        << view.dump().toStdString();
-    EXPECT_EQ(view.items().at(0).attributes().backgroundColor(), QColor(Qt::transparent));
+    EXPECT_TRUE(now.value(u"mood"_s) == 7 && font.family() == u"DejaVu Serif" && font.pixelSize() == 12)
+        << font.toString().toStdString();
+    EXPECT_EQ(page.items().at(0).attributes().backgroundColor(), QColor(Qt::transparent));
+}
+
+TEST_F(Console, aProgramChangesItsItems)
+{
+    const auto texts = [this] { return items().remove(u"@0,0"_s); };
+    const auto text = [](const QString &string) { return CUI_PrintToWindowItem::itemWithString(string, {}, {}); };
+    for (const QString &string : {u"a"_s, u"c"_s, u"e"_s}) {
+        page.items().append(text(string));
+    }
+    page.items().insert(1, text(u"b"_s));
+    page.items().replace(3, text(u"d"_s));
+    page.items().removeAt(0);
+    page.items().removeAt(3);
+    page.items().replace(-1, text(u"x"_s));
+    EXPECT_EQ(texts(), u"b c d"_s);
+    EXPECT_EQ(page.items().itemsIn({0, 0, 9, 9}), (std::vector<quint32>{0, 1, 2}));
+    EXPECT_EQ(page.reader().text().text(), u"b c d"_s);
 }
 
 TEST(Measuring, agreesWithLayingOut)

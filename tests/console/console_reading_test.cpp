@@ -1,4 +1,5 @@
 #include "tests/console/printing.h"
+#include <tetrad/console/console_view.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -14,21 +15,49 @@ namespace {
 
 TEST_F(Console, readsAsOneText)
 {
-    view.addString(u"Numbers:\b"_s);
-    view.addString(u" 1\b"_s);
-    view.addString(u" 3\b"_s);
-    view.addString(u""_s);
-    view.addRect({0, 0, 9, 9}, Qt::black, QColor());
-    view.addString(u"left\b"_s, {3, 100});
-    view.addString(u"right\b"_s, {200, 100});
-    view.addString(u"below\tit"_s, {3, 150});
-    EXPECT_EQ(view.reader().text().text(), u"Numbers: 1 3\nleft right\nbelow it\n"_s);
-    EXPECT_EQ(view.takeNewText(), u"Numbers: 1 3\nleft right\nbelow it"_s);
-    view.addString(u"\nnews"_s);
-    EXPECT_EQ(view.takeNewText(), u"news"_s);
-    view.clear();
-    view.addString(u"again"_s);
-    EXPECT_EQ(view.takeNewText(), u"again"_s);
+    page.addString(u"Numbers:\b"_s);
+    page.addString(u" 1\b"_s);
+    page.addString(u" 3\b"_s);
+    page.addString(u""_s);
+    page.addRect({0, 0, 9, 9}, Qt::black, QColor());
+    page.addString(u"left\b"_s, {3, 100});
+    page.addString(u"right\b"_s, {200, 100});
+    page.addString(u"below\tit"_s, {3, 150});
+    EXPECT_EQ(page.reader().text().text(), u"Numbers: 1 3\nleft right\nbelow it\n"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"Numbers: 1 3\nleft right\nbelow it"_s);
+    page.addString(u"\nnews"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"news"_s);
+    page.clear();
+    page.addString(u"again"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"again"_s);
+}
+
+/// As the game prints: gaps between lines, an error line that was erased and printed again.
+TEST_F(Console, theCaretReachesEveryLine)
+{
+    for (const auto &[y, text] : QList<std::pair<int, QString>>{{10, u"one"_s}, {25, u"two"_s}, {900, u"far"_s}}) {
+        page.addString(text, {10.0, static_cast<double>(y)});
+    }
+    page.addString(u"false"_s, {10, 2000});
+    page.addRect({10, 2000, 400, 15}, Qt::black, Qt::black);
+    page.addString(u"wrong"_s, {10, 2000});
+    ConsoleReader &reader = page.reader();
+    QString read;
+    for (const int direction : {1, 1, 1, 1, -1, -1, -1, -1}) {
+        const qsizetype caret = reader.caretBeyond(direction);
+        reader.select(caret, caret);
+        read += reader.text().text().mid(caret, 1);
+    }
+    EXPECT_EQ(read, u"tfwwftoo"_s);
+    QString stepped;
+    for (qsizetype at = 0, next = reader.stepFrom(at, 1); next != at; at = next, next = reader.stepFrom(at, 1)) {
+        stepped += reader.text().text().mid(at, next - at);
+        EXPECT_EQ(reader.stepFrom(next, -1), at);
+    }
+    EXPECT_EQ(stepped, reader.text().text());
+    page.addString(u"e\u0301\b"_s);
+    const qsizetype end = reader.text().text().size();
+    EXPECT_EQ(reader.stepFrom(end, -1), end - 2) << "never within a character";
 }
 
 /// A console in a window beside a field, with more lines than fit.

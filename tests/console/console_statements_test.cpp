@@ -6,6 +6,7 @@
 #include <tetrad/app/popover.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
+#include <tetrad/console/console_view.h>
 #include <tetrad/strings/not_given.h>
 
 using namespace tetrad;

@@ -4,21 +4,39 @@
 #include "runtime/console/document/display_list.h"
 #include "runtime/console/document/font_facts.h"
 #include "runtime/console/document/text_layout.h"
+#include "runtime/console/view/item_painter.h"
 #include "tests/support/table.h"
-#include <tetrad/console/console_view.h>
+#include <tetrad/console/console_document.h>
 
 #include <QImage>
 #include <QPainter>
+
+#include <functional>
 
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
 
-/// A console view of its own, 400 pixels wide, and the measures of its initial font.
+/// A document over white; what is selected is red.
+inline QImage pictureOf(ConsoleDocument &document, double scale, const QSize &size)
+{
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    QPalette palette(Qt::black, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::Highlight, Qt::red);
+    palette.setColor(QPalette::HighlightedText, Qt::red);
+    QPainter painter(&image);
+    drawItems({painter, document.mirror(), palette}, document, QRectF(QPointF(), size));
+    return image;
+}
+
+/// A document 400 pixels wide, and the measures of its initial font.
 class Console : public testing::Test
 {
 protected:
-    CUI_PrintToWindowView view{QRectF(0, 0, 400, 1)};
+    ConsoleDocument page{{400, 1}};
     const double lineHeight = TextAttributes().facts().lineHeight;
     const double advance = measureText(u"0"_s, TextAttributes()).width;
 
@@ -26,24 +44,12 @@ protected:
     QString items() const
     {
         QStringList all;
-        for (qsizetype i = 0; i < view.items().size(); ++i) {
-            const CUI_PrintToWindowItem &item = view.items().at(i);
+        for (qsizetype i = 0; i < page.items().size(); ++i) {
+            const CUI_PrintToWindowItem &item = page.items().at(i);
             all.append(item.string() + u'@' + QString::number(item.pt().x()) + u',' +
                        QString::number(item.pt().y() / lineHeight));
         }
         return all.join(u' ');
-    }
-
-    /// The view's picture over white, as the screen would show it.
-    QImage picture(double scale, const QSize &size = QSize(400, 300))
-    {
-        QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(scale);
-        image.fill(Qt::white);
-        view.resize(size);
-        QPainter painter(&image);
-        view.render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
-        return image;
     }
 };
 
