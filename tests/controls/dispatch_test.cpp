@@ -1,7 +1,10 @@
 #include "tests/controls/site_helper.h"
 #include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/control_target.h>
+#include <tetrad/controls/outline_view.h>
 #include <tetrad/controls/segmented_control.h>
+#include <tetrad/controls/table_view.h>
+#include <tetrad/controls/token_field.h>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
@@ -177,6 +180,46 @@ TEST_F(Dispatch, StatementsMakeAndChange)
     EXPECT_EQ(button->parentWidget(), page) << "nothing lies in itself";
     ViewRemoveFromSuperview(5);
     EXPECT_EQ(CUI_ViewWithTag(5), nullptr);
+
+    makeControls();
+    CUI_TextLabel(8, u"Label"_s, QRectF(10, 170, 80, 20));
+    EXPECT_EQ(ControlStringValue(8), u"Label"_s);
+    ControlSetStringValue(4, u"7 pears"_s);
+    EXPECT_EQ(ControlIntegerValue(4), 7);
+    ControlSetEnabled(2, false);
+    QTest::mouseClick(ControlWithTag(2), Qt::LeftButton, {}, QPoint(8, 15));
+    EXPECT_EQ(takeSiteCalls(), QString());
+    EXPECT_EQ(CUI_OnDialogFunction(), &recordSite);
+}
+
+qint64 ownDelegateCallback(Tag tag, qint64 event)
+{
+    return 1000 * tag + event;
+}
+
+TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
+{
+    TableViewSC table;
+    OutlineViewSC outline;
+    TokenFieldSC token;
+    const std::pair<QObject *, std::function<qint64()>> rows[] = {
+        {&table, [&] { return CUI_TableViewDelegateObj()->forwardEvent(&table, 5, 77); }},
+        {&outline, [&] { return CUI_OutlineViewDelegateObj()->forwardEvent(&outline, 5, 77); }},
+        {&token, [&] { return CUI_TokenFieldDelegateObj()->forwardEvent(&token, 5, 77); }},
+    };
+    for (const auto &[view, forward] : rows) {
+        setObjectTag(view, 9);
+        setObjectWindowTag(view, 7);
+        for (const bool own : {false, true}) {
+            takeSiteCalls();
+            CUI_OutputWindowSetTag(0);
+            setDelegateCallback(view, own ? ownDelegateCallback : nullptr);
+            EXPECT_EQ(forward(), own ? 9005 : 1) << "the callee's result";
+            EXPECT_EQ(takeSiteCalls(), own ? QString() : u"5 9 7"_s);
+            EXPECT_EQ(CUI_OutputWindowTag(), 7);
+        }
+        EXPECT_EQ(lastObject, 77);
+    }
 }
 
 } // namespace

@@ -47,6 +47,8 @@ TEST_F(PopoverSite, TellsWhenItShowsAndCloses)
     EXPECT_EQ(takeSiteCalls(), u"1301 9 9, 1304 9 9, 1305 9 9"_s);
     EXPECT_FALSE(popover->isVisible());
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
+    PopoverRemove(9);
+    EXPECT_EQ(CUI_PopoverWithTag(9), nullptr);
 }
 
 TEST_F(PopoverSite, IsDraggedOffAsAWindowOrGivesWayToOne)

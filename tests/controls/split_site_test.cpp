@@ -48,6 +48,8 @@ TEST_F(SplitSite, ADragAsksForBoundsAndPositionThenMovesAndTells)
     drag(20);
     EXPECT_EQ(takeSiteCalls(), u"1509 3 7 40, 1508 3 7 160, 1510 3 7 120, 1501 3 7, 1502 3 7"_s);
     EXPECT_EQ(m_split->position(0), 120);
+    SplitViewSetPosition(3, 90, 0);
+    EXPECT_EQ(m_split->position(0), 90);
 }
 
 TEST_F(SplitSite, AnswersDecideWhereTheDividerGoes)
