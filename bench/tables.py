@@ -109,7 +109,15 @@ def console():
             row(f"repaint at the {place} of {lines:,}", f"repaint/{{}}/{lines}/{percent}/iterations:50",
                 lambda result: result["cpu_time"])
     row("memory", "memory/{}/10000/iterations:1", lambda result: result["bytes"])
+    boards = [results[f"board/{kind}/iterations:50"]["cpu_time"] for kind in kinds[:2]]
+    rows.append(["repaint 80 x 25 single characters", *(f"{time:.2f}" for time in boards), "", "", times(*boards)])
     table(["", *kinds, "ours : QPlainTextEdit"], rows)
+
+    heading("Erased lines", "µs of CPU time to erase the error line, print another and paint, after so many of them.")
+    erased = {count: results[f"erase/console/{count}/iterations:500"]["cpu_time"]
+              for count in (10, 100, 1000, 10000, 100000)}
+    table(["", "time", "this : first"],
+          [[f"{count:,}", f"{time:.2f}", times(time, erased[10])] for count, time in erased.items()])
 
 
 def rules():
