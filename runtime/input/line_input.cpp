@@ -6,6 +6,7 @@
 #include <tetrad/input/control_formatter.h>
 #include <tetrad/strings/not_given.h>
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -16,6 +17,30 @@ namespace tetrad {
 namespace {
 
 std::optional<ZRInputFormat> sPendingInputFormat;
+
+/// While it lives, assistive technology gets no events. A screen reader takes a field whose caret moved before the
+/// field got the focus, as QLineEdit::setMaxLength reports, for one that it has already spoken.
+class NoAccessibleEvents
+{
+public:
+    NoAccessibleEvents() = default;
+    ~NoAccessibleEvents() { QAccessible::installUpdateHandler(m_handler); }
+    Q_DISABLE_COPY_MOVE(NoAccessibleEvents)
+
+private:
+    QAccessible::UpdateHandler m_handler = QAccessible::installUpdateHandler([](QAccessibleEvent *) {});
+};
+
+QPointer<ZRInputWindow> makePanel(const QString &prompt, qint64 x, qint64 y)
+{
+    const NoAccessibleEvents untilTheFocusEvent;
+    auto *const panel = new ZRInputWindow(prompt, x, y);
+    if (const ZRInputFormat *const format = pendingInputFormat()) {
+        ControlSetFormat(tagFromObject(panel->field()), format->characters, format->pass, format->maxLength,
+                         format->caseOption);
+    }
+    return panel;
+}
 
 } // namespace
 
@@ -49,12 +74,8 @@ QString ZRInput(qint64 x, qint64 y, const QString &prompt, const QString &charac
     } // An empty list deliberately keeps the pending format: programs set it once and ask many times.
 
     CUI_AppDelegate *const delegate = CUI_AppDelegateObj();
-    const QPointer<ZRInputWindow> panel = new ZRInputWindow(prompt, x, y);
+    const QPointer<ZRInputWindow> panel = makePanel(prompt, x, y);
     delegate->setInputWnd(panel);
-    if (const ZRInputFormat *const format = pendingInputFormat()) {
-        ControlSetFormat(tagFromObject(panel->field()), format->characters, format->pass, format->maxLength,
-                         format->caseOption);
-    }
     const qint64 code = panel->run();
     delegate->setInputWnd(nullptr);
     delete panel.data();

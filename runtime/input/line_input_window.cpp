@@ -35,7 +35,7 @@ QLineEdit *makeField(QWidget *panel)
     auto *const field = new QLineEdit(panel);
     field->setFrame(false);
     field->setAttribute(Qt::WA_MacShowFocusRect, false);
-    // A line edit cuts at 32767 by itself; a longer line is an answer like any other.
+    // A line edit cuts at 32767 by default; a longer line is an answer like any other.
     field->setMaxLength(std::numeric_limits<int>::max());
     return field;
 }

@@ -27,9 +27,29 @@ TEST_F(Console, readsAsOneText)
     EXPECT_EQ(page.reader().takeNew(), u"Numbers: 1 3\nleft right\nbelow it"_s);
     page.addString(u"\nnews"_s);
     EXPECT_EQ(page.reader().takeNew(), u"news"_s);
+}
+
+// A program that clears and prints its whole screen again: a paragraph that was spoken is news no more.
+TEST_F(Console, givesParagraphsThatWereThereBeforeTheClearOnce)
+{
+    const std::pair<QString, QString> screens[] = {{u"rules\nmore rules\n\n1 2"_s, u"rules\nmore rules\n1 2"_s},
+                                                   {u"rules\nmore rules\n\n3 4"_s, u"3 4"_s},
+                                                   {u"rules\nless rules\n\n1 2"_s, u"rules\nless rules\n1 2"_s}};
+    for (const auto &[printed, spoken] : screens) {
+        page.clear();
+        page.addString(printed);
+        EXPECT_EQ(page.reader().takeNew(), spoken);
+        for (int time = 0; time < 2; ++time) {
+            page.addString(u"error"_s);
+            EXPECT_EQ(page.reader().takeNew(), u"error"_s) << "said each time";
+        }
+    }
+    // A screen that nobody was asked about changes nothing.
     page.clear();
-    page.addString(u"again"_s);
-    EXPECT_EQ(page.reader().takeNew(), u"again"_s);
+    page.addString(u"\nunread"_s);
+    page.clear();
+    page.addString(u"rules\nless rules\n\nnew"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"new"_s);
 }
 
 /// As the game prints: gaps between lines, an error line that was erased and printed again.

@@ -109,26 +109,41 @@ class Node:
         return Atspi.Action.do_action(self._accessible, names.index("Press"))
 
 
-class TextEvents:
-    """What a program tells about one text while it changes, in the order in which it is told."""
+class Events:
+    """The events of the named kinds, in the order of their arrival: kind, number, text and object."""
 
-    def __init__(self, node):
-        self._node = node
+    def __init__(self, *names):
+        self._names = names
         self.events = []
         self._listener = Atspi.EventListener.new(self._heard)
 
     def __enter__(self):
-        for name in TEXT_EVENTS:
+        for name in self._names:
             self._listener.register(name)
         return self
 
     def __exit__(self, *_):
-        for name in TEXT_EVENTS:
+        for name in self._names:
             self._listener.deregister(name)
 
     def _heard(self, event):
+        # GObject's boxed event is only lent.
+        self.events.append((event.type.removeprefix("object:"), event.detail1, event.any_data, Node(event.source)))
+
+    def of(self, node):
+        """The kinds of the events of one object."""
+        return [kind for kind, _, _, source in self.events if node.is_the_same_as(source)]
+
+
+class TextEvents(Events):
+    """The events of one text while it changes."""
+
+    def __init__(self, node):
+        super().__init__(*TEXT_EVENTS)
+        self._node = node
+
+    def _heard(self, event):
         if self._node.is_the_same_as(Node(event.source)):
-            # GObject's boxed event is only lent.
             self.events.append((event.type.removeprefix("object:"), event.detail1, event.any_data))
 
     def named(self, name):

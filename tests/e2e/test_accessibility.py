@@ -1,6 +1,6 @@
 """What a screen reader is told."""
 
-from accessible import TextEvents
+from accessible import TEXT_EVENTS, Events, TextEvents
 from desktop import until
 from pixels import Picture
 from playing import PROMPT, PlayingTest, prompt_after
@@ -22,6 +22,15 @@ class TestAccessibility(PlayingTest):
         game.answer("1+2+3+4+5")
         described = game.wait_for_prompt(prompt_after("1+2+3+4+5")).description
         self.assertEqual(described.strip(), "Error! Extra numbers not allowed")
+
+    def test_a_field_is_silent_until_it_has_the_focus(self):
+        game = self.start()
+        game.wait_for_puzzle()
+        with Events(*TEXT_EVENTS, "object:property-change", "object:state-changed:focused") as told:
+            game.answer("9")
+            field = game.wait_for_prompt(prompt_after("9"))
+            until(lambda: "state-changed:focused" in told.of(field), "the focus event")
+        self.assertEqual(told.of(field)[0], "state-changed:focused")
 
     def test_every_change_of_the_text_is_told_in_order(self):
         game = self.start()

@@ -3,11 +3,30 @@
 #include "runtime/console/document/display_list.h"
 #include "runtime/console/document/text_layout.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The parts between blank lines, without the white space around them.
+QStringList paragraphs(const QString &text)
+{
+    QStringList parts = text.split(u"\n\n"_s);
+    for (QString &part : parts) {
+        part = part.trimmed();
+    }
+    parts.removeAll(QString());
+    return parts;
+}
+
+} // namespace
 
 void ConsoleText::sync(const DisplayList &list)
 {
@@ -57,7 +76,9 @@ void ConsoleText::append(const QString &drawn)
 
 void ConsoleText::clear()
 {
-    *this = ConsoleText();
+    ConsoleText empty;
+    empty.m_spoken = m_mark > 0 ? m_text.left(m_mark) : m_spoken;
+    *this = std::move(empty);
 }
 
 const ConsoleText::Piece *ConsoleText::pieceAt(qsizetype offset) const
@@ -108,16 +129,11 @@ QString ConsoleText::takeUnannounced()
 
 QString ConsoleText::takeNew()
 {
-    qsizetype start = m_mark;
-    qsizetype end = m_text.size();
-    m_mark = end;
-    while (start < end && m_text.at(start) == u'\n') {
-        ++start;
-    }
-    while (end > start && m_text.at(end - 1) == u'\n') {
-        --end;
-    }
-    return m_text.mid(start, end - start);
+    const QString gained = m_text.mid(std::exchange(m_mark, m_text.size()));
+    const QStringList spoken = paragraphs(std::exchange(m_spoken, QString()));
+    QStringList news = paragraphs(gained);
+    news.removeIf([&](const QString &paragraph) { return spoken.contains(paragraph); });
+    return news.join(u'\n');
 }
 
 } // namespace tetrad

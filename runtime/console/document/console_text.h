@@ -41,7 +41,8 @@ public:
     qsizetype charactersBefore(qsizetype offset) const;
     qsizetype offsetOfCharacter(qsizetype character) const;
 
-    /// What was added since the last call, without the newlines around it.
+    /// What was added since the last call, without blank lines. The first call after a clear leaves out the paragraphs
+    /// (parts between blank lines) that earlier calls returned from the text before the clear.
     QString takeNew();
     /// The same, newlines included, for announcing the growth of the text.
     QString takeUnannounced();
@@ -57,6 +58,7 @@ private:
     bool m_atLineStart = true;
     QPointF m_end;
     qsizetype m_mark = 0;
+    QString m_spoken; ///< What takeNew has returned of the text before the clear.
     qsizetype m_announced = 0;
 };
 
