@@ -59,7 +59,14 @@ class Desktop:
         signal.signal(signal.SIGTERM, signal.default_int_handler)
         runtime = os.path.join(self.folder, "runtime")
         os.mkdir(runtime, 0o700)
+        # The fonts that Debian installs with the game. Others move the panel's field.
+        fonts = os.path.join(self.folder, "fonts.conf")
+        with open(fonts, "w", encoding="utf-8") as file:
+            file.write("<fontconfig><include>/etc/fonts/fonts.conf</include><selectfont>"
+                       "<acceptfont><glob>*/NotoColorEmoji*</glob></acceptfont>"
+                       "<rejectfont><glob>*/Noto*</glob></rejectfont></selectfont></fontconfig>")
         self.environment = {
+            "FONTCONFIG_FILE": fonts,
             "PATH": os.environ["PATH"],
             "HOME": self.folder,
             "XDG_RUNTIME_DIR": runtime,
