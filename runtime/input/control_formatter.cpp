@@ -1,13 +1,6 @@
-#include "runtime/app/windows/output_window.h"
 #include <tetrad/input/control_formatter.h>
 
-#include "runtime/input/field_formatter.h"
-#include <tetrad/app/windows.h>
 #include <tetrad/input/line_input.h>
-
-#include <QLineEdit>
-
-#include <limits>
 
 namespace tetrad {
 
@@ -39,30 +32,6 @@ QString capitalized(const QString &text)
         i += characterAt(result, i).units;
     }
     return result;
-}
-
-QLineEdit *lineEditOf(QObject *control)
-{
-    auto *const lineEdit = qobject_cast<QLineEdit *>(control);
-    return lineEdit || !control ? lineEdit : control->findChild<QLineEdit *>();
-}
-
-QLineEdit *lineEditWithTag(Tag control)
-{
-    if (isObjectAddress(control)) {
-        return lineEditOf(objectFromTag(control));
-    }
-    const QWidget *const content = searchedContentView();
-    if (!content || control == 0) {
-        return nullptr;
-    }
-    const auto children = content->findChildren<QWidget *>();
-    for (QWidget *const child : children) {
-        if (objectTag(child) == tagIdentity(control)) {
-            return lineEditOf(child);
-        }
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -126,17 +95,6 @@ void CUI_ControlFormatter::takeBackRefusedPair(QString &accepted) const
     if (joined.units == 2 && m_refused.contains(joined.value)) {
         accepted.chop(joined.units);
     }
-}
-
-void ControlSetFormat(Tag control, const QString &characters, bool pass, quint64 length, qint64 caseOption)
-{
-    QLineEdit *const lineEdit = lineEditWithTag(control);
-    if (!lineEdit) {
-        return;
-    }
-    delete lineEdit->findChild<CUI_ControlFormatter *>(QString(), Qt::FindDirectChildrenOnly);
-    lineEdit->setMaxLength(std::numeric_limits<int>::max());
-    new FieldFormatter(characters, pass, length, caseOption, lineEdit);
 }
 
 } // namespace tetrad

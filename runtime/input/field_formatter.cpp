@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <limits>
 
 namespace tetrad {
 
@@ -94,6 +95,13 @@ void FieldFormatter::replaceText()
     editInto(m_field, replacement.text);
     m_field->setCursorPosition(replacement.cursor);
     m_replacing = false;
+}
+
+void attachFormatter(QLineEdit *field, const QString &characters, bool pass, quint64 length, qint64 caseOption)
+{
+    delete field->findChild<CUI_ControlFormatter *>(QString(), Qt::FindDirectChildrenOnly);
+    field->setMaxLength(std::numeric_limits<int>::max());
+    new FieldFormatter(characters, pass, length, caseOption, field);
 }
 
 } // namespace tetrad

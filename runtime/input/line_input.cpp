@@ -1,9 +1,9 @@
 #include <tetrad/input/line_input.h>
 
+#include "runtime/input/field_formatter.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/input/control_formatter.h>
 #include <tetrad/strings/not_given.h>
 
 #include <QAccessible>
@@ -36,8 +36,7 @@ QPointer<ZRInputWindow> makePanel(const QString &prompt, qint64 x, qint64 y)
     const NoAccessibleEvents untilTheFocusEvent;
     auto *const panel = new ZRInputWindow(prompt, x, y);
     if (const ZRInputFormat *const format = pendingInputFormat()) {
-        ControlSetFormat(tagFromObject(panel->field()), format->characters, format->pass, format->maxLength,
-                         format->caseOption);
+        attachFormatter(panel->field(), format->characters, format->pass, format->maxLength, format->caseOption);
     }
     return panel;
 }

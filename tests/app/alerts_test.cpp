@@ -247,8 +247,17 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     const auto pressBehind = [owner, behind] {
         QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, behind->rect().center()));
     };
+    struct : CUI_AlertDelegate
+    {
+        void alertDidEnd(Alert *, qint64 code, void *) override { dialogCalls << u"1000 own %1"_s.arg(code); }
+    } own;
+    const Answer clicksForOwnDelegate = [&own](Alert *alert) {
+        alert->setDelegate(&own);
+        clicks(1)(alert);
+    };
     const Table<Answer, QString> rows = {
         {"answered", clicks(1), u"1000 1001 4"_s},
+        {"answered, with a delegate of its own", clicksForOwnDelegate, u"1000 own 1001"_s},
         {"dismissed", [](Alert *) { dismiss(4); }, u"1000 0 4"_s},
     };
     for (const auto &[name, answer, reported] : rows) {

@@ -99,6 +99,8 @@ void startAndMeetEvents()
         QCoreApplication::sendEvent(qApp, &open);
         EXPECT_EQ(lastObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_s)});
         EXPECT_EQ(CUI_AppDelegateObj()->stringVal(), u"y.z");
+        CUI_AppDelegateObj()->openFiles({u"/a/dir/"_s});
+        EXPECT_EQ(CUI_AppDelegateObj()->stringVal(), u"dir");
         stopModalWithCode(1);
     });
     runModalForWindow(&window);

@@ -6,6 +6,8 @@
 #include <tetrad/controls/table_view.h>
 #include <tetrad/controls/token_field.h>
 
+#include <QLineEdit>
+
 using namespace tetrad;
 using namespace Qt::StringLiterals;
 
@@ -85,6 +87,8 @@ TEST_F(Dispatch, ActionIsChosenByName)
                                                {-1, u"controlAction:"_s},         {1, u"controlAction1:"_s},
                                                {11, u"controlAction1:"_s},        {10, u"controlAction10:"_s},
                                                {notGiven, u"controlAction10:"_s}, {4, u"controlAction4:"_s}};
+    QEvent::Type current = QEvent::None;
+    atEvent = [&current](qint64) { current = CUI_EventEvent() ? CUI_EventEvent()->type() : QEvent::None; };
     for (const auto &[id, action] : rows) {
         SCOPED_TRACE(id);
         takeSiteCalls();
@@ -93,6 +97,7 @@ TEST_F(Dispatch, ActionIsChosenByName)
         QTest::mouseClick(button, Qt::LeftButton);
         EXPECT_EQ(takeSiteCalls(), u"1 5 7"_s);
         EXPECT_EQ(lastObject, tagFromObject(button));
+        EXPECT_EQ(current, QEvent::MouseButtonRelease);
     }
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 11); }), QString()) << "an id out of range asks for no control";
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 1); }), u"Tag error.|Can't find view 6 in window 7."_s);
@@ -172,9 +177,28 @@ TEST_F(Dispatch, StatementsMakeAndChange)
     EXPECT_EQ(alertsOf([] { CUI_Button(0, u"x"_s, {}); }),
               u"Tag error.|A view needs a tag from 1 to 1000000, not 0."_s);
     EXPECT_EQ(m_content->findChildren<QWidget *>(), QList<QWidget *>{button});
+    CUI_TextLabel(6, u"9 lives"_s, QRectF(10, 60, 80, 30));
+    EXPECT_EQ(ControlIntegerValue(6), 9);
+    EXPECT_EQ(alertsOf([] { CUI_TextField(6, u"x"_s, {}); }),
+              u"Class error.|View 6 (QLabel), in window 7, cannot respond to QLineEdit messages."_s);
+    const auto format = [](Tag tag) { ControlSetFormat(tag, u"1"_s, true, 0, 0); };
+    EXPECT_EQ(alertsOf([&] { format(88); }), u"Tag error.|Can't find view 88 in window 7."_s);
+    CUI_ComboBox(8, u"old"_s, {u"old"_s, u"new"_s}, QRectF(10, 100, 80, 30));
+    EXPECT_EQ(alertsOf([&] { format(8); }), QString());
+    EXPECT_TRUE(m_content->findChild<QLineEdit *>()->validator());
+    ControlSetItems(8, {});
+    EXPECT_EQ(ControlItems(8), QStringList());
+    EXPECT_EQ(alertsOf([] { ViewRemoveFromSuperview(contentViewTag); }),
+              u"Tag error.|A content view stays in its window."_s);
 
-    auto *const page = new QWidget(m_content);
+    open(2);
+    auto *const page = new QWidget(CUI_WindowWithTag(2)->contentView());
     page->setObjectName(u"9"_s);
+    ViewAddSubview(9, tagFromObject(button));
+    EXPECT_EQ(objectWindowTag(button), 2);
+    ViewAddSubview(tagFromObject(m_content), 9);
+    EXPECT_EQ(objectWindowTag(button), 7) << "with what it lies in";
+    CUI_OutputWindowSetTag(7);
     ViewAddSubview(9, 5);
     ViewAddSubview(tagFromObject(button), 9);
     EXPECT_EQ(button->parentWidget(), page) << "nothing lies in itself";

@@ -165,13 +165,13 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     const QSize before = content->size();
     QWidget *const accessory = named<QFrame>(nullptr, u"40"_s);
     accessory->setFixedSize(30, 20);
-    CUI_WindowAddTitlebarAccessoryView(window, accessory);
+    WindowAddTitlebarAccessoryView(tagFromObject(window), tagFromObject(accessory));
     QWidget *const inAccessory = tagged(accessory, 41);
     CUI_Toolbar(50);
     QToolBar *const toolbar = CUI_WindowToolbar(window);
     QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_s);
     auto *const view = new QSlider;
-    CUI_ToolbarAddViewItem(50, 43, view);
+    CUI_ToolbarAddViewItem(50, 43, tagFromObject(view));
     CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_s);
     CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_s);
     QWidget *const inContent = tagged(content, 42);

@@ -27,7 +27,7 @@ protected:
     static Popover *makePopover()
     {
         CUI_Popover(9, QSizeF(80, 60), popoverApplicationDefined);
-        setPopoverAsks(CUI_PopoverWithTag(9), true);
+        PopoverSetAsks(9, true);
         return CUI_PopoverWithTag(9);
     }
     static void show() { PopoverShow(9, contentViewTag, QRectF(0, 0, 5, 5), Qt::BottomEdge); }
@@ -72,6 +72,11 @@ TEST_F(PopoverSite, IsDraggedOffAsAWindowOrGivesWayToOne)
         const QPoint before = dragged->pos();
         drag(popover);
         EXPECT_EQ(takeSiteCalls(), calls);
+        if (lets && !other) {
+            show();
+            drag(popover);
+            EXPECT_TRUE(takeSiteCalls().endsWith(calls)) << "again, once it is shown at a view again";
+        }
         EXPECT_NE(popover->isVisible(), window.isVisible());
         EXPECT_TRUE(dragged->isVisible());
         EXPECT_EQ(dragged->pos() == before, !lets);
@@ -102,7 +107,7 @@ TEST_F(ToolbarSite, ClicksAreToldAndItemsValidatedWhenAsked)
     EXPECT_EQ(lastObject, tagFromObject(item));
     for (const bool enabled : {true, false}) {
         atEvent = [enabled](qint64 event) { answer(event == toolbarEventValidateItem && enabled); };
-        setToolbarItemValidates(item, true);
+        ToolbarItemSetValidates(3, 8, true);
         QTest::mouseClick(m_content, Qt::LeftButton);
         EXPECT_TRUE(takeSiteCalls().startsWith(u"1901 8 7"_s));
         EXPECT_EQ(item->isEnabled(), enabled);
@@ -111,7 +116,7 @@ TEST_F(ToolbarSite, ClicksAreToldAndItemsValidatedWhenAsked)
     const auto make = [yes] {
         atEvent = yes;
         QAction *const fresh = CUI_ToolbarAddItem(3, 9, u"Go"_s);
-        setToolbarItemValidates(fresh, true);
+        ToolbarItemSetValidates(3, 9, true);
         takeSiteCalls();
         return fresh;
     };

@@ -52,7 +52,9 @@ TEST_F(TabSite, EveryWayOfSelectingIsAskedAboutAndTold)
         SCOPED_TRACE(name);
         select(tabs);
         EXPECT_EQ(takeSiteCalls(), u"1600 4 7 1 B & C, 1601 4 7 1 B & C, 1602 4 7 1 B & C"_s);
-        EXPECT_EQ(lastObject, tagFromObject(TabViewPage(4, 1)));
+        EXPECT_EQ(lastObject, tagFromObject(tabs));
+        EXPECT_EQ(CUI_DialogEventObj()->viewObj, TabViewPage(4, 1));
+        EXPECT_EQ(objectWindowTag(TabViewPage(4, 1)), 7);
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         TabViewSelectIndex(4, 0);
         EXPECT_EQ(takeSiteCalls(), u"1602 4 7 0 A"_s) << "the program's own selection is not asked about";

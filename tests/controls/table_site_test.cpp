@@ -98,6 +98,23 @@ TEST_F(TableSite, SelectionByMouseAndKeyIsAskedAboutAndTold)
     EXPECT_EQ(TableViewSelectedRow(3), 2) << "refused";
 }
 
+TEST_F(TableSite, EachRowThatTheMouseIsDraggedOverIsAskedAboutOnce)
+{
+    atEvent = [](qint64) { answer(CUI_DialogEventObj()->longVal != 1); };
+    const auto center = [this](int row) { return QPointF(m_table->visualItemRect(m_table->item(row, 0)).center()); };
+    const auto dragTo = [this](const QPointF &position) {
+        sendMouse(m_table->viewport(), QEvent::MouseMove, position, Qt::NoButton, Qt::LeftButton);
+    };
+    pressRow(m_table, 0);
+    dragTo(center(0) + QPointF(1, 1));
+    dragTo(center(1));
+    dragTo(center(1) + QPointF(1, 1));
+    dragTo(center(2));
+    dragTo(QPointF(20, m_table->viewport()->height() - 2));
+    EXPECT_EQ(takeSiteCalls(), u"1706 3 7 0, 1706 3 7 1, 1706 3 7 2, 1707 3 7 1"_s);
+    EXPECT_EQ(TableViewSelectedRow(3), 1);
+}
+
 TEST_F(TableSite, EditsAndColumnClicksAreTold)
 {
     m_table->setCurrentCell(1, 1);

@@ -1,5 +1,6 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include "tests/controls/site_helper.h"
+#include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/token_field.h>
 
 #include <QAbstractItemView>
@@ -48,6 +49,8 @@ TEST_F(TokenSite, AWordIsAskedAboutWhenItEndsAndTheFieldTold)
     field->clearFocus();
     EXPECT_EQ(takeSiteCodes(), u"2300 2301"_s);
     EXPECT_EQ(TokenFieldTokens(6).join(u'|'), u"a|b|c|d"_s) << "refused";
+    ControlSetStringValue(6, u""_s);
+    EXPECT_EQ(TokenFieldTokens(6), QStringList());
 }
 
 TEST_F(TokenSite, OffersTheProgramsCompletions)

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QWindow>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
@@ -82,8 +83,9 @@ TEST_F(ViewSite, EveryEventCarriesItsCodeTagsAndPlatformEventAndMayDeleteTheView
     for (const auto &[name, code, happen] : happenings()) {
         SCOPED_TRACE(name);
         bool isCurrent = false;
-        atEvent = [&isCurrent](qint64 event) {
-            isCurrent = event != viewEventAcceptsFirstResponder && CUI_EventEvent() == eventFromTag(lastObject);
+        atEvent = [&isCurrent, expected = code](qint64 event) {
+            isCurrent = isCurrent || (event == expected && CUI_EventEvent() == eventFromTag(lastObject));
+            EXPECT_TRUE(event != viewEventDraw || CUI_EventEvent());
         };
         CUI_OutputWindowSetTag(0);
         happen(m_view);
@@ -122,6 +124,8 @@ TEST_F(ViewSite, OnlyUnhandledEventsGetTheirDefaultHandling)
 
 TEST_F(ViewSite, TellsThatTheMouseCameAndWentWhenItMayBeDeleted)
 {
+    QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, u"a"_s, true);
+    QApplication::sendEvent(m_view, &repeated);
     QEnterEvent enter(QPointF(3, 4), QPointF(3, 4), QPointF(3, 4));
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(m_view, &enter);
@@ -136,6 +140,56 @@ TEST_F(ViewSite, TellsThatTheMouseCameAndWentWhenItMayBeDeleted)
     };
     EXPECT_EQ(takeSiteCalls(), u"2006 5 7, 2007 5 7"_s);
     EXPECT_FALSE(m_view);
+}
+
+// The events come through the window system's own window, whose delivery goes on behind the view.
+TEST_F(ViewSite, DeletingAViewOrItsWindowSurvivesInEveryMouseEvent)
+{
+    const QList<qint64> order = {2006, 2005, 2001, 2002, 2004, 2008, 2026, 2010, 2007};
+    const Table<bool, bool> rows = {
+        {"view in its event", false, false},
+        {"window in a view's event", false, true},
+        {"window in its content view's event", true, true},
+    };
+    for (const auto &[name, ofContent, harmsWindow] : rows) {
+        for (const qint64 dangerous : QList<qint64>{0} + order) {
+            if (ofContent && dangerous == viewEventAcceptsFirstResponder) {
+                continue;
+            }
+            SCOPED_TRACE(testing::Message() << name << " at " << dangerous);
+            TearDown();
+            SetUp();
+            qobject_cast<ContentViewSC *>(m_content)->setSubclassFlag(ofContent);
+            const QPointer<QWidget> victim = harmsWindow ? m_content->window() : m_view.data();
+            const QPointer<QWindow> window = m_content->window()->windowHandle();
+            const QPoint outside = m_content->mapTo(m_content->window(), ofContent ? QPoint(20, -5) : QPoint(20, 120));
+            const QPoint inside = m_content->mapTo(m_content->window(), QPoint(ofContent ? 200 : 20, 30));
+            const auto happens = [&window](const auto &happen) {
+                if (window) {
+                    happen(window);
+                    QApplication::processEvents();
+                }
+            };
+            happens([&](QWindow *w) { QTest::mouseMove(w, outside + QPoint(1, 0)); });
+            happens([&](QWindow *w) { QTest::mouseMove(w, outside); });
+            takeSiteCalls();
+            atEvent = [&, code = dangerous](qint64 event) {
+                if (event == code) {
+                    delete victim;
+                }
+            };
+            happens([&](QWindow *w) { QTest::mouseMove(w, inside); });
+            for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
+                happens([&](QWindow *w) { QTest::mousePress(w, button, {}, inside); });
+                happens([&](QWindow *w) { QTest::mouseRelease(w, button, {}, inside); });
+            }
+            happens([&](QWindow *w) { QTest::mouseMove(w, outside); });
+            EXPECT_EQ(victim.isNull(), dangerous != 0);
+            if (dangerous == 0 && !ofContent) {
+                EXPECT_EQ(takeSiteCodes(), u"2006 2005 2001 2002 2004 2001 2008 2026 2010 2007"_s);
+            }
+        }
+    }
 }
 
 TEST_F(ViewSite, DrawsTheDirtyPartOrUpdatesItsLayer)

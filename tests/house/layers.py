@@ -13,7 +13,7 @@ BELOW = {
     "app": ["events", "strings"],
     "console": ["app", "events", "strings"],
     "input": ["app", "events", "strings"],
-    "controls": ["app", "events", "strings"],
+    "controls": ["input", "app", "events", "strings"],
     "rules": ["strings"],
     "game": ["rules", "input", "console", "app", "events", "strings"],
 }

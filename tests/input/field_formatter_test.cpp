@@ -1,7 +1,5 @@
-#include "panel_helper.h"
+#include "runtime/input/field_formatter.h"
 
-#include <tetrad/app/windows.h>
-#include <tetrad/input/control_formatter.h>
 #include <tetrad/input/line_input.h>
 
 #include <QClipboard>
@@ -49,7 +47,7 @@ class FormattedField : public testing::Test
 protected:
     void format(const QString &list, bool pass = true, quint64 length = 0, qint64 caseOption = 0)
     {
-        ControlSetFormat(tagFromObject(&field), list, pass, length, caseOption);
+        attachFormatter(&field, list, pass, length, caseOption);
         field.show();
     }
     QString paste(const QString &text)
@@ -134,21 +132,6 @@ TEST_F(FormattedField, hugePastes)
     field.clear();
     EXPECT_EQ(paste(QString(1'000'000, u'0')).size(), 0);
     EXPECT_EQ(paste(u"\u202Eא0\U0001F600\u0001"_s.repeated(100'000) + u'7'), u"7"_s);
-}
-
-TEST_F(PanelTest, aControlIsFoundByTagInTheOutputWindow)
-{
-    auto *const field = new QLineEdit(host->contentView());
-    setObjectTag(field, 7);
-    // A window in front of it is not looked into.
-    const QPointer<Window> front = open(2, {0, 0, 50, 50});
-    ASSERT_TRUE(QTest::qWaitForWindowActive(front));
-    CUI_OutputWindowSetTag(host->tag());
-    for (const Tag tag : {8, 7}) {
-        ControlSetFormat(tag, u"1"_s, true, 0, 0);
-        EXPECT_EQ(field->validator() != nullptr, tag == 7);
-    }
-    delete front;
 }
 
 } // namespace

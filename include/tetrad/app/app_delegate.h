@@ -93,7 +93,7 @@ public:
     QString inputResponseString() const { return m_inputResponseString; }
     void setInputResponseString(const QString &response) { m_inputResponseString = response; }
 
-    /// Notifications carry the platform's event where there is one, else null.
+    /// The runtime calls these with an invalid notification: no event of this platform belongs to one of them.
     virtual void applicationWillFinishLaunching(const QVariant &notification);
     virtual void applicationDidFinishLaunching(const QVariant &notification);
     virtual qint64 applicationShouldTerminate();

@@ -33,7 +33,8 @@ void CUI_EditMenu(qint64 index);
 /// Pads the bar with untitled, empty menus up to a position. A position below 2 adds nothing.
 void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index);
 
-/// Appends a menu; the bars that show the main menu follow. The list does not own it.
+/// Appends a menu; the bars that show the main menu follow. The list does not own it. Null stands for the main menu,
+/// which is built when there is none.
 void appendMenu(MainMenu *menu, QMenu *added);
 
 /// Fills a window's bar with the main menu's menus and keeps it in step when more are added.

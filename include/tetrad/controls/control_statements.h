@@ -1,19 +1,24 @@
 #pragma once
 
+// Implemented in runtime/controls/statements/control_statements.cpp, control_values.cpp and
+// runtime/controls/dispatch/control_callback.cpp.
 #include <tetrad/events/tag.h>
 
-#include <QObject>
+#include <QComboBox>
+#include <QDate>
+#include <QImage>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
 namespace tetrad {
 
 /// What a control's own callback is called with: the control's tag, its window's tag, and the user
-/// data that was set beside it. The result goes back to whoever asked.
+/// data that was set with it.
 using ControlCallback = qint64 (*)(Tag tag, Tag wndTag, void *userData);
 
 /// A control's callback and user data (dynamic properties "callbackValue" and "userDataValue"), both null
-/// when never set. The user data is the program's own and is never looked at.
+/// when never set. The user data is never looked at.
 ControlCallback cuiControlCallback(const QObject *control);
 void setCuiControlCallback(QObject *control, ControlCallback callback);
 void *cuiControlUserData(const QObject *control);
@@ -22,10 +27,12 @@ void setCuiControlUserData(QObject *control, void *userData);
 /// The statements that make, change, show (tag > 0) and hide (tag < 0) controls in the output window. A null
 /// text and an empty rectangle leave what is there. Rectangles are in pixels from the top left of
 /// the view that the control lies in. What the user does to a control goes to the shared control target.
-/// Each tells the user about, and does nothing more with, a tag that a view of another class has.
+/// A tag that a view of another class has shows an alert.
 
 void CUI_Button(Tag tag, const QString &title, const QRectF &rect);
 void CUI_CheckBox(Tag tag, const QString &title, const QRectF &rect);
+/// At most one of the radio buttons in the same view is on.
+void CUI_RadioButton(Tag tag, const QString &title, const QRectF &rect);
 /// Its action is sent on Return.
 void CUI_TextField(Tag tag, const QString &text, const QRectF &rect);
 /// A text that the user cannot change.
@@ -33,26 +40,76 @@ void CUI_TextLabel(Tag tag, const QString &text, const QRectF &rect);
 /// From minimum to maximum; a reversed range counts from maximum. The value stays or moves into the range. A
 /// rectangle higher than wide makes it vertical.
 void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect);
-/// The items replace those there; a null list leaves them.
+/// A number with arrows that change it by `increment`, which also decides how many decimals are shown.
+void CUI_Stepper(Tag tag, double value, double minimum, double maximum, double increment, const QRectF &rect);
+/// How much of something is done. Equal limits mean that nobody knows.
+void CUI_ProgressIndicator(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect);
+/// The items replace those there; an empty list leaves them (see ControlSetItems).
 void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, const QRectF &rect);
+/// A field with items to choose from. Its action is sent when one is chosen and on Return.
+void CUI_ComboBox(Tag tag, const QString &text, const QStringList &items, const QRectF &rect);
 void CUI_SegmentedControl(Tag tag, const QStringList &labels, qint64 selectedIndex, const QRectF &rect);
+/// A date with a calendar to choose from. An invalid date leaves the date, which is today's at first.
+void CUI_DateField(Tag tag, const QDate &date, const QRectF &rect);
+/// A picture, drawn as large as fits without distorting it. A null picture leaves the one there.
+void CUI_ImageView(Tag tag, const QImage &image, const QRectF &rect);
 
-/// What a control says: a button's or check box's title, a field's text. Neither reports an event. Setting it
-/// on a control that says nothing does nothing; asking for it gives a null text.
+/// A control's text: a button's title, a field's or label's text, the item selected, a date as "2026-11-22". Setting it
+/// reports no event, and does nothing to a control without a text, whose own is null.
 QString ControlStringValue(Tag tag);
 void ControlSetStringValue(Tag tag, const QString &text);
 
-/// What a control stands at: a slider's value, 1 or 0 of a check box, the 0-based index selected in a pop-up button
-/// or segmented control (-1 for none), the number that a field's text begins with. Setting it reports
-/// no event.
+/// A control's number: a slider's, stepper's or progress indicator's value, 1 or 0 of a check box or radio button, the
+/// 0-based index selected in a pop-up button, combo box or segmented control (-1 without one), the number that a
+/// field's or label's text begins with. Setting it reports no event. A fraction is dropped by ControlIntegerValue.
 qint64 ControlIntegerValue(Tag tag);
 void ControlSetIntegerValue(Tag tag, qint64 value);
+double ControlDoubleValue(Tag tag);
+void ControlSetDoubleValue(Tag tag, double value);
 
+/// The items of a pop-up button or combo box, the labels of a segmented control, the words of a token field; empty for
+/// every other control. Setting them selects none and reports no event.
+QStringList ControlItems(Tag tag);
+void ControlSetItems(Tag tag, const QStringList &items);
+
+/// Of every view, not only of controls. A view with the keyboard focus gets the keys.
 void ControlSetEnabled(Tag tag, bool enabled);
+void ViewSetHidden(Tag tag, bool hidden);
+void ViewSetFocus(Tag tag);
+
+/// Filters what the user may enter into a text field, combo box or token field: `pass` says whether `characters` are
+/// allowed or refused; length: in characters, 0 for no limit; caseOption as in ZRInput. It replaces the
+/// filter that is there. Another control shows an alert.
+void ControlSetFormat(Tag tag, const QString &characters, bool pass, quint64 length, qint64 caseOption);
 
 /// The control's own callback in place of the dialog function, with the user data it is called with; null takes
-/// it out again.
+/// the callback out again.
 void ControlSetCallback(Tag tag, ControlCallback callback, void *userData);
+
+/// A combo box, told apart from the pop-up button that it derives from.
+class ComboBoxSC : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ComboBoxSC(QWidget *parent = nullptr);
+};
+
+class ImageViewSC : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    void setImage(const QImage &image);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QImage m_image;
+};
 
 } // namespace tetrad
 

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/dispatch/control_target.cpp and event_site.cpp.
 #include <tetrad/controls/control_statements.h>
 
 #include <QObject>
@@ -69,7 +70,8 @@ qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *contr
 /// tag and the event (dynamic property "delegateCallback"); null when never set.
 using DelegateCallback = qint64 (*)(Tag tag, qint64 event);
 DelegateCallback delegateCallback(const QObject *view);
-void setDelegateCallback(QObject *view, DelegateCallback callback);
+/// Null takes the callback out again. A missing view shows an alert.
+void ViewSetDelegateCallback(Tag tag, DelegateCallback callback);
 
 } // namespace tetrad
 

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/outline_view.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QRectF>
@@ -9,6 +10,8 @@
 
 namespace tetrad {
 
+class SelectionGate;
+
 /// An item of an outline: a value of the program's own, which every question about the item carries.
 class OutlineItem : public QTreeWidgetItem
 {
@@ -17,7 +20,7 @@ public:
 
     const QVariant &object() const { return m_object; }
 
-    /// Whether its children were asked for, which happens when it is opened first.
+    /// Whether the program was asked for its children, as it is when the item is first opened.
     bool isLoaded() const { return m_isLoaded; }
     void setLoaded() { m_isLoaded = true; }
 
@@ -27,8 +30,8 @@ private:
 };
 
 /// A tree whose items the program answers (codes 1800 to 1807): how many children an item has, each child, its
-/// text in each column. Children are asked for when their parent is opened first, so a tree may be
-/// endless. A view with a delegate callback tells that one instead of the dialog function.
+/// text in each column. Children are asked for when their parent is first opened, so a tree may be
+/// endless. A view with a delegate callback reports to that instead of the dialog function.
 class OutlineViewSC : public QTreeWidget
 {
     Q_OBJECT
@@ -36,14 +39,13 @@ class OutlineViewSC : public QTreeWidget
 public:
     explicit OutlineViewSC(QWidget *parent = nullptr);
 
-    /// Asks for the tree anew, with all items closed. The view may be gone afterwards.
+    /// Asks for the tree again, with all items closed. The view may be gone afterwards.
     void reloadData();
 
     /// The current item's value; invalid when none is selected.
     QVariant selectedObject() const;
 
 protected:
-    void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
@@ -51,34 +53,24 @@ private:
     void loadChildren(const QPersistentModelIndex &parent, const QVariant &parentObject);
     bool addChild(const QPersistentModelIndex &parent, const QVariant &object);
     void open(const QPersistentModelIndex &index);
-    bool maySelect(const QModelIndex &index);
-    void tellSoon(QTreeWidgetItem *item, qint64 event);
+    void forwardSoon(qint64 event, const QVariant &object);
+
+    SelectionGate *m_gate = nullptr;
 };
 
-/// Reports what happens to outlines, and asks for their items: to the view's delegate callback, else to the
+/// Reports what happens to outlines and asks for their items: to the view's delegate callback, else to the
 /// dialog function.
 class CUI_OutlineViewDelegate
 {
 public:
-    qint64 forwardEvent(OutlineViewSC *outlineView, qint64 event, Tag object);
-
-    int outlineViewNumberOfChildren(OutlineViewSC *outlineView, const QVariant &item);
-    QVariant outlineViewChild(OutlineViewSC *outlineView, int index, const QVariant &item);
-    QString outlineViewText(OutlineViewSC *outlineView, const QVariant &item, int column);
-    bool outlineViewShouldSelectItem(OutlineViewSC *outlineView, const QVariant &item);
-    /// DidExpand, DidCollapse and SelectionChanged.
-    void outlineViewItemEvent(OutlineViewSC *outlineView, qint64 event, const QVariant &item);
-    void outlineViewDidClickTableColumn(OutlineViewSC *outlineView, int column);
+    static qint64 forwardEvent(OutlineViewSC *outlineView, qint64 event, Tag object);
 };
-
-/// The delegate of every outline; it lives to the end of the program.
-CUI_OutlineViewDelegate *CUI_OutlineViewDelegateObj();
 
 /// The outline statement. An empty list leaves the columns there; the items are asked for as soon as control is back
 /// in the event loop.
 void CUI_OutlineView(Tag tag, const QStringList &columns, const QRectF &rect);
 
-/// Tells the user about an outline that is missing.
+/// Shows an alert when the outline is missing.
 void OutlineViewReloadData(Tag tag);
 
 } // namespace tetrad

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/segmented_control.cpp.
 #include <QStringList>
 #include <QWidget>
 
@@ -12,6 +13,8 @@ namespace tetrad {
 class SegmentedControlSC : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList labels READ labels WRITE setLabels)
+    Q_PROPERTY(int selectedSegment READ selectedSegment WRITE setSelectedSegment)
 
 public:
     explicit SegmentedControlSC(QWidget *parent = nullptr);

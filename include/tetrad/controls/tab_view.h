@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/tab_view.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QRectF>
@@ -11,7 +12,7 @@ namespace tetrad {
 
 /// Pages of which one is seen, each with a tab. A page is a plain view, and what lies in it is found by tag whichever
 /// page is selected. Before a press, the wheel or a key selects another page the dialog function may refuse it; a
-/// selection by the program is told but not asked about.
+/// selection by the program is only reported.
 class TabViewSC : public QTabWidget
 {
     Q_OBJECT
@@ -31,6 +32,7 @@ protected:
 
 private:
     void reportSelection(int index);
+    void forwardItem(qint64 event, int index);
 };
 
 /// The tabs of a tab view, where the user selects.
@@ -56,19 +58,8 @@ private:
 class CUI_TabViewDelegate
 {
 public:
-    void callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object);
-
-    bool tabViewShouldSelectTabViewItem(TabViewSC *tabView, int index);
-    void tabViewWillSelectTabViewItem(TabViewSC *tabView, int index);
-    void tabViewDidSelectTabViewItem(TabViewSC *tabView, int index);
-    void tabViewDidChangeNumberOfTabViewItems(TabViewSC *tabView);
-
-private:
-    void callWithItem(TabViewSC *tabView, qint64 event, int index);
+    static void callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object);
 };
-
-/// The delegate of every tab view; it lives to the end of the program.
-CUI_TabViewDelegate *CUI_TabViewDelegateObj();
 
 /// The tab view statement. Tabs beyond those there are added, tabs there get the labels; a null list leaves them.
 void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect);

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/table_view.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QRectF>
@@ -8,9 +9,11 @@
 
 namespace tetrad {
 
+class SelectionGate;
+
 /// A table whose contents the program answers: reloadData asks (codes 1700 to 1709, and 4200 and 4300 for the
-/// headers) how many rows there are and what stands in each cell, and keeps the answers until the next time. The
-/// columns come from the statement. A view with a delegate callback tells that one instead of the dialog function.
+/// headers) how many rows there are and what each cell contains, and keeps the answers until the next time. The
+/// columns come from the statement. A view with a delegate callback reports to that instead of the dialog function.
 class TableViewSC : public QTableWidget
 {
     Q_OBJECT
@@ -18,47 +21,33 @@ class TableViewSC : public QTableWidget
 public:
     explicit TableViewSC(QWidget *parent = nullptr);
 
-    /// Asks for everything anew. The view may be gone afterwards.
+    /// Asks for everything again. The view may be gone afterwards.
     void reloadData();
+
+    /// 0-based; -1 when no row is selected.
+    int selectedRow() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
 private:
     void reloadHeader(int column);
     void reloadRow(int row);
-    bool maySelect(int row);
     void reportEdit(int row, int column);
 
+    SelectionGate *m_gate = nullptr;
     bool m_isReloading = false;
 };
 
-/// Reports what happens to tables, and asks for their contents: to the view's delegate callback, else to the
+/// Reports what happens to tables and asks for their contents: to the view's delegate callback, else to the
 /// dialog function.
 class CUI_TableViewDelegate
 {
 public:
-    qint64 forwardEvent(TableViewSC *tableView, qint64 event, Tag object);
-
-    int numberOfRowsInTableView(TableViewSC *tableView);
-    QVariant tableViewObjectValue(TableViewSC *tableView, int row, int column);
-    bool tableViewShouldEdit(TableViewSC *tableView, int row, int column);
-    /// A view for the cell, which the table then owns, or null.
-    QWidget *tableViewViewForCell(TableViewSC *tableView, int row, int column);
-    double tableViewHeightOfRow(TableViewSC *tableView, int row);
-    bool tableViewShouldSelectRow(TableViewSC *tableView, int row);
-    void tableViewSetObjectValue(TableViewSC *tableView, const QVariant &value, int row, int column);
-    void tableViewSelectionDidChange(TableViewSC *tableView);
-    void tableViewDidClickTableColumn(TableViewSC *tableView, int column);
-    QFont tableHeaderFont(TableViewSC *tableView, int column);
-    QColor tableHeaderTextColor(TableViewSC *tableView, int column);
+    static qint64 forwardEvent(TableViewSC *tableView, qint64 event, Tag object);
 };
-
-/// The delegate of every table; it lives to the end of the program.
-CUI_TableViewDelegate *CUI_TableViewDelegateObj();
 
 /// One row of a table while it draws; its events carry the table's tag.
 class TableRowViewSC
@@ -80,7 +69,7 @@ private:
 /// in the event loop.
 void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect);
 
-/// Both tell the user about a table that is missing.
+/// Both show an alert when the table is missing.
 void TableViewReloadData(Tag tag);
 /// 0-based; -1 for none.
 qint64 TableViewSelectedRow(Tag tag);

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/text_view.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QPlainTextEdit>
@@ -9,8 +10,8 @@
 namespace tetrad {
 
 /// A text of many lines that the user edits. The dialog function may refuse a change (code 2100) before the user's
-/// typing, deleting, pasting, cutting or dropping makes it; what an input method composes is asked about when it is
-/// committed. Undo and redo are not asked about. Changes and selections are told (2101 to 2104).
+/// typing, deleting, pasting, cutting or dropping makes it. The question about what an input method composes comes when
+/// it is committed; undo and redo cannot be refused. Changes and selections are reported (2101 to 2104).
 class TextViewSC : public QPlainTextEdit
 {
     Q_OBJECT
@@ -33,21 +34,15 @@ protected:
 
 private:
     bool mayReplace(const QTextCursor &replaced, const QString &text);
-    void tellSoon(qint64 event);
+    void reportSoon(qint64 event);
 };
 
 /// Reports what happens to text views, always to the dialog function.
 class CUI_TextViewDelegate
 {
 public:
-    void callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object);
-
-    bool textViewShouldChangeText(TextViewSC *textView, int location, int length, const QString &replacement);
-    void textViewDidChangeSelection(TextViewSC *textView);
+    static void callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object);
 };
-
-/// The delegate of every text view; it lives to the end of the program.
-CUI_TextViewDelegate *CUI_TextViewDelegateObj();
 
 /// The text view statement. A null text leaves the text there.
 void CUI_TextView(Tag tag, const QString &text, const QRectF &rect);

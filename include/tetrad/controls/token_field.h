@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/token_field.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QLineEdit>
@@ -11,13 +12,15 @@ class QStringListModel;
 
 namespace tetrad {
 
-/// A field of words separated by commas. While a word is typed the program is asked for completions of it (code
-/// 2300); when a comma, Return or the loss of the keyboard ends it, which words to keep (2301), and it is
-/// told what the field then holds (2302). Return also sends the field's action. A view with a delegate
-/// callback tells that one instead of the dialog function.
+/// A field of words separated by commas. While a word is typed the program is asked for completions of it (code 2300).
+/// When a comma, Return or the loss of the keyboard ends the word, the program is asked which words to keep (2301), and
+/// a change of the words is reported (2302). Return also sends the field's action. A view with a delegate callback
+/// reports to that instead of the dialog function.
 class TokenFieldSC : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList tokens READ tokens WRITE setTokens)
+    Q_PROPERTY(QString tokenText READ text WRITE setTokenText)
 
 public:
     explicit TokenFieldSC(QWidget *parent = nullptr);
@@ -25,6 +28,8 @@ public:
     /// The finished words, without blanks around them. Setting them asks nothing.
     const QStringList &tokens() const { return m_tokens; }
     void setTokens(const QStringList &tokens);
+    /// The same as one text, with commas between the words.
+    void setTokenText(const QString &text);
 
 protected:
     void focusOutEvent(QFocusEvent *event) override;
@@ -46,15 +51,8 @@ private:
 class CUI_TokenFieldDelegate
 {
 public:
-    qint64 forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object);
-
-    QStringList tokenFieldCompletionsForSubstring(TokenFieldSC *tokenField, const QString &substring);
-    QStringList tokenFieldShouldAddTokens(TokenFieldSC *tokenField, const QStringList &tokens);
-    void tokenFieldDidChange(TokenFieldSC *tokenField);
+    static qint64 forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object);
 };
-
-/// The delegate of every token field; it lives to the end of the program.
-CUI_TokenFieldDelegate *CUI_TokenFieldDelegateObj();
 
 /// The token field statement. An empty list leaves the words there.
 void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect);

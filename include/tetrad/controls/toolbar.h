@@ -1,8 +1,8 @@
 #pragma once
 
+// Implemented in runtime/controls/statements/toolbar.cpp and titlebar_accessory.cpp.
 #include <tetrad/events/tag.h>
 
-#include <QList>
 #include <QString>
 
 class QAction;
@@ -10,8 +10,6 @@ class QToolBar;
 class QWidget;
 
 namespace tetrad {
-
-class Window;
 
 /// The tool bar of a window, which is the first that carries a tag, or null.
 QToolBar *CUI_WindowToolbar(const QWidget *window);
@@ -31,26 +29,16 @@ QToolBar *CUI_Toolbar(Tag tag);
 /// no such tool bar or the item's tag is 0.
 QAction *CUI_ToolbarAddItem(Tag toolbarTag, Tag itemTag, const QString &label);
 
-/// The same with a view of the program's own in place of a labelled button. The tool bar owns the view.
-QAction *CUI_ToolbarAddViewItem(Tag toolbarTag, Tag itemTag, QWidget *view);
+/// The same with a view (tag or object) in place of a labelled button. The tool bar owns the view.
+QAction *CUI_ToolbarAddViewItem(Tag toolbarTag, Tag itemTag, Tag view);
 
-/// Makes a tool bar's item tell the dialog function when it is clicked (code 1900, with the item as the object); once
-/// is enough, and every item that the statement makes does.
-void reportToolbarItemEvents(QAction *item);
+/// Whether the program is asked, after each release of a key or mouse button, if the item is enabled (code 1901). It
+/// is not asked at first, since the answer is preset to no. A missing item shows an alert.
+void ToolbarItemSetValidates(Tag toolbarTag, Tag itemTag, bool validates);
 
-/// Whether the program is asked, after each release of a key or mouse button, if the item is enabled (code 1901);
-/// false at first, because the preset answer is no.
-bool toolbarItemValidates(const QAction *item);
-void setToolbarItemValidates(QAction *item, bool validates);
-
-/// Asks for one item now and enables or disables it. The item may be gone afterwards.
-void validateToolbarItem(QAction *item);
-
-/// Shows a view at the trailing end of the window's title area, beside its menus, after those added before.
-/// The window owns it. A view that is to be found by tag carries the tag in its objectName.
-void CUI_WindowAddTitlebarAccessoryView(Window *window, QWidget *view);
-
-/// The views added, in their order.
-QList<QWidget *> titlebarAccessoryViews(const Window *window);
+/// Shows a view (tag or object) at the trailing end of the window's title area, next to its menus, after those added
+/// before. The window owns it. A plain view that is to be found by tag carries the tag in its objectName. A
+/// missing window or view shows an alert.
+void WindowAddTitlebarAccessoryView(Tag wndTag, Tag view);
 
 } // namespace tetrad

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/lookup/view_lookup.cpp, view_tag.cpp and runtime/controls/statements/view_statement.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QString>
@@ -20,8 +21,7 @@ QWidget *CUI_ViewSubviewWithTag(QWidget *view, Tag tag);
 /// The view with this tag among the title bar's accessories of the output window, or null.
 QWidget *TitlebarAccessoryViewWithTag(Tag tag);
 
-/// The view, if it is of the class or of one derived from it, else null after telling
-/// the user what is wrong.
+/// The view, if it is of the class or of one derived from it, else null after the alert that says what is wrong.
 QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className);
 
 /// CUI_ValidateViewKindOfClass with "NSControl".
@@ -35,13 +35,13 @@ Tag CUI_ViewTag(const QWidget *view);
 /// The tag of the window or popover that shows the view; 0 when there is none.
 Tag CUI_ViewWindowTag(const QWidget *view);
 
-/// Moves a view, with what lies in it, into another view: into a tab's page, say. Its place is counted from the
+/// Moves a view, with what lies in it, into another view, for example into a tab's page. Its position counts from the
 /// new superview's top left. Either may be a tag or an object; nothing happens, after an alert, when
 /// one of them is missing.
 void ViewAddSubview(Tag superview, Tag subview);
 
 /// Takes a view off its window and deletes it once control is back in the event loop; its tag is free at
-/// once. A missing view does nothing, after an alert.
+/// once. A missing view and a content view, which stays in its window, show an alert.
 void ViewRemoveFromSuperview(Tag tag);
 
 } // namespace tetrad

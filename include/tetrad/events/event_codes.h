@@ -1,15 +1,22 @@
 #pragma once
 
-// The table of event codes: every code the dialog function can be called with, family by family. The
-// families that the layers below send live in their own headers and are gathered here.
 #include <QtGlobal>
 
 namespace tetrad {
 
-/// What the dialog function is told of alerts.
+/// The table of event codes: every code that the dialog function can be called with, family by family.
+///
+/// A question has its answer in the record, preset to 0 (no, or nothing) or to what the platform proposes. Questions
+/// are worded so that this changes nothing ("refuse?", "handled?"): a program that does not know an event may ignore
+/// it. The exceptions: the questions about windows are preset to yes, and 1301, 1307 and 1901 ("may it close?", "may it
+/// be dragged off?", "is it enabled?") are sent only to a program that asked for them, with PopoverSetAsks or
+/// ToolbarItemSetValidates, since their preset is no.
+///
+/// Unless a line says otherwise, the object that an event comes with is the view, item, panel or popover concerned.
+
 enum AlertEvent : qint64 {
-    alertEndedEvent = 1000, ///< tag: the button's code or 0; wndTag: the alert's tag
-    alertHelpEvent = 1001,  ///< tag and wndTag: the alert's tag; the answer is the boolean
+    alertEndedEvent = 1000, ///< tag: the button's code or 0; wndTag: the alert's tag; object 0
+    alertHelpEvent = 1001,  ///< tag and wndTag: the alert's tag; boolVal: whether help was shown; object 0
 };
 
 /// Codes of the window delegate's notifications. The gaps in the numbering are intended: no other
@@ -84,14 +91,14 @@ enum ControlEvent : qint64 {
 };
 
 enum PopoverEvent : qint64 {
-    popoverEventDetachableWindow = 1300, ///< viewObj: a window to show in its place; null makes the popover one
-    popoverEventShouldClose = 1301,      ///< boolVal: the answer; see setPopoverAsks
+    popoverEventDetachableWindow = 1300, ///< viewObj: a window to show instead; null makes the popover one
+    popoverEventShouldClose = 1301,      ///< boolVal: the answer; see PopoverSetAsks
     popoverEventWillShow = 1302,
     popoverEventDidShow = 1303,
     popoverEventWillClose = 1304,
     popoverEventDidClose = 1305,
     popoverEventDidDetach = 1306,
-    popoverEventShouldDetach = 1307, ///< boolVal: the answer; see setPopoverAsks
+    popoverEventShouldDetach = 1307, ///< boolVal: the answer; see PopoverSetAsks
 };
 
 /// Coordinates are pixels from the split view's left or top edge. They travel in floatVal, so in single
@@ -111,11 +118,8 @@ enum SplitViewEvent : qint64 {
         1513, ///< longVal: divider; viewObj: what to draw on; rectVal: its part; boolVal: whether drawn
 };
 
-/// Questions of the families from here to the token fields that could keep something from working ask whether to refuse
-/// it: with boolVal preset to false, a program that does not know an event stands in nobody's way. An object
-/// named is passed as the event's object too.
 enum TabViewEvent : qint64 {
-    tabViewEventRefuseSelect = 1600,   ///< longVal: tab; stringObj: its label; object: its page; boolVal: the answer
+    tabViewEventRefuseSelect = 1600,   ///< longVal: tab; stringObj: its label; viewObj: its page; boolVal: the answer
     tabViewEventWillSelect = 1601,     ///< the same fields
     tabViewEventDidSelect = 1602,      ///< the same fields
     tabViewEventDidChangeCount = 1603, ///< longVal: how many tabs
@@ -149,7 +153,7 @@ enum OutlineViewEvent : qint64 {
 
 enum ToolbarEvent : qint64 {
     toolbarEventItemAction = 1900,
-    toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled; see setToolbarItemValidates
+    toolbarEventValidateItem = 1901, ///< boolVal: whether the item is enabled; see ToolbarItemSetValidates
 };
 
 /// Ranges are in UTF-16 units.
@@ -227,7 +231,7 @@ enum TableHeaderEvent : qint64 {
     tableHeaderEventTextColor = 4300,
 };
 
-/// Named only: nothing detaches a view from its stack by itself here.
+/// Named only: nothing here detaches a view from its stack.
 enum StackViewEvent : qint64 {
     stackViewEventReattached = 4500,
     stackViewEventWillDetach = 4501,

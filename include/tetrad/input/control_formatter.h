@@ -2,8 +2,6 @@
 
 // Implemented in runtime/input/control_formatter.cpp and character_set.cpp
 
-#include <tetrad/events/tag.h>
-
 #include <QSet>
 #include <QStringView>
 #include <QValidator>
@@ -72,10 +70,5 @@ private:
     quint64 m_length = 0;
     qint64 m_caseOption = 0;
 };
-
-/// Attaches a formatter with these settings to a line-edit control in place of the one it has, and
-/// lifts the control's own length limit. The control is given as its object or by the tag it has in
-/// the output window, else in the frontmost one; nothing happens when there is none.
-void ControlSetFormat(Tag control, const QString &characters, bool pass, quint64 length, qint64 caseOption);
 
 } // namespace tetrad

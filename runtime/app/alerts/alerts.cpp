@@ -94,8 +94,8 @@ qint64 showAlert(Alert *alert, Tag tag)
         return runAlert(alert, tag, target);
     }
     alert->beginSheet(target, [alert = QPointer<Alert>(alert)](qint64 code) {
-        if (alert) {
-            CUI_AlertDelegateObj()->alertDidEnd(alert, code, nullptr);
+        if (CUI_AlertDelegate *const delegate = alert ? alert->delegate() : nullptr) {
+            delegate->alertDidEnd(alert, code, nullptr);
         }
         if (alert) {
             forget(alert);

@@ -115,6 +115,10 @@ void CUI_MenuPadItemsToIndex(MainMenu *menu, qint64 index)
 
 void appendMenu(MainMenu *menu, QMenu *added)
 {
+    if (!menu) {
+        CUI_BuildMinimalMenu();
+        menu = theMainMenu;
+    }
     menu->menus.append(added);
     leaveBarWithEscape(added);
     if (menu != theMainMenu) {

@@ -4,6 +4,8 @@
 #include <tetrad/app/menus.h>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QTimer>
 
@@ -238,7 +240,7 @@ void CUI_AppDelegate::openFiles(const QStringList &paths)
         m_arrayVal.append(QUrl::fromLocalFile(path));
     }
     m_urlVal = m_arrayVal.value(0).toUrl();
-    m_stringVal = m_urlVal.fileName();
+    m_stringVal = QFileInfo(QDir::cleanPath(paths.value(0))).fileName();
     forwardApplicationEvent(appEventOpenFiles, m_arrayVal);
 }
 

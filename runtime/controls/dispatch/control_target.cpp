@@ -1,13 +1,18 @@
 #include <tetrad/controls/control_target.h>
 
+#include "runtime/controls/dispatch/input_watch.h"
+#include "runtime/controls/events/current_event.h"
 #include "runtime/controls/lookup/view_tag.h"
 #include <tetrad/app/windows.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
+#include <QEvent>
 #include <QVariant>
 #include <QWidget>
+
+#include <memory>
 
 namespace tetrad {
 
@@ -26,6 +31,10 @@ Tag controlWindowTag(const QWidget *control)
 // `obj` is what the callback for all controls is given, `sender` what the dialog function is.
 qint64 dispatch(qint64 event, const QWidget *control, Tag wndTag, Tag obj, Tag sender)
 {
+    // A copy of the program's own: the next event replaces the one that is kept.
+    const QEvent *const last = CUI_EventEvent() ? nullptr : lastInputEvent();
+    const std::unique_ptr<QEvent> copy(last ? last->clone() : nullptr);
+    const CurrentEventScope scope(copy ? copy.get() : CUI_EventEvent());
     const Tag tag = objectTag(control);
     if (const ControlCallback callback = cuiControlCallback(control)) {
         return callback(tag, wndTag, cuiControlUserData(control));

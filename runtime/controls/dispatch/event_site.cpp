@@ -1,9 +1,12 @@
 #include "runtime/controls/dispatch/event_site.h"
 
-#include <tetrad/app/windows.h>
-#include <tetrad/events/dialog_event.h>
+#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/strings/saturate.h"
+#include <tetrad/events/output_window_tag.h>
 
 #include <QVariant>
+
+#include <algorithm>
 
 namespace tetrad {
 
@@ -20,21 +23,16 @@ qint64 sendObjectEvent(const QObject *object, qint64 event, Tag obj)
     return CallUserDefinedOnDialogFunction(event, objectTag(object), wndTag, obj);
 }
 
-bool askObjectEvent(const QObject *object, qint64 event, Tag obj)
-{
-    CUI_DialogEventObj()->boolVal = false;
-    sendObjectEvent(object, event, obj);
-    return CUI_DialogEventObj()->boolVal;
-}
-
 DelegateCallback delegateCallback(const QObject *view)
 {
     return view->property(delegateCallbackKey).value<DelegateCallback>();
 }
 
-void setDelegateCallback(QObject *view, DelegateCallback callback)
+void ViewSetDelegateCallback(Tag tag, DelegateCallback callback)
 {
-    view->setProperty(delegateCallbackKey, QVariant::fromValue(callback));
+    if (QWidget *const view = viewOfClass<QWidget>(tag)) {
+        view->setProperty(delegateCallbackKey, QVariant::fromValue(callback));
+    }
 }
 
 qint64 forwardDelegateEvent(const QObject *view, qint64 event, Tag obj)
@@ -45,6 +43,11 @@ qint64 forwardDelegateEvent(const QObject *view, qint64 event, Tag obj)
     }
     CUI_OutputWindowSetTag(objectWindowTag(view));
     return callback(objectTag(view), event);
+}
+
+int countAnswer(const QObject *object, qint64 event)
+{
+    return std::max(0, saturatedTo<int>(answerTo(object, event, &CUI_DialogEvent::longVal, qint64(0))));
 }
 
 } // namespace tetrad

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <tetrad/controls/control_target.h>
+#include <tetrad/events/dialog_event.h>
 
 #include <QMetaObject>
 #include <QObject>
@@ -9,25 +10,48 @@
 
 namespace tetrad {
 
-/// What the event sites of the wrapped widgets share. A site whose widget is still at work when it learns of something
-/// tells the program soon, so that a callback may delete the widget; a question is put where the widget
-/// has not begun to work.
+/// What the event sites of the wrapped widgets share. A site whose widget is still working when something happens
+/// reports it soon, so that a callback may delete the widget; a question is sent before the widget begins to
+/// work. After each of these calls the object may be gone.
 
 /// Makes the object's window (see objectWindowTag) the output window and calls the dialog function with
 /// the event, the object's tag, its window's tag and `obj`. Returns the function's result.
-qint64 sendObjectEvent(const QObject *object, qint64 event, Tag obj = 0);
-
-/// sendObjectEvent with boolVal preset to false; returns boolVal. The object may be gone then.
-bool askObjectEvent(const QObject *object, qint64 event, Tag obj = 0);
-
-/// Calls a function as soon as control is back in the event loop, unless the object is gone by then.
-template <typename Function>
-void callSoon(QObject *object, Function &&function)
+qint64 sendObjectEvent(const QObject *object, qint64 event, Tag obj);
+inline qint64 sendObjectEvent(const QObject *object, qint64 event)
 {
-    QMetaObject::invokeMethod(object, std::forward<Function>(function), Qt::QueuedConnection);
+    return sendObjectEvent(object, event, tagFromObject(object));
 }
 
 /// As sendObjectEvent, but to the view's delegate callback when it has one.
 qint64 forwardDelegateEvent(const QObject *view, qint64 event, Tag obj);
+inline qint64 forwardDelegateEvent(const QObject *view, qint64 event)
+{
+    return forwardDelegateEvent(view, event, tagFromObject(view));
+}
+
+/// Sends a question about the object, to its delegate callback when it has one: presets a field of the record and
+/// returns what the field holds afterwards.
+template <typename Field>
+Field answerTo(const QObject *object, qint64 event, Field CUI_DialogEvent::*field, const Field &preset)
+{
+    CUI_DialogEventObj()->*field = preset;
+    forwardDelegateEvent(object, event);
+    return CUI_DialogEventObj()->*field;
+}
+
+/// The same for a yes or no, preset to no.
+inline bool answersYes(const QObject *object, qint64 event)
+{
+    return answerTo(object, event, &CUI_DialogEvent::boolVal, false);
+}
+
+/// A number of rows or children that the program answers, preset to 0; a negative one counts as 0.
+int countAnswer(const QObject *object, qint64 event);
+
+/// Calls a function as soon as control is back in the event loop, unless the object is gone by then.
+template <typename Function> void callSoon(QObject *object, Function &&function)
+{
+    QMetaObject::invokeMethod(object, std::forward<Function>(function), Qt::QueuedConnection);
+}
 
 } // namespace tetrad

@@ -1,4 +1,4 @@
-#include <tetrad/controls/popovers.h>
+#include "runtime/controls/dispatch/popover_events.h"
 
 #include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/app/content_view.h>
@@ -17,7 +17,7 @@ namespace {
 
 constexpr char asksKey[] = "popoverAsks";
 
-void tell(Popover *popover, qint64 event)
+void report(Popover *popover, qint64 event)
 {
     setObjectWindowTag(popover, popover->tag());
     sendObjectEvent(popover, event);
@@ -26,17 +26,19 @@ void tell(Popover *popover, qint64 event)
 bool ask(Popover *popover, qint64 event)
 {
     CUI_DialogEventObj()->boolVal = false;
-    tell(popover, event);
+    report(popover, event);
     return CUI_DialogEventObj()->boolVal;
 }
 
-// Turns a popover whose background is dragged off its place into a window, if the program lets it.
+// Turns a popover whose background is dragged off into a window, if the program lets it.
 class PopoverDetacher : public QObject
 {
 public:
     explicit PopoverDetacher(Popover *popover) : QObject(popover), m_popover(popover)
     {
         popover->contentView()->installEventFilter(this);
+        // Shown at a view again, it is attached again.
+        connect(popover, &Popover::willShow, this, [this] { m_isDetached = false; });
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -44,13 +46,13 @@ public:
         const bool isMove = event->type() == QEvent::MouseMove;
         if (isMove || event->type() == QEvent::MouseButtonPress) {
             const auto *const mouse = static_cast<QMouseEvent *>(event);
-            const QPoint place = mouse->globalPosition().toPoint();
-            const QPoint distance = place - m_pressedAt;
+            const QPoint position = mouse->globalPosition().toPoint();
+            const QPoint distance = position - m_pressedAt;
             if (!isMove) {
-                m_pressedAt = place;
+                m_pressedAt = position;
             } else if (mouse->buttons() & Qt::LeftButton && !m_isDetached &&
                        distance.manhattanLength() > QApplication::startDragDistance()) {
-                m_pressedAt = place;
+                m_pressedAt = position;
                 detach(distance);
                 return true;
             }
@@ -68,9 +70,9 @@ private:
         if (!ask(m_popover, popoverEventShouldDetach) || !guard) {
             return;
         }
-        const QPoint place = m_popover->pos() + distance;
+        const QPoint position = m_popover->pos() + distance;
         CUI_DialogEventObj()->viewObj = nullptr;
-        tell(m_popover, popoverEventDetachableWindow);
+        report(m_popover, popoverEventDetachableWindow);
         if (!guard) {
             return;
         }
@@ -78,14 +80,14 @@ private:
         m_isDetached = !window;
         if (window) {
             m_popover->hide();
-            window->move(place);
+            window->move(position);
             window->show();
         } else {
             m_popover->setWindowFlags(Qt::Tool);
-            m_popover->move(place);
+            m_popover->move(position);
             m_popover->show();
         }
-        tell(m_popover, popoverEventDidDetach);
+        report(m_popover, popoverEventDidDetach);
     }
 
     Popover *m_popover = nullptr;
@@ -97,13 +99,13 @@ private:
 
 void reportPopoverEvents(Popover *popover)
 {
-    const auto tells = [popover](auto signal, qint64 event) {
-        QObject::connect(popover, signal, popover, [popover, event] { tell(popover, event); });
+    const auto reports = [popover](auto signal, qint64 event) {
+        QObject::connect(popover, signal, popover, [popover, event] { report(popover, event); });
     };
-    tells(&Popover::willShow, popoverEventWillShow);
-    tells(&Popover::didShow, popoverEventDidShow);
-    tells(&Popover::willClose, popoverEventWillClose);
-    tells(&Popover::didClose, popoverEventDidClose);
+    reports(&Popover::willShow, popoverEventWillShow);
+    reports(&Popover::didShow, popoverEventDidShow);
+    reports(&Popover::willClose, popoverEventWillClose);
+    reports(&Popover::didClose, popoverEventDidClose);
     QObject::connect(popover, &Popover::shouldClose, popover, [popover](bool *answer) {
         if (popoverAsks(popover)) {
             *answer = ask(popover, popoverEventShouldClose);

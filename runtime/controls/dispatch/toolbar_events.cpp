@@ -1,4 +1,4 @@
-#include <tetrad/controls/toolbar.h>
+#include "runtime/controls/dispatch/toolbar_events.h"
 
 #include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/events/event_codes.h>
@@ -40,7 +40,7 @@ public:
 
     void validateSoon()
     {
-        if (!m_isQueued && toolbarItemValidates(m_item)) {
+        if (!m_isQueued && m_item->property(validatesKey).toBool()) {
             m_isQueued = true;
             callSoon(this, [this] {
                 m_isQueued = false;
@@ -59,13 +59,8 @@ private:
 void reportToolbarItemEvents(QAction *item)
 {
     QObject::connect(item, &QAction::triggered, item, [item] {
-        callSoon(item, [item] { sendObjectEvent(item, toolbarEventItemAction, tagFromObject(item)); });
+        callSoon(item, [item] { sendObjectEvent(item, toolbarEventItemAction); });
     });
-}
-
-bool toolbarItemValidates(const QAction *item)
-{
-    return item->property(validatesKey).toBool();
 }
 
 void setToolbarItemValidates(QAction *item, bool validates)
@@ -80,7 +75,7 @@ void setToolbarItemValidates(QAction *item, bool validates)
 void validateToolbarItem(QAction *item)
 {
     const QPointer<QAction> guard(item);
-    const bool enabled = askObjectEvent(item, toolbarEventValidateItem, tagFromObject(item));
+    const bool enabled = answersYes(item, toolbarEventValidateItem);
     if (guard) {
         item->setEnabled(enabled);
     }

@@ -45,6 +45,8 @@ constexpr ClassRow classTable[] = {
     {"NSControl", "NSView", {}},
     {"NSButton", "NSControl", {"QAbstractButton"}},
     {"NSPopUpButton", "NSButton", {"QComboBox"}},
+    {"NSComboBox", "NSTextField", {"tetrad::ComboBoxSC"}},
+    {"NSImageView", "NSControl", {"tetrad::ImageViewSC"}},
     {"NSSlider", "NSControl", {"QSlider", "QDial"}},
     {"NSScroller", "NSControl", {"QScrollBar"}},
     {"NSStepper", "NSControl", {"QAbstractSpinBox"}},
@@ -121,9 +123,9 @@ bool isExactlyViewClass(const QObject *object, QStringView className)
     return row && isNamed(row, className);
 }
 
-QString viewDescription(const QObject *object)
+QString objectDescription(const QObject *object, const QString &className)
 {
-    return u"<%1: 0x%2>"_s.arg(viewClassName(object), QString::number(tagFromObject(object), 16));
+    return u"<%1: 0x%2>"_s.arg(className, QString::number(tagFromObject(object), 16));
 }
 
 } // namespace tetrad

@@ -21,6 +21,6 @@ bool isKindOfViewClass(const QObject *object, QStringView className);
 bool isExactlyViewClass(const QObject *object, QStringView className);
 
 /// "<NSButton: 0x55d0c0ffee00>"
-QString viewDescription(const QObject *object);
+QString objectDescription(const QObject *object, const QString &className);
 
 } // namespace tetrad

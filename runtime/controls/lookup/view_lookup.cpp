@@ -1,10 +1,10 @@
-#include "runtime/app/windows/output_window.h"
 #include <tetrad/controls/view_lookup.h>
 
-#include "runtime/app/process/strings_table.h"
+#include "runtime/app/windows/output_window.h"
 #include "runtime/controls/lookup/class_names.h"
-#include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/lookup/view_tag.h"
+#include "runtime/controls/statements/titlebar_accessory.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
 #include <tetrad/app/window.h>
@@ -43,22 +43,6 @@ QWidget *toolbarItemView(const QWidget *contentView, Tag tag)
     const QToolBar *const toolbar = CUI_WindowToolbar(contentView->window());
     QAction *const item = toolbar ? ToolbarItemWithTag(toolbar, tag) : nullptr;
     return item ? toolbar->widgetForAction(item) : nullptr;
-}
-
-QWidget *validatedObject(QObject *object, const QString &className)
-{
-    auto *const view = qobject_cast<QWidget *>(object);
-    if (view && isKindOfViewClass(view, className)) {
-        return view;
-    }
-    showClassError(object, className);
-    return nullptr;
-}
-
-void showNotFound(Tag tag, Tag wndTag)
-{
-    const char *const text = QT_TRANSLATE_NOOP("Runtime", "Can't find view %1 in window %2.");
-    showTagError(runtimeText(text).arg(QString::number(tag), QString::number(wndTag)));
 }
 
 } // namespace
@@ -128,25 +112,7 @@ QWidget *TitlebarAccessoryViewWithTag(Tag tag)
 
 QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className)
 {
-    if (isObjectAddress(tagOrView)) {
-        return validatedObject(objectFromTag(tagOrView), className);
-    }
-    const QWidget *const contentView = searchedContentView();
-    if (!contentView) {
-        showNoWindowsError();
-        return nullptr;
-    }
-    const Tag wndTag = CUI_ViewWindowTag(contentView);
-    QWidget *const view = CUI_ViewWithTag(tagOrView);
-    if (!view) {
-        showNotFound(tagOrView, wndTag);
-        return nullptr;
-    }
-    if (!isKindOfViewClass(view, className)) {
-        showClassError(tagOrView, view, wndTag, className);
-        return nullptr;
-    }
-    return view;
+    return validatedView(tagOrView, {className});
 }
 
 QWidget *ControlWithTag(Tag tagOrControl)

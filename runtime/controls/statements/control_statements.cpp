@@ -1,28 +1,34 @@
 #include <tetrad/controls/control_statements.h>
 
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
+#include "runtime/input/field_formatter.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/controls/control_target.h>
 #include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/strings/not_given.h>
-#include <tetrad/strings/numbers.h>
 
 #include <QCheckBox>
-#include <QComboBox>
+#include <QDateEdit>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tetrad {
 
 namespace {
 
-// A button has finished its own work when it tells, and looks whether it is still there.
+// A button has finished its own work when it reports a click, and checks whether it still exists.
 void sendsActionAtOnce(QAbstractButton *button)
 {
     QObject::connect(button, &QAbstractButton::clicked, button, [button] { sendControlAction(button); });
@@ -43,12 +49,14 @@ void buttonStatement(Tag tag, const QString &title, const QRectF &rect)
     }
 }
 
-void setItems(QComboBox *box, const QStringList &items)
+// As many as the increment needs.
+int decimalsOf(double increment)
 {
-    if (!items.isEmpty()) {
-        box->clear();
-        box->addItems(items);
+    int decimals = 0;
+    for (double scaled = increment; decimals < 6 && std::abs(scaled - std::round(scaled)) > 1e-9; scaled *= 10) {
+        ++decimals;
     }
+    return decimals;
 }
 
 } // namespace
@@ -61,6 +69,11 @@ void CUI_Button(Tag tag, const QString &title, const QRectF &rect)
 void CUI_CheckBox(Tag tag, const QString &title, const QRectF &rect)
 {
     buttonStatement<QCheckBox>(tag, title, rect);
+}
+
+void CUI_RadioButton(Tag tag, const QString &title, const QRectF &rect)
+{
+    buttonStatement<QRadioButton>(tag, title, rect);
 }
 
 void CUI_TextField(Tag tag, const QString &text, const QRectF &rect)
@@ -99,6 +112,28 @@ void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRe
     }
 }
 
+void CUI_Stepper(Tag tag, double value, double minimum, double maximum, double increment, const QRectF &rect)
+{
+    auto *const stepper = statementView<QDoubleSpinBox>(
+        tag, rect, [](QDoubleSpinBox *made) { sendsActionSoon(made, &QDoubleSpinBox::valueChanged); });
+    if (stepper) {
+        const QSignalBlocker blocker(stepper);
+        stepper->setDecimals(decimalsOf(increment));
+        stepper->setRange(minimum, maximum);
+        stepper->setSingleStep(increment);
+        stepper->setValue(value);
+    }
+}
+
+void CUI_ProgressIndicator(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect)
+{
+    if (auto *const bar = statementView<QProgressBar>(tag, rect)) {
+        const bool isKnown = minimum != maximum;
+        bar->setRange(isKnown ? saturatedTo<int>(minimum) : 0, isKnown ? saturatedTo<int>(maximum) : 0);
+        bar->setValue(saturatedTo<int>(value));
+    }
+}
+
 void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, const QRectF &rect)
 {
     auto *const box =
@@ -106,10 +141,74 @@ void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, co
     if (!box) {
         return;
     }
-    setItems(box, items);
+    if (!items.isEmpty()) {
+        ControlSetItems(tagFromObject(box), items);
+        box->setCurrentIndex(0);
+    }
     if (selectedIndex != notGiven) {
         box->setCurrentIndex(saturatedTo<int>(selectedIndex));
     }
+}
+
+void CUI_ComboBox(Tag tag, const QString &text, const QStringList &items, const QRectF &rect)
+{
+    auto *const box = statementView<ComboBoxSC>(tag, rect, [](ComboBoxSC *made) {
+        sendsActionSoon(made, &ComboBoxSC::activated);
+        QObject::connect(made->lineEdit(), &QLineEdit::returnPressed, made, [made] { sendControlActionSoon(made); });
+    });
+    if (!box) {
+        return;
+    }
+    if (!items.isEmpty()) {
+        ControlSetItems(tagFromObject(box), items);
+    }
+    if (!text.isNull()) {
+        box->setEditText(text);
+    }
+}
+
+void CUI_DateField(Tag tag, const QDate &date, const QRectF &rect)
+{
+    auto *const field = statementView<QDateEdit>(tag, rect, [](QDateEdit *made) {
+        made->setCalendarPopup(true);
+        made->setDate(QDate::currentDate());
+        sendsActionSoon(made, &QDateEdit::dateChanged);
+    });
+    if (field && date.isValid()) {
+        const QSignalBlocker blocker(field);
+        field->setDate(date);
+    }
+}
+
+void CUI_ImageView(Tag tag, const QImage &image, const QRectF &rect)
+{
+    auto *const view = statementView<ImageViewSC>(tag, rect);
+    if (view && !image.isNull()) {
+        view->setImage(image);
+    }
+}
+
+ComboBoxSC::ComboBoxSC(QWidget *parent) : QComboBox(parent)
+{
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    // Without it Return on the text of an item would send the action twice.
+    setDuplicatesEnabled(true);
+}
+
+void ImageViewSC::setImage(const QImage &image)
+{
+    m_image = image;
+    update();
+}
+
+void ImageViewSC::paintEvent(QPaintEvent * /*event*/)
+{
+    QRect place(QPoint(), m_image.size().scaled(size(), Qt::KeepAspectRatio));
+    place.moveCenter(rect().center());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, m_image);
 }
 
 void CUI_SegmentedControl(Tag tag, const QStringList &labels, qint64 selectedIndex, const QRectF &rect)
@@ -127,76 +226,24 @@ void CUI_SegmentedControl(Tag tag, const QStringList &labels, qint64 selectedInd
     }
 }
 
-QString ControlStringValue(Tag tag)
-{
-    const QWidget *const control = ControlWithTag(tag);
-    if (const auto *button = qobject_cast<const QAbstractButton *>(control)) {
-        return button->text();
-    }
-    if (const auto *box = qobject_cast<const QComboBox *>(control)) {
-        return box->currentText();
-    }
-    if (const auto *label = qobject_cast<const QLabel *>(control)) {
-        return label->text();
-    }
-    const auto *const field = qobject_cast<const QLineEdit *>(control);
-    return field ? field->text() : QString();
-}
-
-void ControlSetStringValue(Tag tag, const QString &text)
-{
-    QWidget *const control = ControlWithTag(tag);
-    if (auto *const button = qobject_cast<QAbstractButton *>(control)) {
-        button->setText(text);
-    } else if (auto *const box = qobject_cast<QComboBox *>(control)) {
-        box->setCurrentIndex(box->findText(text));
-    } else if (auto *const label = qobject_cast<QLabel *>(control)) {
-        label->setText(text);
-    } else if (auto *const field = qobject_cast<QLineEdit *>(control)) {
-        field->setText(text);
-    }
-}
-
-qint64 ControlIntegerValue(Tag tag)
-{
-    const QWidget *const control = ControlWithTag(tag);
-    if (const auto *slider = qobject_cast<const QAbstractSlider *>(control)) {
-        return slider->value();
-    }
-    if (const auto *button = qobject_cast<const QAbstractButton *>(control)) {
-        return button->isChecked() ? 1 : 0;
-    }
-    if (const auto *box = qobject_cast<const QComboBox *>(control)) {
-        return box->currentIndex();
-    }
-    if (const auto *segments = qobject_cast<const SegmentedControlSC *>(control)) {
-        return segments->selectedSegment();
-    }
-    const auto *const field = qobject_cast<const QLineEdit *>(control);
-    return field ? StringIntegerValue(field->text()) : 0;
-}
-
-void ControlSetIntegerValue(Tag tag, qint64 value)
-{
-    QWidget *const control = ControlWithTag(tag);
-    const QSignalBlocker blocker(control);
-    if (auto *const slider = qobject_cast<QAbstractSlider *>(control)) {
-        slider->setValue(saturatedTo<int>(value));
-    } else if (auto *const button = qobject_cast<QAbstractButton *>(control)) {
-        button->setChecked(value != 0);
-    } else if (auto *const box = qobject_cast<QComboBox *>(control)) {
-        box->setCurrentIndex(saturatedTo<int>(value));
-    } else if (auto *const segments = qobject_cast<SegmentedControlSC *>(control)) {
-        segments->setSelectedSegment(saturatedTo<int>(value));
-    } else if (auto *const field = qobject_cast<QLineEdit *>(control)) {
-        field->setText(QString::number(value));
-    }
-}
-
 void ControlSetEnabled(Tag tag, bool enabled)
 {
-    if (QWidget *const control = ControlWithTag(tag)) {
-        control->setEnabled(enabled);
+    if (QWidget *const view = viewOfClass<QWidget>(tag)) {
+        view->setEnabled(enabled);
+    }
+}
+
+void ViewSetHidden(Tag tag, bool hidden)
+{
+    if (QWidget *const view = viewOfClass<QWidget>(tag)) {
+        view->setHidden(hidden);
+    }
+}
+
+void ViewSetFocus(Tag tag)
+{
+    if (QWidget *const view = viewOfClass<QWidget>(tag)) {
+        view->setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -205,6 +252,19 @@ void ControlSetCallback(Tag tag, ControlCallback callback, void *userData)
     if (QWidget *const control = ControlWithTag(tag)) {
         setCuiControlCallback(control, callback);
         setCuiControlUserData(control, userData);
+    }
+}
+
+void ControlSetFormat(Tag tag, const QString &characters, bool pass, quint64 length, qint64 caseOption)
+{
+    QWidget *const control = ControlWithTag(tag);
+    if (!control) {
+        return;
+    }
+    const auto *const box = qobject_cast<QComboBox *>(control);
+    QLineEdit *const field = box && box->lineEdit() ? box->lineEdit() : viewOfClass<QLineEdit>(tag);
+    if (field) {
+        attachFormatter(field, characters, pass, length, caseOption);
     }
 }
 

@@ -14,7 +14,7 @@ namespace tetrad {
 
 namespace {
 
-// The panel in this slot, made anew when a program deleted it.
+// The panel in this slot, made again when a program deleted it.
 template <typename Panel, typename Connect>
 Panel *panelIn(QPointer<Panel> &slot, Connect connectPanel)
 {
@@ -46,7 +46,7 @@ QColorDialog *CUI_ColorPanel(const QColor &color)
         QObject::connect(made, &QColorDialog::currentColorChanged, made, [made](const QColor &chosen) {
             callSoon(made, [made, chosen] {
                 CUI_DialogEventObj()->colorObj = chosen;
-                sendObjectEvent(made, colorPanelEventAction, tagFromObject(made));
+                sendObjectEvent(made, colorPanelEventAction);
             });
         });
     });
@@ -62,7 +62,7 @@ QFontDialog *CUI_FontPanel(const QFont &font)
         QObject::connect(made, &QFontDialog::currentFontChanged, made, [made](const QFont &chosen) {
             callSoon(made, [made, chosen] {
                 CUI_DialogEventObj()->fontObj = chosen;
-                sendObjectEvent(made, fontPanelEventChanged, tagFromObject(made));
+                sendObjectEvent(made, fontPanelEventChanged);
             });
         });
     });

@@ -1,15 +1,14 @@
 #include <tetrad/controls/popovers.h>
 
 #include "runtime/app/process/strings_table.h"
+#include "runtime/controls/dispatch/popover_events.h"
 #include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/controls/view_lookup.h>
 
 namespace tetrad {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,6 +25,16 @@ bool canBePopover(Tag tag)
         return false;
     }
     return true;
+}
+
+// Null after an alert.
+Popover *popoverWithTag(Tag tag)
+{
+    Popover *const popover = CUI_PopoverWithTag(tag);
+    if (!popover) {
+        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1.")).arg(tag));
+    }
+    return popover;
 }
 
 } // namespace
@@ -47,14 +56,17 @@ void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
     CUI_OutputWindowSetTag(popoverTag);
 }
 
+void PopoverSetAsks(Tag tag, bool asks)
+{
+    if (Popover *const popover = popoverWithTag(tag)) {
+        setPopoverAsks(popover, asks);
+    }
+}
+
 void PopoverShow(Tag tag, Tag relativeToView, const QRectF &rect, Qt::Edge preferredEdge)
 {
-    Popover *const popover = CUI_PopoverWithTag(tag);
-    if (!popover) {
-        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1.")).arg(tag));
-        return;
-    }
-    if (QWidget *const view = CUI_ValidateViewKindOfClass(relativeToView, u"NSView"_s)) {
+    Popover *const popover = popoverWithTag(tag);
+    if (QWidget *const view = popover ? viewOfClass<QWidget>(relativeToView) : nullptr) {
         popover->showRelativeTo(view, rect.toRect(), preferredEdge);
     }
 }

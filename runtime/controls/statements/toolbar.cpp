@@ -1,7 +1,10 @@
 #include <tetrad/controls/toolbar.h>
 
 #include "runtime/app/process/strings_table.h"
+#include "runtime/controls/dispatch/toolbar_events.h"
 #include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/statements/view_statement.h"
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
 
@@ -126,15 +129,28 @@ QAction *CUI_ToolbarAddItem(Tag toolbarTag, Tag itemTag, const QString &label)
     return item;
 }
 
-QAction *CUI_ToolbarAddViewItem(Tag toolbarTag, Tag itemTag, QWidget *view)
+QAction *CUI_ToolbarAddViewItem(Tag toolbarTag, Tag itemTag, Tag view)
 {
     QToolBar *const toolbar = toolbarForItem(toolbarTag, itemTag);
-    if (!toolbar) {
+    QWidget *const shown = toolbar ? viewOfClass<QWidget>(view) : nullptr;
+    if (!shown) {
         return nullptr;
     }
+    setWindowTagWithin(shown, objectWindowTag(toolbar));
     auto *const item = new QWidgetAction(toolbar);
-    item->setDefaultWidget(view);
+    item->setDefaultWidget(shown);
     return addItem(toolbar, item, itemTag);
+}
+
+void ToolbarItemSetValidates(Tag toolbarTag, Tag itemTag, bool validates)
+{
+    const QToolBar *const toolbar = toolbarForItem(toolbarTag, itemTag);
+    if (QAction *const item = toolbar ? ToolbarItemWithTag(toolbar, itemTag) : nullptr) {
+        setToolbarItemValidates(item, validates);
+    } else if (toolbar) {
+        const char *const text = QT_TRANSLATE_NOOP("Runtime", "Can't find item %1 in tool bar %2.");
+        showTagError(runtimeText(text).arg(QString::number(itemTag), QString::number(toolbarTag)));
+    }
 }
 
 } // namespace tetrad

@@ -1,7 +1,8 @@
 #include "runtime/controls/statements/view_statement.h"
 
 #include "runtime/app/process/strings_table.h"
-#include "runtime/controls/lookup/class_names.h"
+#include "runtime/app/windows/output_window.h"
+#include "runtime/controls/dispatch/input_watch.h"
 #include "runtime/controls/lookup/tag_alerts.h"
 #include "runtime/controls/lookup/view_tag.h"
 #include <tetrad/controls/view_lookup.h>
@@ -10,8 +11,6 @@
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 QWidget *contentViewForStatement(Tag tag)
 {
     if (tag == 0 || isObjectAddress(tagIdentity(tag))) {
@@ -19,17 +18,7 @@ QWidget *contentViewForStatement(Tag tag)
         showTagError(runtimeText(text).arg(tag));
         return nullptr;
     }
-    return CUI_ValidateViewKindOfClass(contentViewTag, u"NSView"_s);
-}
-
-QWidget *viewForStatement(Tag tag)
-{
-    return CUI_ViewWithTag(tagIdentity(tag));
-}
-
-void showStatementClassError(Tag tag, const QWidget *view, const QMetaObject &wanted)
-{
-    showClassError(tagIdentity(tag), view, CUI_ViewWindowTag(view), viewClassName(wanted));
+    return viewOfClass<QWidget>(contentViewTag);
 }
 
 void adoptView(QWidget *view, Tag tag)
@@ -37,6 +26,15 @@ void adoptView(QWidget *view, Tag tag)
     setViewTag(view, tagIdentity(tag));
     setObjectWindowTag(view, CUI_ViewWindowTag(view));
     view->adjustSize();
+    watchInput();
+}
+
+void setWindowTagWithin(QWidget *view, Tag wndTag)
+{
+    setObjectWindowTag(view, wndTag);
+    for (QWidget *const inner : view->findChildren<QWidget *>()) {
+        setObjectWindowTag(inner, wndTag);
+    }
 }
 
 void placeView(QWidget *view, Tag tag, const QRectF &rect)
@@ -49,8 +47,8 @@ void placeView(QWidget *view, Tag tag, const QRectF &rect)
 
 void ViewAddSubview(Tag superview, Tag subview)
 {
-    QWidget *const outer = CUI_ValidateViewKindOfClass(superview, u"NSView"_s);
-    QWidget *const inner = outer ? CUI_ValidateViewKindOfClass(subview, u"NSView"_s) : nullptr;
+    QWidget *const outer = viewOfClass<QWidget>(superview);
+    QWidget *const inner = outer ? viewOfClass<QWidget>(subview) : nullptr;
     // A view cannot lie in itself or in its own subview.
     if (!inner || inner == outer || inner->isAncestorOf(outer)) {
         return;
@@ -60,16 +58,22 @@ void ViewAddSubview(Tag superview, Tag subview)
     inner->setParent(outer);
     inner->move(place);
     inner->setVisible(wasShown);
-    setObjectWindowTag(inner, CUI_ViewWindowTag(outer));
+    setWindowTagWithin(inner, CUI_ViewWindowTag(outer));
 }
 
 void ViewRemoveFromSuperview(Tag tag)
 {
-    if (QWidget *const view = CUI_ValidateViewKindOfClass(tag, u"NSView"_s)) {
-        view->hide();
-        view->setParent(nullptr);
-        view->deleteLater();
+    QWidget *const view = viewOfClass<QWidget>(tag);
+    if (!view) {
+        return;
     }
+    if (view == contentViewOf(view->window()) || view->isWindow()) {
+        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "A content view stays in its window.")));
+        return;
+    }
+    view->hide();
+    view->setParent(nullptr);
+    view->deleteLater();
 }
 
 } // namespace tetrad

@@ -2,7 +2,6 @@
 
 #include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/controls/split_view.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QMouseEvent>
@@ -29,7 +28,7 @@ void SplitDivider::paintEvent(QPaintEvent *event)
     CUI_DialogEventObj()->rectVal = rect();
     CUI_DialogEventObj()->viewObj = this;
     CUI_DialogEventObj()->longVal = index();
-    if (askObjectEvent(m_splitView, splitViewEventDrawDivider)) {
+    if (answersYes(m_splitView, splitViewEventDrawDivider)) {
         return;
     }
     if (m_splitView->dividerColor().isValid()) {

@@ -1,11 +1,10 @@
 #include <tetrad/controls/split_view.h>
 
 #include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/controls/views/pixel_answer.h"
 #include "runtime/controls/views/split_divider.h"
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QResizeEvent>
@@ -14,28 +13,19 @@
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Deliberately through the record's single precision: that is how exact a program's answer is.
 int askCoordinate(const SplitViewSC *view, qint64 event, int divider, int proposal)
 {
     CUI_DialogEventObj()->longVal = divider;
-    CUI_DialogEventObj()->floatVal = float(proposal);
-    sendObjectEvent(view, event);
-    return wholePixels(CUI_DialogEventObj()->floatVal);
+    return wholePixels(answerTo(view, event, &CUI_DialogEvent::floatVal, float(proposal)));
 }
 
 bool askAboutIndex(const SplitViewSC *view, qint64 event, int index)
 {
     CUI_DialogEventObj()->longVal = index;
-    return askObjectEvent(view, event);
-}
-
-SplitViewSC *splitViewWithTag(Tag tag)
-{
-    return qobject_cast<SplitViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSSplitView"_s));
+    return answersYes(view, event);
 }
 
 } // namespace
@@ -63,12 +53,12 @@ void SplitViewSC::setPosition(int position, int divider)
     if (!guard || target.position == this->position(divider)) {
         return;
     }
-    sendObjectEvent(this, splitViewEventWillResizeSubviews);
+    forwardDelegateEvent(this, splitViewEventWillResizeSubviews);
     if (!guard || divider + 1 >= count()) {
         return;
     }
     move(target, divider);
-    sendObjectEvent(this, splitViewEventDidResizeSubviews);
+    forwardDelegateEvent(this, splitViewEventDidResizeSubviews);
     if (guard) {
         hideDividers();
     }
@@ -133,16 +123,15 @@ int SplitViewSC::edgeAfter(int divider) const
 void SplitViewSC::askAboutDividers()
 {
     const QPointer<SplitViewSC> guard(this);
-    CUI_DialogEventObj()->colorObj = m_dividerColor;
-    sendObjectEvent(this, splitViewEventDividerColor);
+    const QColor color = answerTo(this, splitViewEventDividerColor, &CUI_DialogEvent::colorObj, m_dividerColor);
     if (!guard) {
         return;
     }
-    m_dividerColor = CUI_DialogEventObj()->colorObj;
-    CUI_DialogEventObj()->floatVal = float(handleWidth());
-    sendObjectEvent(this, splitViewEventDividerThickness);
+    m_dividerColor = color;
+    const auto width = float(handleWidth());
+    const int thickness =
+        wholePixels(answerTo(this, splitViewEventDividerThickness, &CUI_DialogEvent::floatVal, width));
     if (guard) {
-        const int thickness = wholePixels(CUI_DialogEventObj()->floatVal);
         if (thickness >= 0 && thickness != handleWidth()) {
             setHandleWidth(thickness);
         }
@@ -187,7 +176,7 @@ void SplitViewSC::layOut()
 {
     m_layOutIsQueued = false;
     const QPointer<SplitViewSC> guard(this);
-    sendObjectEvent(this, splitViewEventWillResizeSubviews);
+    forwardDelegateEvent(this, splitViewEventWillResizeSubviews);
     // With no subview that may, all of them change.
     for (int index = 0; guard && index < count(); ++index) {
         const bool adjusts = askAboutIndex(this, splitViewEventShouldAdjustSizeOfSubview, index);
@@ -200,7 +189,7 @@ void SplitViewSC::layOut()
     }
     QResizeEvent resized(size(), size());
     QSplitter::resizeEvent(&resized);
-    sendObjectEvent(this, splitViewEventDidResizeSubviews);
+    forwardDelegateEvent(this, splitViewEventDidResizeSubviews);
     if (guard) {
         hideDividers();
     }
@@ -208,23 +197,24 @@ void SplitViewSC::layOut()
 
 void CUI_SplitView(Tag tag, Qt::Orientation orientation, const QRectF &rect)
 {
-    if (auto *const view = statementView<SplitViewSC>(tag, rect, [](SplitViewSC *) {})) {
+    if (auto *const view = statementView<SplitViewSC>(tag, rect)) {
         view->setOrientation(orientation);
     }
 }
 
 void SplitViewAddSubview(Tag tag, Tag subview)
 {
-    SplitViewSC *const view = splitViewWithTag(tag);
-    QWidget *const added = view ? CUI_ValidateViewKindOfClass(subview, u"NSView"_s) : nullptr;
+    auto *const view = viewOfClass<SplitViewSC>(tag);
+    QWidget *const added = view ? viewOfClass<QWidget>(subview) : nullptr;
     if (added && added != view && !added->isAncestorOf(view)) {
         view->addWidget(added);
+        setWindowTagWithin(added, objectWindowTag(view));
     }
 }
 
 void SplitViewSetPosition(Tag tag, qint64 position, qint64 divider)
 {
-    if (SplitViewSC *const view = splitViewWithTag(tag)) {
+    if (auto *const view = viewOfClass<SplitViewSC>(tag)) {
         view->setPosition(saturatedTo<int>(position), saturatedTo<int>(divider));
     }
 }

@@ -1,10 +1,9 @@
 #include <tetrad/controls/tab_view.h>
 
 #include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/strings/saturate.h"
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QKeyEvent>
@@ -27,10 +26,12 @@ void TabViewSC::selectIfAllowed(int index)
         return;
     }
     const QPointer<TabViewSC> guard(this);
-    if (!CUI_TabViewDelegateObj()->tabViewShouldSelectTabViewItem(this, index) || !guard) {
+    CUI_DialogEventObj()->boolVal = false;
+    forwardItem(tabViewEventRefuseSelect, index);
+    if (CUI_DialogEventObj()->boolVal || !guard) {
         return;
     }
-    CUI_TabViewDelegateObj()->tabViewWillSelectTabViewItem(this, index);
+    forwardItem(tabViewEventWillSelect, index);
     if (guard) {
         setCurrentIndex(index);
     }
@@ -48,7 +49,11 @@ void TabViewSC::keyPressEvent(QKeyEvent *event)
 
 void TabViewSC::tabInserted(int /*index*/)
 {
-    callSoon(this, [this] { CUI_TabViewDelegateObj()->tabViewDidChangeNumberOfTabViewItems(this); });
+    callSoon(this, [this] {
+        CUI_DialogEventObj()->longVal = count();
+        CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(this, tabViewEventDidChangeCount,
+                                                                      tagFromObject(this));
+    });
 }
 
 void TabViewSC::tabRemoved(int index)
@@ -61,10 +66,18 @@ void TabViewSC::reportSelection(int index)
     if (const QPointer<QWidget> page = widget(index)) {
         callSoon(this, [this, page] {
             if (const int now = indexOf(page); now >= 0) {
-                CUI_TabViewDelegateObj()->tabViewDidSelectTabViewItem(this, now);
+                forwardItem(tabViewEventDidSelect, now);
             }
         });
     }
+}
+
+void TabViewSC::forwardItem(qint64 event, int index)
+{
+    CUI_DialogEventObj()->longVal = index;
+    CUI_DialogEventObj()->viewObj = widget(index);
+    CUI_DialogEventObj()->stringObj = tabText(index).replace(u"&&"_s, u"&"_s);
+    CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(this, event, tagFromObject(this));
 }
 
 TabViewBar::TabViewBar(TabViewSC *tabView) : QTabBar(tabView), m_tabView(tabView) {}
@@ -109,46 +122,9 @@ int TabViewBar::nextEnabled(int step) const
     return index < count() ? index : -1;
 }
 
-CUI_TabViewDelegate *CUI_TabViewDelegateObj()
-{
-    // Deliberately never freed: views may outlive every static object.
-    static auto *const delegate = new CUI_TabViewDelegate;
-    return delegate;
-}
-
 void CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object)
 {
     sendObjectEvent(tabView, event, object);
-}
-
-void CUI_TabViewDelegate::callWithItem(TabViewSC *tabView, qint64 event, int index)
-{
-    CUI_DialogEventObj()->longVal = index;
-    CUI_DialogEventObj()->stringObj = tabView->tabText(index).replace(u"&&"_s, u"&"_s);
-    callUserDefinedOnDialogFunctionWithEvent(tabView, event, tagFromObject(tabView->widget(index)));
-}
-
-bool CUI_TabViewDelegate::tabViewShouldSelectTabViewItem(TabViewSC *tabView, int index)
-{
-    CUI_DialogEventObj()->boolVal = false;
-    callWithItem(tabView, tabViewEventRefuseSelect, index);
-    return !CUI_DialogEventObj()->boolVal;
-}
-
-void CUI_TabViewDelegate::tabViewWillSelectTabViewItem(TabViewSC *tabView, int index)
-{
-    callWithItem(tabView, tabViewEventWillSelect, index);
-}
-
-void CUI_TabViewDelegate::tabViewDidSelectTabViewItem(TabViewSC *tabView, int index)
-{
-    callWithItem(tabView, tabViewEventDidSelect, index);
-}
-
-void CUI_TabViewDelegate::tabViewDidChangeNumberOfTabViewItems(TabViewSC *tabView)
-{
-    CUI_DialogEventObj()->longVal = tabView->count();
-    callUserDefinedOnDialogFunctionWithEvent(tabView, tabViewEventDidChangeCount, 0);
 }
 
 namespace {
@@ -159,40 +135,37 @@ QString plainLabel(QString label)
     return label.replace(u'&', u"&&"_s);
 }
 
-TabViewSC *tabViewWithTag(Tag tag)
-{
-    return qobject_cast<TabViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTabView"_s));
-}
-
 } // namespace
 
 void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
 {
-    auto *const view = statementView<TabViewSC>(tag, rect, [](TabViewSC *) {});
+    auto *const view = statementView<TabViewSC>(tag, rect);
     for (int index = 0; view && index < labels.size(); ++index) {
         if (index < view->count()) {
             view->setTabText(index, plainLabel(labels.at(index)));
         } else {
-            view->addTab(new QWidget, plainLabel(labels.at(index)));
+            auto *const page = new QWidget;
+            setObjectWindowTag(page, objectWindowTag(view));
+            view->addTab(page, plainLabel(labels.at(index)));
         }
     }
 }
 
 QWidget *TabViewPage(Tag tag, qint64 index)
 {
-    const TabViewSC *const view = tabViewWithTag(tag);
+    const auto *const view = viewOfClass<TabViewSC>(tag);
     return view ? view->widget(saturatedTo<int>(index)) : nullptr;
 }
 
 qint64 TabViewSelectedIndex(Tag tag)
 {
-    const TabViewSC *const view = tabViewWithTag(tag);
+    const auto *const view = viewOfClass<TabViewSC>(tag);
     return view ? view->currentIndex() : -1;
 }
 
 void TabViewSelectIndex(Tag tag, qint64 index)
 {
-    if (TabViewSC *const view = tabViewWithTag(tag)) {
+    if (auto *const view = viewOfClass<TabViewSC>(tag)) {
         view->setCurrentIndex(saturatedTo<int>(index));
     }
 }

@@ -1,29 +1,39 @@
 #include <tetrad/controls/table_view.h>
 
 #include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include "runtime/controls/views/item_view_keys.h"
 #include "runtime/controls/views/pixel_answer.h"
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
+#include "runtime/controls/views/selection_gate.h"
 #include <tetrad/events/event_codes.h>
 
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMouseEvent>
 
 #include <algorithm>
-#include <limits>
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-TableViewSC *tableViewWithTag(Tag tag)
+void setRow(int row)
 {
-    return qobject_cast<TableViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTableView"_s));
+    CUI_DialogEventObj()->longVal = row;
+}
+
+void setColumn(int column)
+{
+    CUI_DialogEventObj()->tableColumnObj = column;
+}
+
+void setCell(int row, int column)
+{
+    setRow(row);
+    setColumn(column);
+}
+
+void forward(TableViewSC *tableView, qint64 event)
+{
+    CUI_TableViewDelegate::forwardEvent(tableView, event, tagFromObject(tableView));
 }
 
 } // namespace
@@ -35,15 +45,22 @@ TableViewSC::TableViewSC(QWidget *parent) : QTableWidget(parent)
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
-        callSoon(this, [this, column] { CUI_TableViewDelegateObj()->tableViewDidClickTableColumn(this, column); });
+        callSoon(this, [this, column] {
+            setColumn(column);
+            forward(this, tableViewEventColumnClicked);
+        });
     });
     connect(this, &QTableWidget::cellChanged, this, &TableViewSC::reportEdit);
+    m_gate = new SelectionGate(this, [this](const QModelIndex &item) {
+        setRow(item.row());
+        return answersYes(this, tableViewEventRefuseSelectRow);
+    });
 }
 
 void TableViewSC::reloadData()
 {
     const QPointer<TableViewSC> guard(this);
-    const int rows = CUI_TableViewDelegateObj()->numberOfRowsInTableView(this);
+    const int rows = countAnswer(this, tableViewEventRowCount);
     if (guard) {
         setRowCount(rows);
     }
@@ -55,11 +72,22 @@ void TableViewSC::reloadData()
     }
 }
 
+int TableViewSC::selectedRow() const
+{
+    return selectionModel()->hasSelection() ? selectionModel()->selectedIndexes().constFirst().row() : -1;
+}
+
 void TableViewSC::reloadHeader(int column)
 {
     const QPointer<TableViewSC> guard(this);
-    const QFont font = CUI_TableViewDelegateObj()->tableHeaderFont(this, column);
-    const QColor color = guard ? CUI_TableViewDelegateObj()->tableHeaderTextColor(this, column) : QColor();
+    setColumn(column);
+    const QFont font = answerTo(this, tableHeaderEventFont, &CUI_DialogEvent::fontObj, horizontalHeader()->font());
+    if (!guard) {
+        return;
+    }
+    setColumn(column);
+    const QColor preset = palette().color(QPalette::ButtonText);
+    const QColor color = answerTo(this, tableHeaderEventTextColor, &CUI_DialogEvent::colorObj, preset);
     if (QTableWidgetItem *const item = guard ? horizontalHeaderItem(column) : nullptr) {
         item->setFont(font);
         item->setForeground(color);
@@ -68,16 +96,21 @@ void TableViewSC::reloadHeader(int column)
 
 void TableViewSC::reloadRow(int row)
 {
-    CUI_TableViewDelegate *const delegate = CUI_TableViewDelegateObj();
     const QPointer<TableViewSC> guard(this);
-    const double height = delegate->tableViewHeightOfRow(this, row);
+    setRow(row);
+    const double preset = rowHeight(row);
+    const double height = answerTo(this, tableViewEventRowHeight, &CUI_DialogEvent::doubleVal, preset);
     if (guard) {
         setRowHeight(row, wholePixels(height));
     }
     for (int column = 0; guard && column < columnCount(); ++column) {
-        const QVariant value = delegate->tableViewObjectValue(this, row, column);
-        const bool edits = guard && delegate->tableViewShouldEdit(this, row, column);
-        QWidget *const view = guard ? delegate->tableViewViewForCell(this, row, column) : nullptr;
+        setCell(row, column);
+        const QVariant value = answerTo(this, tableViewEventValue, &CUI_DialogEvent::object, QVariant());
+        setCell(row, column);
+        const bool edits = guard && answersYes(this, tableViewEventShouldEdit);
+        setCell(row, column);
+        const QPointer<QObject> none;
+        const auto view = guard ? answerTo(this, tableViewEventViewForCell, &CUI_DialogEvent::viewObj, none) : none;
         if (!guard || row >= rowCount()) {
             return;
         }
@@ -87,7 +120,7 @@ void TableViewSC::reloadRow(int row)
         item->setFlags(item->flags().setFlag(Qt::ItemIsEditable, edits));
         setItem(row, column, item);
         if (view != cellWidget(row, column)) {
-            setCellWidget(row, column, view);
+            setCellWidget(row, column, qobject_cast<QWidget *>(view));
         }
         m_isReloading = false;
     }
@@ -101,42 +134,20 @@ void TableViewSC::paintEvent(QPaintEvent *event)
     QTableWidget::paintEvent(event);
 }
 
-// Whether the row may become the current one; false also when the question was answered by deleting
-// the view.
-bool TableViewSC::maySelect(int row)
-{
-    const QPointer<TableViewSC> guard(this);
-    return row < 0 || selectionModel()->isRowSelected(row, QModelIndex()) ||
-           (CUI_TableViewDelegateObj()->tableViewShouldSelectRow(this, row) && guard);
-}
-
-void TableViewSC::mousePressEvent(QMouseEvent *event)
-{
-    if (maySelect(rowAt(event->position().toPoint().y()))) {
-        QTableWidget::mousePressEvent(event);
-    }
-}
-
 void TableViewSC::keyPressEvent(QKeyEvent *event)
 {
-    const int action = itemViewCursorAction(event);
-    if (action >= 0) {
-        const QModelIndex target = moveCursor(CursorAction(action), event->modifiers());
-        if (maySelect(target.row())) {
-            QTableWidget::keyPressEvent(event);
-        }
-    } else if (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
-               event->modifiers() & Qt::ControlModifier) {
+    if (m_gate->letsKey(event)) {
         QTableWidget::keyPressEvent(event);
-    } else {
-        event->ignore();
     }
 }
 
 void TableViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTableWidget::selectionChanged(selected, deselected);
-    callSoon(this, [this] { CUI_TableViewDelegateObj()->tableViewSelectionDidChange(this); });
+    callSoon(this, [this] {
+        setRow(selectedRow());
+        forward(this, tableViewEventSelectionChanged);
+    });
 }
 
 void TableViewSC::reportEdit(int row, int column)
@@ -146,15 +157,10 @@ void TableViewSC::reportEdit(int row, int column)
     }
     const QVariant value = item(row, column)->data(Qt::EditRole);
     callSoon(this, [this, value, row, column] {
-        CUI_TableViewDelegateObj()->tableViewSetObjectValue(this, value, row, column);
+        setCell(row, column);
+        CUI_DialogEventObj()->object = value;
+        forward(this, tableViewEventDidEdit);
     });
-}
-
-CUI_TableViewDelegate *CUI_TableViewDelegateObj()
-{
-    // Deliberately never freed: views may outlive every static object.
-    static auto *const delegate = new CUI_TableViewDelegate;
-    return delegate;
 }
 
 qint64 CUI_TableViewDelegate::forwardEvent(TableViewSC *tableView, qint64 event, Tag object)
@@ -162,99 +168,9 @@ qint64 CUI_TableViewDelegate::forwardEvent(TableViewSC *tableView, qint64 event,
     return forwardDelegateEvent(tableView, event, object);
 }
 
-namespace {
-
-CUI_DialogEvent *recordOfCell(int row, int column)
-{
-    CUI_DialogEvent *const record = CUI_DialogEventObj();
-    record->longVal = row;
-    record->tableColumnObj = column;
-    return record;
-}
-
-} // namespace
-
-int CUI_TableViewDelegate::numberOfRowsInTableView(TableViewSC *tableView)
-{
-    CUI_DialogEventObj()->longVal = 0;
-    forwardEvent(tableView, tableViewEventRowCount, 0);
-    return int(std::clamp<qint64>(CUI_DialogEventObj()->longVal, 0, std::numeric_limits<int>::max()));
-}
-
-QVariant CUI_TableViewDelegate::tableViewObjectValue(TableViewSC *tableView, int row, int column)
-{
-    recordOfCell(row, column)->object = QVariant();
-    forwardEvent(tableView, tableViewEventValue, 0);
-    return CUI_DialogEventObj()->object;
-}
-
-bool CUI_TableViewDelegate::tableViewShouldEdit(TableViewSC *tableView, int row, int column)
-{
-    recordOfCell(row, column)->boolVal = false;
-    forwardEvent(tableView, tableViewEventShouldEdit, 0);
-    return CUI_DialogEventObj()->boolVal;
-}
-
-QWidget *CUI_TableViewDelegate::tableViewViewForCell(TableViewSC *tableView, int row, int column)
-{
-    recordOfCell(row, column)->viewObj = nullptr;
-    forwardEvent(tableView, tableViewEventViewForCell, 0);
-    return qobject_cast<QWidget *>(CUI_DialogEventObj()->viewObj);
-}
-
-double CUI_TableViewDelegate::tableViewHeightOfRow(TableViewSC *tableView, int row)
-{
-    CUI_DialogEventObj()->longVal = row;
-    CUI_DialogEventObj()->doubleVal = tableView->rowHeight(row);
-    forwardEvent(tableView, tableViewEventRowHeight, 0);
-    return CUI_DialogEventObj()->doubleVal;
-}
-
-bool CUI_TableViewDelegate::tableViewShouldSelectRow(TableViewSC *tableView, int row)
-{
-    CUI_DialogEventObj()->longVal = row;
-    CUI_DialogEventObj()->boolVal = false;
-    forwardEvent(tableView, tableViewEventRefuseSelectRow, 0);
-    return !CUI_DialogEventObj()->boolVal;
-}
-
-void CUI_TableViewDelegate::tableViewSetObjectValue(TableViewSC *tableView, const QVariant &value, int row, int column)
-{
-    recordOfCell(row, column)->object = value;
-    forwardEvent(tableView, tableViewEventDidEdit, 0);
-}
-
-void CUI_TableViewDelegate::tableViewSelectionDidChange(TableViewSC *tableView)
-{
-    CUI_DialogEventObj()->longVal = tableView->selectedItems().isEmpty() ? -1 : tableView->currentRow();
-    forwardEvent(tableView, tableViewEventSelectionChanged, 0);
-}
-
-void CUI_TableViewDelegate::tableViewDidClickTableColumn(TableViewSC *tableView, int column)
-{
-    CUI_DialogEventObj()->tableColumnObj = column;
-    forwardEvent(tableView, tableViewEventColumnClicked, 0);
-}
-
-QFont CUI_TableViewDelegate::tableHeaderFont(TableViewSC *tableView, int column)
-{
-    CUI_DialogEventObj()->tableColumnObj = column;
-    CUI_DialogEventObj()->fontObj = tableView->horizontalHeader()->font();
-    forwardEvent(tableView, tableHeaderEventFont, 0);
-    return CUI_DialogEventObj()->fontObj;
-}
-
-QColor CUI_TableViewDelegate::tableHeaderTextColor(TableViewSC *tableView, int column)
-{
-    CUI_DialogEventObj()->tableColumnObj = column;
-    CUI_DialogEventObj()->colorObj = tableView->palette().color(QPalette::ButtonText);
-    forwardEvent(tableView, tableHeaderEventTextColor, 0);
-    return CUI_DialogEventObj()->colorObj;
-}
-
 qint64 TableRowViewSC::forwardEvent(qint64 event)
 {
-    return CUI_TableViewDelegateObj()->forwardEvent(m_tableView, event, 0);
+    return CUI_TableViewDelegate::forwardEvent(m_tableView, event, tagFromObject(m_tableView));
 }
 
 void TableRowViewSC::drawBackground()
@@ -279,15 +195,15 @@ void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect)
 
 void TableViewReloadData(Tag tag)
 {
-    if (TableViewSC *const view = tableViewWithTag(tag)) {
+    if (auto *const view = viewOfClass<TableViewSC>(tag)) {
         view->reloadData();
     }
 }
 
 qint64 TableViewSelectedRow(Tag tag)
 {
-    const TableViewSC *const view = tableViewWithTag(tag);
-    return view && !view->selectedItems().isEmpty() ? view->currentRow() : -1;
+    const auto *const view = viewOfClass<TableViewSC>(tag);
+    return view ? view->selectedRow() : -1;
 }
 
 } // namespace tetrad

@@ -1,9 +1,8 @@
 #include <tetrad/controls/text_view.h>
 
 #include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QAction>
@@ -66,13 +65,22 @@ QString typedBy(const QKeyEvent *event)
     return isText && !isCommand ? text : QString();
 }
 
+EventRange selectionOf(const QTextCursor &cursor)
+{
+    return {quint64(cursor.selectionStart()), quint64(cursor.selectionEnd() - cursor.selectionStart())};
+}
+
+void forward(TextViewSC *textView, qint64 event)
+{
+    CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(textView, event, tagFromObject(textView));
+}
+
 } // namespace
 
 TextViewSC::TextViewSC(QWidget *parent) : QPlainTextEdit(parent)
 {
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { tellSoon(textViewEventDidChange); });
-    connect(this, &QPlainTextEdit::selectionChanged, this,
-            [this] { callSoon(this, [this] { CUI_TextViewDelegateObj()->textViewDidChangeSelection(this); }); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { reportSoon(textViewEventDidChange); });
+    connect(this, &QPlainTextEdit::selectionChanged, this, [this] { reportSoon(textViewEventSelectionChanged); });
 }
 
 void TextViewSC::cut()
@@ -143,36 +151,34 @@ void TextViewSC::contextMenuEvent(QContextMenuEvent *event)
 void TextViewSC::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    tellSoon(textViewEventDidBeginEditing);
+    reportSoon(textViewEventDidBeginEditing);
 }
 
 void TextViewSC::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    tellSoon(textViewEventDidEndEditing);
+    reportSoon(textViewEventDidEndEditing);
 }
 
 // False also when the question was answered by deleting the view.
 bool TextViewSC::mayReplace(const QTextCursor &replaced, const QString &text)
 {
     const QPointer<TextViewSC> guard(this);
-    const int location = replaced.selectionStart();
-    const int length = replaced.selectionEnd() - location;
-    return CUI_TextViewDelegateObj()->textViewShouldChangeText(this, location, length, text) && guard;
+    CUI_DialogEventObj()->boolVal = false;
+    CUI_DialogEventObj()->rangeVal = selectionOf(replaced);
+    CUI_DialogEventObj()->stringObj = text;
+    forward(this, textViewEventRefuseChange);
+    return !CUI_DialogEventObj()->boolVal && guard;
 }
 
-void TextViewSC::tellSoon(qint64 event)
+void TextViewSC::reportSoon(qint64 event)
 {
     callSoon(this, [this, event] {
-        CUI_TextViewDelegateObj()->callUserDefinedOnDialogFunctionWithEvent(this, event, tagFromObject(this));
+        if (event == textViewEventSelectionChanged) {
+            CUI_DialogEventObj()->rangeVal = selectionOf(textCursor());
+        }
+        forward(this, event);
     });
-}
-
-CUI_TextViewDelegate *CUI_TextViewDelegateObj()
-{
-    // Deliberately never freed: views may outlive every static object.
-    static auto *const delegate = new CUI_TextViewDelegate;
-    return delegate;
 }
 
 void CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object)
@@ -180,37 +186,9 @@ void CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TextViewSC *
     sendObjectEvent(textView, event, object);
 }
 
-bool CUI_TextViewDelegate::textViewShouldChangeText(TextViewSC *textView, int location, int length,
-                                                    const QString &replacement)
-{
-    CUI_DialogEvent *const record = CUI_DialogEventObj();
-    record->boolVal = false;
-    record->rangeVal = {quint64(location), quint64(length)};
-    record->stringObj = replacement;
-    callUserDefinedOnDialogFunctionWithEvent(textView, textViewEventRefuseChange, tagFromObject(textView));
-    return !record->boolVal;
-}
-
-void CUI_TextViewDelegate::textViewDidChangeSelection(TextViewSC *textView)
-{
-    const QTextCursor cursor = textView->textCursor();
-    CUI_DialogEventObj()->rangeVal = {quint64(cursor.selectionStart()),
-                                      quint64(cursor.selectionEnd() - cursor.selectionStart())};
-    callUserDefinedOnDialogFunctionWithEvent(textView, textViewEventSelectionChanged, tagFromObject(textView));
-}
-
-namespace {
-
-TextViewSC *textViewWithTag(Tag tag)
-{
-    return qobject_cast<TextViewSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTextView"_s));
-}
-
-} // namespace
-
 void CUI_TextView(Tag tag, const QString &text, const QRectF &rect)
 {
-    auto *const view = statementView<TextViewSC>(tag, rect, [](TextViewSC *) {});
+    auto *const view = statementView<TextViewSC>(tag, rect);
     if (view && !text.isNull()) {
         view->setPlainText(text);
     }
@@ -218,7 +196,7 @@ void CUI_TextView(Tag tag, const QString &text, const QRectF &rect)
 
 QString TextViewString(Tag tag)
 {
-    const TextViewSC *const view = textViewWithTag(tag);
+    const auto *const view = viewOfClass<TextViewSC>(tag);
     return view ? view->toPlainText() : QString();
 }
 

@@ -1,10 +1,8 @@
 #include <tetrad/controls/token_field.h>
 
 #include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include <tetrad/controls/control_target.h>
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QAbstractItemView>
@@ -35,6 +33,12 @@ QStringList wordsOf(const QString &text)
     return words;
 }
 
+QStringList answeredWords(TokenFieldSC *tokenField, qint64 event, const QStringList &preset)
+{
+    const QVariantList words = QVariant(preset).toList();
+    return QVariant(answerTo(tokenField, event, &CUI_DialogEvent::arrayObj, words)).toStringList();
+}
+
 } // namespace
 
 TokenFieldSC::TokenFieldSC(QWidget *parent) : QLineEdit(parent)
@@ -53,6 +57,11 @@ void TokenFieldSC::setTokens(const QStringList &tokens)
 {
     m_tokens = tokens;
     setText(tokens.isEmpty() ? QString() : QString(tokens.join(separator()) + separator()));
+}
+
+void TokenFieldSC::setTokenText(const QString &text)
+{
+    setTokens(wordsOf(text));
 }
 
 void TokenFieldSC::focusOutEvent(QFocusEvent *event)
@@ -93,7 +102,7 @@ void TokenFieldSC::finishTokens()
     }
     const QPointer<TokenFieldSC> guard(this);
     if (!added.isEmpty()) {
-        added = CUI_TokenFieldDelegateObj()->tokenFieldShouldAddTokens(this, added);
+        added = answeredWords(this, tokenFieldEventAddTokens, added);
     }
     if (!guard) {
         return;
@@ -102,7 +111,7 @@ void TokenFieldSC::finishTokens()
     const bool changes = tokens != m_tokens;
     setTokens(tokens);
     if (changes) {
-        CUI_TokenFieldDelegateObj()->tokenFieldDidChange(this);
+        answeredWords(this, tokenFieldEventDidChange, m_tokens);
     }
 }
 
@@ -110,8 +119,9 @@ void TokenFieldSC::offerCompletions()
 {
     const QString word = wordBeingTyped();
     const QPointer<TokenFieldSC> guard(this);
+    CUI_DialogEventObj()->stringObj = word;
     const QStringList offers =
-        word.isEmpty() ? QStringList() : CUI_TokenFieldDelegateObj()->tokenFieldCompletionsForSubstring(this, word);
+        word.isEmpty() ? QStringList() : answeredWords(this, tokenFieldEventCompletions, QStringList());
     if (!guard) {
         return;
     }
@@ -135,43 +145,14 @@ QString TokenFieldSC::wordBeingTyped() const
     return word.startsWith(u' ') ? word.mid(1) : word;
 }
 
-CUI_TokenFieldDelegate *CUI_TokenFieldDelegateObj()
-{
-    // Deliberately never freed: views may outlive every static object.
-    static auto *const delegate = new CUI_TokenFieldDelegate;
-    return delegate;
-}
-
 qint64 CUI_TokenFieldDelegate::forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object)
 {
     return forwardDelegateEvent(tokenField, event, object);
 }
 
-QStringList CUI_TokenFieldDelegate::tokenFieldCompletionsForSubstring(TokenFieldSC *tokenField,
-                                                                      const QString &substring)
-{
-    CUI_DialogEventObj()->stringObj = substring;
-    CUI_DialogEventObj()->arrayObj.clear();
-    forwardEvent(tokenField, tokenFieldEventCompletions, tagFromObject(tokenField));
-    return QVariant(CUI_DialogEventObj()->arrayObj).toStringList();
-}
-
-QStringList CUI_TokenFieldDelegate::tokenFieldShouldAddTokens(TokenFieldSC *tokenField, const QStringList &tokens)
-{
-    CUI_DialogEventObj()->arrayObj = QVariant(tokens).toList();
-    forwardEvent(tokenField, tokenFieldEventAddTokens, tagFromObject(tokenField));
-    return QVariant(CUI_DialogEventObj()->arrayObj).toStringList();
-}
-
-void CUI_TokenFieldDelegate::tokenFieldDidChange(TokenFieldSC *tokenField)
-{
-    CUI_DialogEventObj()->arrayObj = QVariant(tokenField->tokens()).toList();
-    forwardEvent(tokenField, tokenFieldEventDidChange, tagFromObject(tokenField));
-}
-
 void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect)
 {
-    auto *const field = statementView<TokenFieldSC>(tag, rect, [](TokenFieldSC *) {});
+    auto *const field = statementView<TokenFieldSC>(tag, rect);
     if (field && !tokens.isEmpty()) {
         field->setTokens(tokens);
     }
@@ -179,7 +160,7 @@ void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect)
 
 QStringList TokenFieldTokens(Tag tag)
 {
-    const auto *const field = qobject_cast<TokenFieldSC *>(CUI_ValidateViewKindOfClass(tag, u"NSTokenField"_s));
+    const auto *const field = viewOfClass<TokenFieldSC>(tag);
     return field ? field->tokens() : QStringList();
 }
 

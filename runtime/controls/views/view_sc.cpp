@@ -1,27 +1,27 @@
 #include <tetrad/controls/view_sc.h>
 
 #include "runtime/controls/dispatch/event_site.h"
-#include "runtime/controls/dispatch/view_events_relay.h"
+#include "runtime/controls/events/current_event.h"
+#include "runtime/controls/events/view_relay.h"
+#include "runtime/controls/lookup/view_tag.h"
 #include "runtime/controls/statements/view_statement.h"
 
-#include <QContextMenuEvent>
 #include <QFocusEvent>
-#include <QMenu>
 #include <QMimeData>
+#include <QPaintEvent>
 
 #include <algorithm>
-#include <memory>
 
 namespace tetrad {
 
 namespace {
 
 // While Tab looks for a view that accepts the keyboard: where the search began, and whether a view that
-// refused is just passing it on.
+// refused is passing it on.
 QPointer<ViewSC> searchStart;
 bool isPassingOn = false;
 
-// Whether the platform chose the view by itself: by Tab, or as the first of a window that became active.
+// Whether the platform chose the view: by Tab, or as the first of a window that became active.
 bool isPlatformsChoice(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ActiveWindowFocusReason;
@@ -29,21 +29,11 @@ bool isPlatformsChoice(Qt::FocusReason reason)
 
 } // namespace
 
-ViewSC::ViewSC(QWidget *parent) : QWidget(parent)
+ViewSC::ViewSC(QWidget *parent) : EventView(parent)
 {
     setMouseTracking(true);
-    // A click asks first, so the platform must not give the focus by itself.
+    // A click sends the question first, so the platform must not give the focus on its own.
     setFocusPolicy(Qt::TabFocus);
-}
-
-QMenu *ViewSC::menu() const
-{
-    return m_menu;
-}
-
-void ViewSC::setMenu(QMenu *menu)
-{
-    m_menu = menu;
 }
 
 void ViewSC::setDraggedTypes(const QStringList &types)
@@ -54,7 +44,33 @@ void ViewSC::setDraggedTypes(const QStringList &types)
 
 void ViewSC::awakeFromNib()
 {
-    CUI_ViewSubclassAwakeFromNib(this);
+    CUI_ViewSubclassAwakeFromNib(source());
+}
+
+ReportingView ViewSC::source()
+{
+    return {this, CUI_ViewTag(this), CUI_ViewWindowTag(this)};
+}
+
+bool ViewSC::acceptsDrag(const QMimeData &dragged) const
+{
+    return std::any_of(m_draggedTypes.begin(), m_draggedTypes.end(),
+                       [&dragged](const QString &type) { return dragged.hasFormat(type); });
+}
+
+bool ViewSC::report(QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress && !hasFocus()) {
+        const QPointer<ViewSC> guard(this);
+        const bool accepts = CUI_ViewSubclassAcceptsFirstResponder(source());
+        if (!guard) {
+            return true;
+        }
+        if (accepts) {
+            setFocus(Qt::MouseFocusReason);
+        }
+    }
+    return EventView::report(event);
 }
 
 bool ViewSC::event(QEvent *event)
@@ -62,47 +78,25 @@ bool ViewSC::event(QEvent *event)
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::Resize:
-        callSoon(this, [this] { CUI_ViewSubclassResetCursorRects(this); });
-        return QWidget::event(event);
+        callSoon(this, [this] { CUI_ViewSubclassResetCursorRects(source()); });
+        break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
-        callSoon(this, [this] { CUI_ViewSubclassAppearanceChanged(this); });
-        return QWidget::event(event);
-    case QEvent::Enter:
-    case QEvent::Leave:
-        reportSoon(event);
-        return QWidget::event(event);
-    case QEvent::MouseButtonPress:
-        return !survivesFocusQuestion() || CUI_ViewSubclassEvent(this, event) || QWidget::event(event);
+        callSoon(this, [this] { CUI_ViewSubclassAppearanceChanged(source()); });
+        break;
     default:
-        return CUI_ViewSubclassEvent(this, event) || QWidget::event(event);
+        break;
     }
-}
-
-// The platform goes on working on a view that the mouse entered or left, so the program, which may delete
-// it, is told of a copy.
-void ViewSC::reportSoon(const QEvent *event)
-{
-    const std::shared_ptr<QEvent> copy(event->clone());
-    callSoon(this, [this, copy] { CUI_ViewSubclassEvent(this, copy.get()); });
-}
-
-bool ViewSC::survivesFocusQuestion()
-{
-    const QPointer<ViewSC> guard(this);
-    if (!hasFocus() && CUI_ViewSubclassAcceptsFirstResponder(this)) {
-        setFocus(Qt::MouseFocusReason);
-    }
-    return guard;
+    return EventView::event(event);
 }
 
 void ViewSC::paintEvent(QPaintEvent *event)
 {
-    const QRect dirtyRect = event->rect();
-    if (CUI_ViewSubclassWantsUpdateLayer(this)) {
-        CUI_ViewSubclassUpdateLayer(this);
+    const CurrentEventScope scope(event);
+    if (CUI_ViewSubclassWantsUpdateLayer(source())) {
+        CUI_ViewSubclassUpdateLayer(source());
     } else {
-        CUI_ViewSubclassDrawRect(this, dirtyRect);
+        CUI_ViewSubclassDrawRect(source(), event->rect());
     }
 }
 
@@ -125,7 +119,7 @@ void ViewSC::focusInEvent(QFocusEvent *event)
 void ViewSC::confirmFocus(bool forward)
 {
     const QPointer<ViewSC> guard(this);
-    if (!hasFocus() || CUI_ViewSubclassAcceptsFirstResponder(this) || !guard || !hasFocus()) {
+    if (!hasFocus() || CUI_ViewSubclassAcceptsFirstResponder(source()) || !guard || !hasFocus()) {
         return;
     }
     isPassingOn = true;
@@ -136,41 +130,9 @@ void ViewSC::confirmFocus(bool forward)
     }
 }
 
-void ViewSC::contextMenuEvent(QContextMenuEvent *event)
-{
-    const QPoint position = event->globalPos();
-    QMenu *menu = m_menu;
-    if (CUI_ViewSubclassMenuForEvent(this, event, &menu)) {
-        return;
-    }
-    event->setAccepted(menu);
-    if (menu) {
-        menu->popup(position);
-    }
-}
-
-void ViewSC::dragEnterEvent(QDragEnterEvent *event)
-{
-    const auto isOffered = [event](const QString &type) { return event->mimeData()->hasFormat(type); };
-    if (std::any_of(m_draggedTypes.begin(), m_draggedTypes.end(), isOffered)) {
-        event->acceptProposedAction();
-        CUI_ViewSubclassDraggingEntered(this, event);
-    }
-}
-
-void ViewSC::dragLeaveEvent(QDragLeaveEvent *event)
-{
-    CUI_ViewSubclassDraggingExited(this, event);
-}
-
-void ViewSC::dropEvent(QDropEvent *event)
-{
-    event->setAccepted(CUI_ViewSubclassPerformDragOperation(this, event));
-}
-
 void CUI_ViewSubclass(Tag tag, const QRectF &rect)
 {
-    statementView<ViewSC>(tag, rect, [](ViewSC *) {});
+    statementView<ViewSC>(tag, rect);
 }
 
 } // namespace tetrad

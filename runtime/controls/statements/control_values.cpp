@@ -1,0 +1,142 @@
+#include <tetrad/controls/control_statements.h>
+
+#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/strings/saturate.h"
+#include <tetrad/controls/segmented_control.h>
+#include <tetrad/controls/token_field.h>
+#include <tetrad/controls/view_lookup.h>
+#include <tetrad/strings/numbers.h>
+
+#include <QAbstractButton>
+#include <QDateEdit>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QSignalBlocker>
+#include <QSlider>
+
+#include <algorithm>
+#include <iterator>
+
+namespace tetrad {
+
+namespace {
+
+// The properties that hold a control's text, number and items; null without one.
+struct ValueProperties
+{
+    const QMetaObject *controlClass;
+    const char *text;
+    const char *number;
+    const char *items = nullptr;
+};
+
+// A derived class comes before its base.
+const ValueProperties valueTable[] = {
+    {&QAbstractButton::staticMetaObject, "text", "checked"},
+    {&ComboBoxSC::staticMetaObject, "currentText", "currentIndex"},
+    {&QComboBox::staticMetaObject, "currentText", "currentIndex"},
+    {&QLabel::staticMetaObject, "text", "text"},
+    {&TokenFieldSC::staticMetaObject, "tokenText", "tokenText", "tokens"},
+    {&QLineEdit::staticMetaObject, "text", "text"},
+    {&QAbstractSlider::staticMetaObject, nullptr, "value"},
+    {&QDoubleSpinBox::staticMetaObject, "cleanText", "value"},
+    {&QProgressBar::staticMetaObject, "text", "value"},
+    {&QDateEdit::staticMetaObject, "date", nullptr},
+    {&SegmentedControlSC::staticMetaObject, nullptr, "selectedSegment", "labels"},
+};
+
+using Property = const char *ValueProperties::*;
+
+// A null name when there is none.
+const char *propertyName(const QObject *control, Property property)
+{
+    const auto row = std::find_if(std::begin(valueTable), std::end(valueTable), [control](const ValueProperties &each) {
+        return control && each.controlClass->cast(control);
+    });
+    return row == std::end(valueTable) ? nullptr : row->*property;
+}
+
+// A progress indicator is a view with a value, though it is no control.
+QWidget *viewWithValue(Tag tag)
+{
+    auto *const bar = qobject_cast<QProgressBar *>(CUI_ViewWithTag(tag));
+    return bar ? bar : ControlWithTag(tag);
+}
+
+QVariant value(Tag tag, Property property)
+{
+    const QWidget *const control = viewWithValue(tag);
+    const char *const name = propertyName(control, property);
+    return name ? control->property(name) : QVariant();
+}
+
+void setValue(Tag tag, Property property, const QVariant &value)
+{
+    QWidget *const control = viewWithValue(tag);
+    if (const char *const name = propertyName(control, property)) {
+        const QSignalBlocker blocker(control);
+        control->setProperty(name, value);
+    }
+}
+
+} // namespace
+
+QString ControlStringValue(Tag tag)
+{
+    return value(tag, &ValueProperties::text).toString();
+}
+
+void ControlSetStringValue(Tag tag, const QString &text)
+{
+    setValue(tag, &ValueProperties::text, text);
+}
+
+double ControlDoubleValue(Tag tag)
+{
+    const QVariant number = value(tag, &ValueProperties::number);
+    return number.typeId() == QMetaType::QString ? StringDoubleValue(number.toString()) : number.toDouble();
+}
+
+void ControlSetDoubleValue(Tag tag, double value)
+{
+    setValue(tag, &ValueProperties::number, value);
+}
+
+qint64 ControlIntegerValue(Tag tag)
+{
+    const QVariant number = value(tag, &ValueProperties::number);
+    return number.typeId() == QMetaType::QString ? StringIntegerValue(number.toString())
+                                                 : saturatedTo<qint64>(number.toDouble());
+}
+
+void ControlSetIntegerValue(Tag tag, qint64 value)
+{
+    setValue(tag, &ValueProperties::number, saturatedTo<int>(value));
+}
+
+QStringList ControlItems(Tag tag)
+{
+    QStringList items = value(tag, &ValueProperties::items).toStringList();
+    const auto *const box = qobject_cast<QComboBox *>(CUI_ViewWithTag(tag));
+    for (int index = 0; box && index < box->count(); ++index) {
+        items << box->itemText(index);
+    }
+    return items;
+}
+
+void ControlSetItems(Tag tag, const QStringList &items)
+{
+    auto *const box = qobject_cast<QComboBox *>(CUI_ViewWithTag(tag));
+    if (!box) {
+        setValue(tag, &ValueProperties::items, items);
+        return;
+    }
+    const QSignalBlocker blocker(box);
+    box->clear();
+    box->addItems(items);
+    box->setCurrentIndex(-1);
+}
+
+} // namespace tetrad

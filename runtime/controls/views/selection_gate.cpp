@@ -1,0 +1,113 @@
+#include "runtime/controls/views/selection_gate.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTreeView>
+
+#include <utility>
+
+namespace tetrad {
+
+namespace {
+
+// Lends what the views keep protected.
+struct Lender : QAbstractItemView
+{
+    // Invalid when the key moves nothing.
+    static std::pair<bool, QModelIndex> target(QAbstractItemView *view, const QKeyEvent &event)
+    {
+        static constexpr std::pair<Qt::Key, CursorAction> actions[] = {
+            {Qt::Key_Up, MoveUp},     {Qt::Key_Down, MoveDown}, {Qt::Key_Left, MoveLeft},     {Qt::Key_Right, MoveRight},
+            {Qt::Key_Home, MoveHome}, {Qt::Key_End, MoveEnd},   {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
+        };
+        for (const auto &[key, action] : actions) {
+            if (event.key() == key) {
+                return {true, (view->*(&Lender::moveCursor))(action, event.modifiers())};
+            }
+        }
+        return {false, {}};
+    }
+};
+
+bool edits(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
+           event.modifiers() & Qt::ControlModifier;
+}
+
+// In an outline Left and Right first of all open and close.
+bool opensOrCloses(const QAbstractItemView *view, const QKeyEvent &event)
+{
+    const auto *const tree = qobject_cast<const QTreeView *>(view);
+    return tree && (tree->isExpanded(tree->currentIndex()) ? event.key() == Qt::Key_Left : event.key() == Qt::Key_Right);
+}
+
+} // namespace
+
+SelectionGate::SelectionGate(QAbstractItemView *view, Refuses refuses)
+    : QObject(view), m_view(view), m_refuses(std::move(refuses))
+{
+    view->viewport()->installEventFilter(this);
+}
+
+bool SelectionGate::letsKey(QKeyEvent *event)
+{
+    const auto [moves, target] = Lender::target(m_view, *event);
+    if (!moves) {
+        event->setAccepted(edits(*event));
+        return event->isAccepted();
+    }
+    return opensOrCloses(m_view, *event) || lets(target);
+}
+
+bool SelectionGate::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *const mouse = static_cast<QMouseEvent *>(event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        return !letsPress(mouse->position().toPoint());
+    case QEvent::MouseMove:
+        return mouse->buttons() & Qt::LeftButton && !letsDrag(mouse->position().toPoint());
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+// False also when the question was answered by deleting or reloading the view.
+bool SelectionGate::lets(const QModelIndex &item)
+{
+    if (!item.isValid() || m_view->selectionModel()->isSelected(item)) {
+        return true;
+    }
+    const QPointer<SelectionGate> guard(this);
+    const QPersistentModelIndex target(item);
+    return !m_refuses(item) && guard && target.isValid();
+}
+
+bool SelectionGate::letsPress(const QPoint &position)
+{
+    m_item = QModelIndex();
+    m_isLet = true;
+    const QModelIndex item = m_view->indexAt(position);
+    // A press on an outline's arrow opens and selects nothing.
+    return !m_view->visualRect(item).contains(position) || letsDrag(position);
+}
+
+// Each item is asked about once, when the mouse comes to it.
+bool SelectionGate::letsDrag(const QPoint &position)
+{
+    const QModelIndex item = m_view->indexAt(position).siblingAtColumn(0);
+    if (!item.isValid() || item == m_item) {
+        return m_isLet;
+    }
+    m_item = item;
+    const QPointer<SelectionGate> guard(this);
+    const bool isLet = lets(item);
+    if (guard) {
+        m_isLet = isLet;
+    }
+    return isLet;
+}
+
+} // namespace tetrad
