@@ -35,6 +35,7 @@ class EventView;
 class FloatingPanel;
 class FormatArgument;
 class ImageViewSC;
+class MDAObj;
 class MainMenu;
 class OutlineItem;
 class OutlineViewSC;

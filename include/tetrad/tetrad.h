@@ -22,6 +22,8 @@
 #include <tetrad/console/console_view.h>
 #include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/control_target.h>
+#include <tetrad/controls/mda.h>
+#include <tetrad/controls/menu_items.h>
 #include <tetrad/controls/outline_view.h>
 #include <tetrad/controls/panels.h>
 #include <tetrad/controls/popovers.h>
@@ -30,6 +32,7 @@
 #include <tetrad/controls/tab_view.h>
 #include <tetrad/controls/table_view.h>
 #include <tetrad/controls/text_view.h>
+#include <tetrad/controls/timers.h>
 #include <tetrad/controls/token_field.h>
 #include <tetrad/controls/toolbar.h>
 #include <tetrad/controls/view_lookup.h>

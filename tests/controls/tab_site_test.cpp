@@ -64,8 +64,11 @@ TEST_F(TabSite, EveryWayOfSelectingIsAskedAboutAndTold)
         EXPECT_EQ(TabViewSelectedIndex(4), 0);
         atEvent = nullptr;
     }
-    tabs->removeTab(2);
+    TabViewRemoveTab(4, 2);
     EXPECT_EQ(takeSiteCalls(), u"1603 4 7 2"_s);
+    TabViewAddTab(4, 99, u"E & F"_s);
+    EXPECT_EQ(takeSiteCalls(), u"1603 4 7 3"_s);
+    EXPECT_EQ(tabs->tabText(2), u"E && F"_s);
 }
 
 TEST_F(TabSite, SurvivesBeingDeletedOrLosingThePage)

@@ -77,6 +77,13 @@ TEST_F(TableSite, ShowsWhatTheProgramAnswers)
             record.viewObj = new QLineEdit;
         }
     };
+    TableViewSelectRow(3, 1);
+    TableViewSetCell(3, 1, 0, u"own"_s);
+    TableViewSetCell(3, 9, 0, u"outside"_s);
+    EXPECT_EQ(TableViewCell(3, TableViewSelectedRow(3), 0), u"own"_s);
+    EXPECT_EQ(takeSiteCalls(), u"1707 3 7 1"_s);
+    TableViewSelectRow(3, -1);
+    EXPECT_EQ(TableViewSelectedRow(3), -1);
     TableViewReloadData(3);
     EXPECT_EQ(m_table->rowCount(), 1);
     EXPECT_TRUE(qobject_cast<QLineEdit *>(m_table->cellWidget(0, 1)));

@@ -1,9 +1,11 @@
 #include "runtime/input/field_formatter.h"
-
+#include "tests/table.h"
 #include <tetrad/input/line_input.h>
 
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
+#include <QTest>
 
 using namespace tetrad;
 using namespace Qt::Literals::StringLiterals;

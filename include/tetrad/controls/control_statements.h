@@ -42,7 +42,7 @@ void CUI_TextLabel(Tag tag, const QString &text, const QRectF &rect);
 void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect);
 /// A number with arrows that change it by `increment`, which also decides how many decimals are shown.
 void CUI_Stepper(Tag tag, double value, double minimum, double maximum, double increment, const QRectF &rect);
-/// How much of something is done. Equal limits mean that nobody knows.
+/// How much of something is done. Equal limits mean that it is unknown.
 void CUI_ProgressIndicator(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect);
 /// The items replace those there; an empty list leaves them (see ControlSetItems).
 void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, const QRectF &rect);
@@ -86,7 +86,7 @@ void ControlSetFormat(Tag tag, const QString &characters, bool pass, quint64 len
 /// the callback out again.
 void ControlSetCallback(Tag tag, ControlCallback callback, void *userData);
 
-/// A combo box, told apart from the pop-up button that it derives from.
+/// A combo box: a class of its own, so that a pop-up button is not taken for one.
 class ComboBoxSC : public QComboBox
 {
     Q_OBJECT

@@ -58,12 +58,11 @@ void ControlSetActionID(Tag tag, qint64 id);
 void sendControlAction(QWidget *control);
 
 /// The same as soon as control is back in the event loop, unless the control is gone by then: for widgets
-/// that still work on themselves when they tell of a change.
+/// that are still working when they report a change.
 void sendControlActionSoon(QWidget *control);
 
 /// The dispatch of what a control's delegate reports: as controlAction, with the event and the object given,
-/// and with the result of whoever was called. The platform event now being delivered, if any, stays
-/// the current one.
+/// and with the result of the function that was called.
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj);
 
 /// The callback that a table, outline or token field may have in place of the dialog function, called with the view's

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/statements/panels.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QColor>
@@ -11,7 +12,7 @@ class QFontDialog;
 namespace tetrad {
 
 /// The program's one colour panel, a floating window without buttons, shown with this colour. Every colour the user
-/// chooses in it is told at once (code 2600; the panel is the object, its tag 0, the window that of the last
+/// chooses in it is reported at once (code 2600; the panel is the object, its tag 0, the window that of the last
 /// statement). Closing hides it.
 QColorDialog *CUI_ColorPanel(const QColor &color);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/split_view.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QColor>
@@ -9,7 +10,7 @@
 namespace tetrad {
 
 /// A view that divides its room among its subviews. It asks the dialog function (codes 1501 to 1513) about every
-/// movement of a divider, tells of it, and lets the program colour, thicken and draw the dividers. A divider's index is
+/// movement of a divider, reports it, and lets the program colour, thicken and draw the dividers. A divider's index is
 /// that of the subview before it, from 0; positions are in pixels from the left or top edge and pass
 /// through single precision.
 class SplitViewSC : public QSplitter
@@ -25,7 +26,7 @@ public:
     int position(int divider) const;
 
     /// Asks the program for the dividers' colour and thickness and which of them to hide, and uses the answers; this
-    /// happens by itself when the view is shown or has moved its dividers.
+    /// happens automatically when the view is shown or has moved its dividers.
     void askAboutDividers();
     /// Invalid: the style's own dividers.
     QColor dividerColor() const { return m_dividerColor; }
@@ -58,7 +59,7 @@ private:
 /// The split view statement. Subviews are put in by SplitViewAddSubview.
 void CUI_SplitView(Tag tag, Qt::Orientation orientation, const QRectF &rect);
 
-/// Both tell the user about a view that is missing and do nothing then. A view moved into a split view takes the room
+/// Both show an alert when a view is missing. A view moved into a split view takes the room
 /// behind those already there.
 void SplitViewAddSubview(Tag tag, Tag subview);
 void SplitViewSetPosition(Tag tag, qint64 position, qint64 divider);

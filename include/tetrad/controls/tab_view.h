@@ -67,7 +67,12 @@ void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect);
 /// The page of a tab, to put views into with ViewAddSubview; null, after an alert when the tab view is missing.
 QWidget *TabViewPage(Tag tag, qint64 index);
 
-/// 0-based; -1 without tabs or, after an alert, without the view.
+/// Each shows an alert when the tab view is missing. Tabs count from 0. A position beyond the last tab adds the tab
+/// behind it; a tab is removed with all that lies in its page.
+void TabViewAddTab(Tag tag, qint64 index, const QString &label);
+void TabViewRemoveTab(Tag tag, qint64 index);
+
+/// -1 without tabs or without the view.
 qint64 TabViewSelectedIndex(Tag tag);
 void TabViewSelectIndex(Tag tag, qint64 index);
 

@@ -69,9 +69,16 @@ private:
 /// in the event loop.
 void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect);
 
-/// Both show an alert when the table is missing.
+/// Each shows an alert when the table is missing. Rows and columns count from 0.
 void TableViewReloadData(Tag tag);
-/// 0-based; -1 for none.
+
+/// -1 when no row is selected; a row outside the table selects none. Setting it is reported (1707) but cannot be refused.
 qint64 TableViewSelectedRow(Tag tag);
+void TableViewSelectRow(Tag tag, qint64 row);
+
+/// What a cell shows, invalid outside the table. Setting it reports no event and lasts until the contents are asked for
+/// again.
+QVariant TableViewCell(Tag tag, qint64 row, qint64 column);
+void TableViewSetCell(Tag tag, qint64 row, qint64 column, const QVariant &value);
 
 } // namespace tetrad

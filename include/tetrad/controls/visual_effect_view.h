@@ -1,5 +1,6 @@
 #pragma once
 
+// Implemented in runtime/controls/views/visual_effect_view.cpp.
 #include <QWidget>
 
 namespace tetrad {

@@ -101,6 +101,15 @@ enum PopoverEvent : qint64 {
     popoverEventShouldDetach = 1307, ///< boolVal: the answer; see PopoverSetAsks
 };
 
+enum MenuEvent : qint64 {
+    menuEventItem = 1400,        ///< tag: the menu; longVal: the item chosen
+    menuEventDisableItem = 1401, ///< tag: the menu, which opens; longVal: an item; boolVal: whether to disable it
+};
+
+enum TimerEvent : qint64 {
+    timerEventFired = 1450, ///< tag: the timer; wndTag: the output window when it was started
+};
+
 /// Coordinates are pixels from the split view's left or top edge. They travel in floatVal, so in single
 /// precision; indices count from 0 and travel in longVal.
 enum SplitViewEvent : qint64 {

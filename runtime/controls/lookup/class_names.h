@@ -17,7 +17,7 @@ QString viewClassName(const QMetaObject &platformClass);
 bool isKindOfViewClass(const QObject *object, QStringView className);
 
 /// Whether an object's class is the class itself, as in QWidget for "NSView", and not one derived from it. A C++
-/// class without Q_OBJECT cannot be told from its base.
+/// class without Q_OBJECT looks like its base.
 bool isExactlyViewClass(const QObject *object, QStringView className);
 
 /// "<NSButton: 0x55d0c0ffee00>"

@@ -10,7 +10,7 @@ namespace tetrad {
 /// objectName begins with, for every other view the tag it carries. 0 when there is none.
 Tag viewSearchTag(const QWidget *view);
 
-/// Gives a view a tag in the place where viewSearchTag reads it.
+/// Gives a view a tag where viewSearchTag reads it.
 void setViewTag(QWidget *view, Tag tag);
 
 } // namespace tetrad

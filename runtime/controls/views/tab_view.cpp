@@ -135,6 +135,13 @@ QString plainLabel(QString label)
     return label.replace(u'&', u"&&"_s);
 }
 
+void insertTab(TabViewSC *tabView, int index, const QString &label)
+{
+    auto *const page = new QWidget;
+    setObjectWindowTag(page, objectWindowTag(tabView));
+    tabView->insertTab(index, page, plainLabel(label));
+}
+
 } // namespace
 
 void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
@@ -144,9 +151,7 @@ void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
         if (index < view->count()) {
             view->setTabText(index, plainLabel(labels.at(index)));
         } else {
-            auto *const page = new QWidget;
-            setObjectWindowTag(page, objectWindowTag(view));
-            view->addTab(page, plainLabel(labels.at(index)));
+            insertTab(view, index, labels.at(index));
         }
     }
 }
@@ -155,6 +160,22 @@ QWidget *TabViewPage(Tag tag, qint64 index)
 {
     const auto *const view = viewOfClass<TabViewSC>(tag);
     return view ? view->widget(saturatedTo<int>(index)) : nullptr;
+}
+
+void TabViewAddTab(Tag tag, qint64 index, const QString &label)
+{
+    if (auto *const view = viewOfClass<TabViewSC>(tag)) {
+        insertTab(view, saturatedTo<int>(index), label);
+    }
+}
+
+void TabViewRemoveTab(Tag tag, qint64 index)
+{
+    auto *const view = viewOfClass<TabViewSC>(tag);
+    if (QWidget *const page = view ? view->widget(saturatedTo<int>(index)) : nullptr) {
+        view->removeTab(view->indexOf(page));
+        page->deleteLater();
+    }
 }
 
 qint64 TabViewSelectedIndex(Tag tag)

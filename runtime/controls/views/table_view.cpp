@@ -8,6 +8,7 @@
 #include <tetrad/events/event_codes.h>
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -204,6 +205,33 @@ qint64 TableViewSelectedRow(Tag tag)
 {
     const auto *const view = viewOfClass<TableViewSC>(tag);
     return view ? view->selectedRow() : -1;
+}
+
+void TableViewSelectRow(Tag tag, qint64 row)
+{
+    auto *const view = viewOfClass<TableViewSC>(tag);
+    if (view && row >= 0 && row < view->rowCount()) {
+        view->selectRow(int(row));
+    } else if (view) {
+        view->clearSelection();
+    }
+}
+
+QVariant TableViewCell(Tag tag, qint64 row, qint64 column)
+{
+    const auto *const view = viewOfClass<TableViewSC>(tag);
+    const QTableWidgetItem *const item =
+        view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr;
+    return item ? item->data(Qt::EditRole) : QVariant();
+}
+
+void TableViewSetCell(Tag tag, qint64 row, qint64 column, const QVariant &value)
+{
+    auto *const view = viewOfClass<TableViewSC>(tag);
+    if (QTableWidgetItem *const item = view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr) {
+        const QSignalBlocker blocker(view);
+        item->setData(Qt::EditRole, value);
+    }
 }
 
 } // namespace tetrad

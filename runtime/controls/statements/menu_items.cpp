@@ -1,0 +1,135 @@
+#include <tetrad/controls/menu_items.h>
+
+#include "runtime/app/process/strings_table.h"
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/tag_alerts.h"
+#include <tetrad/app/menus.h>
+#include <tetrad/events/event_codes.h>
+#include <tetrad/events/output_window_tag.h>
+#include <tetrad/strings/not_given.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace tetrad {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char disabledKey[] = "disabledByStatement";
+
+QMenu *menuWithTag(Tag tag)
+{
+    const QList<QMenu *> menus = mainMenu() ? mainMenu()->menus : QList<QMenu *>();
+    const auto found =
+        std::find_if(menus.begin(), menus.end(), [tag](const QMenu *menu) { return objectTag(menu) == tag; });
+    return found == menus.end() ? nullptr : *found;
+}
+
+QAction *itemWithTag(const QMenu *menu, Tag tag)
+{
+    const QList<QAction *> items = menu->actions();
+    const auto found =
+        std::find_if(items.begin(), items.end(), [tag](const QAction *item) { return objectTag(item) == tag; });
+    return found == items.end() ? nullptr : *found;
+}
+
+// The events carry the menu's tag and the window that the user is in.
+void prepareEvent(QMenu *menu, const QAction *item)
+{
+    setObjectWindowTag(menu, CUI_OutputWindowTag());
+    CUI_DialogEventObj()->longVal = objectTag(item);
+}
+
+void validate(QMenu *menu)
+{
+    const QPointer<QMenu> guard(menu);
+    for (const QPointer<QAction> item : menu->actions()) {
+        if (!guard) {
+            return;
+        }
+        if (item && !item->isSeparator()) {
+            prepareEvent(menu, item);
+            const bool disables = answersYes(menu, menuEventDisableItem);
+            if (item) {
+                item->setEnabled(!disables && !item->property(disabledKey).toBool());
+            }
+        }
+    }
+}
+
+QMenu *newMenu(Tag tag)
+{
+    auto *const menu = new QMenu;
+    setObjectTag(menu, tag);
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] { validate(menu); });
+    appendMenu(mainMenu(), menu);
+    return menu;
+}
+
+QAction *newItem(QMenu *menu, Tag tag)
+{
+    auto *const item = menu->addAction(QString());
+    setObjectTag(item, tag);
+    item->setShortcutContext(Qt::ApplicationShortcut);
+    QObject::connect(item, &QAction::triggered, menu, [menu, item = QPointer<QAction>(item)] {
+        // Only the statement ticks and unticks.
+        item->setChecked(item->isCheckable());
+        // The menu is still closing.
+        callSoon(menu, [menu, item] {
+            if (item) {
+                prepareEvent(menu, item);
+                sendObjectEvent(menu, menuEventItem);
+            }
+        });
+    });
+    return item;
+}
+
+QKeySequence shortcut(const QString &key)
+{
+    if (key.isEmpty()) {
+        return {};
+    }
+    const QChar character = key.at(0);
+    const Qt::KeyboardModifiers modifiers = character.isUpper() ? Qt::CTRL | Qt::SHIFT : Qt::CTRL;
+    return QKeySequence(QKeyCombination(modifiers, Qt::Key(character.toUpper().unicode())));
+}
+
+} // namespace
+
+void CUI_Menu(Tag menuTag, qint64 item, qint64 state, const QString &title, const QString &key)
+{
+    if (menuTag < 1 || isObjectAddress(menuTag) || item < 0) {
+        const char *const text = QT_TRANSLATE_NOOP("Runtime", "There can be no item %1 in a menu %2.");
+        showTagError(runtimeText(text).arg(QString::number(item), QString::number(menuTag)));
+        return;
+    }
+    QMenu *menu = menuWithTag(menuTag);
+    if (!menu) {
+        menu = newMenu(menuTag);
+    }
+    QAction *action = item == 0 ? menu->menuAction() : itemWithTag(menu, item);
+    if (!action) {
+        action = newItem(menu, item);
+    }
+    if (!title.isNull()) {
+        action->setText(QString(title).replace(u'&', u"&&"_s));
+        action->setSeparator(title == u"-");
+    }
+    if (state != notGiven) {
+        action->setProperty(disabledKey, state == menuItemDisabled);
+        action->setEnabled(state != menuItemDisabled);
+        action->setCheckable(state == menuItemTicked);
+        action->setChecked(state == menuItemTicked);
+    }
+    if (!key.isNull()) {
+        action->setShortcut(shortcut(key));
+    }
+}
+
+} // namespace tetrad

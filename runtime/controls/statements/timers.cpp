@@ -1,0 +1,56 @@
+#include <tetrad/controls/timers.h>
+
+#include "runtime/app/process/strings_table.h"
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/strings/saturate.h"
+#include <tetrad/events/event_codes.h>
+#include <tetrad/events/output_window_tag.h>
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tetrad {
+
+namespace {
+
+// The timers are the application's own children; nothing else there is a plain QTimer with a tag.
+QTimer *timerWithTag(Tag tag)
+{
+    const auto timers = qApp->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto found = std::find_if(timers.begin(), timers.end(),
+                                    [tag](const QTimer *timer) { return objectTag(timer) == tag; });
+    return found == timers.end() ? nullptr : *found;
+}
+
+} // namespace
+
+void CUI_Timer(Tag tag, double interval_s, bool repeats)
+{
+    const Tag identity = tagIdentity(tag);
+    if (tag == 0 || isObjectAddress(identity)) {
+        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A timer needs a tag from 1 to 1000000, not %1.");
+        showTagError(runtimeText(text).arg(tag));
+        return;
+    }
+    // A timer may be stopped in its own event.
+    if (QTimer *const running = timerWithTag(identity)) {
+        setObjectTag(running, 0);
+        running->stop();
+        running->deleteLater();
+    }
+    if (tag < 0) {
+        return;
+    }
+    auto *const timer = new QTimer(qApp);
+    setObjectTag(timer, tag);
+    setObjectWindowTag(timer, CUI_OutputWindowTag());
+    timer->setSingleShot(!repeats);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer] { sendObjectEvent(timer, timerEventFired); });
+    timer->start(std::max(0, saturatedTo<int>(std::round(interval_s * 1000))));
+}
+
+} // namespace tetrad
