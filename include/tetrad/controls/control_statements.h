@@ -93,6 +93,15 @@ class ComboBoxSC : public QComboBox
 
 public:
     explicit ComboBoxSC(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// The user chose an item or pressed Return; sent once control is back in the event loop.
+    void chosen();
+
+private:
+    void reportSoon();
+
+    bool m_isQueued = false;
 };
 
 class ImageViewSC : public QWidget

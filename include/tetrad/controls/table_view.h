@@ -72,7 +72,8 @@ void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect);
 /// Each shows an alert when the table is missing. Rows and columns count from 0.
 void TableViewReloadData(Tag tag);
 
-/// -1 when no row is selected; a row outside the table selects none. Setting it is reported (1707) but cannot be refused.
+/// -1 when no row is selected; a row outside the table selects none. Setting it is reported (1707) but cannot be
+/// refused.
 qint64 TableViewSelectedRow(Tag tag);
 void TableViewSelectRow(Tag tag, qint64 row);
 

@@ -49,7 +49,8 @@ inline bool answersYes(const QObject *object, qint64 event)
 int countAnswer(const QObject *object, qint64 event);
 
 /// Calls a function as soon as control is back in the event loop, unless the object is gone by then.
-template <typename Function> void callSoon(QObject *object, Function &&function)
+template <typename Function>
+void callSoon(QObject *object, Function &&function)
 {
     QMetaObject::invokeMethod(object, std::forward<Function>(function), Qt::QueuedConnection);
 }

@@ -58,9 +58,8 @@ private:
 
 void reportToolbarItemEvents(QAction *item)
 {
-    QObject::connect(item, &QAction::triggered, item, [item] {
-        callSoon(item, [item] { sendObjectEvent(item, toolbarEventItemAction); });
-    });
+    QObject::connect(item, &QAction::triggered, item,
+                     [item] { callSoon(item, [item] { sendObjectEvent(item, toolbarEventItemAction); }); });
 }
 
 void setToolbarItemValidates(QAction *item, bool validates)

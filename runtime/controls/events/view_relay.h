@@ -23,12 +23,14 @@ struct ReportingView
 /// `event`, which may be null, is the dialog function's object.
 bool reportViewEvent(const ReportingView &view, ViewEvent code, QEvent *event);
 
-template <ViewEvent code> bool reportViewEvent(const ReportingView &view, QEvent *event)
+template <ViewEvent code>
+bool reportViewEvent(const ReportingView &view, QEvent *event)
 {
     return reportViewEvent(view, code, event);
 }
 
-template <ViewEvent code> bool reportViewQuestion(const ReportingView &view)
+template <ViewEvent code>
+bool reportViewQuestion(const ReportingView &view)
 {
     return reportViewEvent(view, code, nullptr);
 }

@@ -20,7 +20,8 @@ struct WantedClass
 QWidget *validatedView(Tag tagOrView, const WantedClass &wanted);
 
 /// The same for a class of this platform, as that class.
-template <typename View> View *viewOfClass(Tag tagOrView)
+template <typename View>
+View *viewOfClass(Tag tagOrView)
 {
     return static_cast<View *>(validatedView(tagOrView, {{}, &View::staticMetaObject}));
 }

@@ -1,5 +1,6 @@
 #include <tetrad/controls/control_statements.h>
 
+#include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/input/field_formatter.h"
@@ -23,6 +24,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tetrad {
 
@@ -153,8 +155,7 @@ void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, co
 void CUI_ComboBox(Tag tag, const QString &text, const QStringList &items, const QRectF &rect)
 {
     auto *const box = statementView<ComboBoxSC>(tag, rect, [](ComboBoxSC *made) {
-        sendsActionSoon(made, &ComboBoxSC::activated);
-        QObject::connect(made->lineEdit(), &QLineEdit::returnPressed, made, [made] { sendControlActionSoon(made); });
+        QObject::connect(made, &ComboBoxSC::chosen, made, [made] { sendControlAction(made); });
     });
     if (!box) {
         return;
@@ -192,8 +193,19 @@ ComboBoxSC::ComboBoxSC(QWidget *parent) : QComboBox(parent)
 {
     setEditable(true);
     setInsertPolicy(NoInsert);
-    // Without it Return on the text of an item would send the action twice.
-    setDuplicatesEnabled(true);
+    connect(this, &QComboBox::activated, this, &ComboBoxSC::reportSoon);
+    connect(lineEdit(), &QLineEdit::returnPressed, this, &ComboBoxSC::reportSoon);
+}
+
+// Return on the text of an item comes here more than once.
+void ComboBoxSC::reportSoon()
+{
+    if (!std::exchange(m_isQueued, true)) {
+        callSoon(this, [this] {
+            m_isQueued = false;
+            Q_EMIT chosen();
+        });
+    }
 }
 
 void ImageViewSC::setImage(const QImage &image)

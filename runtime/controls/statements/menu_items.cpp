@@ -96,7 +96,7 @@ QKeySequence shortcut(const QString &key)
         return {};
     }
     const QChar character = key.at(0);
-    const Qt::KeyboardModifiers modifiers = character.isUpper() ? Qt::CTRL | Qt::SHIFT : Qt::CTRL;
+    const auto modifiers = Qt::ControlModifier | (character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
     return QKeySequence(QKeyCombination(modifiers, Qt::Key(character.toUpper().unicode())));
 }
 

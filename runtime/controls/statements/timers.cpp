@@ -21,8 +21,8 @@ namespace {
 QTimer *timerWithTag(Tag tag)
 {
     const auto timers = qApp->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
-    const auto found = std::find_if(timers.begin(), timers.end(),
-                                    [tag](const QTimer *timer) { return objectTag(timer) == tag; });
+    const auto found =
+        std::find_if(timers.begin(), timers.end(), [tag](const QTimer *timer) { return objectTag(timer) == tag; });
     return found == timers.end() ? nullptr : *found;
 }
 

@@ -27,7 +27,8 @@ void placeView(QWidget *view, Tag tag, const QRectF &rect);
 
 /// The view that a statement is about. Null after an alert, when the statement does nothing.
 /// `whenMade` is called with a view made just now: to connect it, for example.
-template <typename View, typename WhenMade> View *statementView(Tag tag, const QRectF &rect, WhenMade whenMade)
+template <typename View, typename WhenMade>
+View *statementView(Tag tag, const QRectF &rect, WhenMade whenMade)
 {
     QWidget *const contentView = contentViewForStatement(tag);
     if (!contentView) {
@@ -48,7 +49,8 @@ template <typename View, typename WhenMade> View *statementView(Tag tag, const Q
     return view;
 }
 
-template <typename View> View *statementView(Tag tag, const QRectF &rect)
+template <typename View>
+View *statementView(Tag tag, const QRectF &rect)
 {
     return statementView<View>(tag, rect, [](View *) {});
 }

@@ -57,9 +57,8 @@ OutlineViewSC::OutlineViewSC(QWidget *parent) : QTreeWidget(parent)
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) {
         callSoon(this, [this, index = QPersistentModelIndex(indexFromItem(item))] { open(index); });
     });
-    connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) {
-        forwardSoon(outlineViewEventDidCollapse, outlineItem(item)->object());
-    });
+    connect(this, &QTreeWidget::itemCollapsed, this,
+            [this](QTreeWidgetItem *item) { forwardSoon(outlineViewEventDidCollapse, outlineItem(item)->object()); });
     m_gate = new SelectionGate(this, [this](const QModelIndex &item) {
         CUI_DialogEventObj()->object = outlineItem(itemFromIndex(item))->object();
         return answersYes(this, outlineViewEventRefuseSelectItem);

@@ -18,8 +18,9 @@ struct Lender : QAbstractItemView
     static std::pair<bool, QModelIndex> target(QAbstractItemView *view, const QKeyEvent &event)
     {
         static constexpr std::pair<Qt::Key, CursorAction> actions[] = {
-            {Qt::Key_Up, MoveUp},     {Qt::Key_Down, MoveDown}, {Qt::Key_Left, MoveLeft},     {Qt::Key_Right, MoveRight},
-            {Qt::Key_Home, MoveHome}, {Qt::Key_End, MoveEnd},   {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
+            {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},         {Qt::Key_Left, MoveLeft},
+            {Qt::Key_Right, MoveRight},   {Qt::Key_Home, MoveHome},         {Qt::Key_End, MoveEnd},
+            {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
         };
         for (const auto &[key, action] : actions) {
             if (event.key() == key) {
@@ -40,7 +41,8 @@ bool edits(const QKeyEvent &event)
 bool opensOrCloses(const QAbstractItemView *view, const QKeyEvent &event)
 {
     const auto *const tree = qobject_cast<const QTreeView *>(view);
-    return tree && (tree->isExpanded(tree->currentIndex()) ? event.key() == Qt::Key_Left : event.key() == Qt::Key_Right);
+    return tree &&
+           (tree->isExpanded(tree->currentIndex()) ? event.key() == Qt::Key_Left : event.key() == Qt::Key_Right);
 }
 
 } // namespace
@@ -63,12 +65,12 @@ bool SelectionGate::letsKey(QKeyEvent *event)
 
 bool SelectionGate::eventFilter(QObject *watched, QEvent *event)
 {
-    const auto *const mouse = static_cast<QMouseEvent *>(event);
+    const auto position = [event] { return static_cast<QMouseEvent *>(event)->position().toPoint(); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        return !letsPress(mouse->position().toPoint());
+        return !letsPress(position());
     case QEvent::MouseMove:
-        return mouse->buttons() & Qt::LeftButton && !letsDrag(mouse->position().toPoint());
+        return static_cast<QMouseEvent *>(event)->buttons() & Qt::LeftButton && !letsDrag(position());
     default:
         return QObject::eventFilter(watched, event);
     }

@@ -220,8 +220,7 @@ void TableViewSelectRow(Tag tag, qint64 row)
 QVariant TableViewCell(Tag tag, qint64 row, qint64 column)
 {
     const auto *const view = viewOfClass<TableViewSC>(tag);
-    const QTableWidgetItem *const item =
-        view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr;
+    const QTableWidgetItem *const item = view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr;
     return item ? item->data(Qt::EditRole) : QVariant();
 }
 
