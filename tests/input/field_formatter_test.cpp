@@ -1,5 +1,5 @@
 #include "runtime/input/field_formatter.h"
-#include "tests/table.h"
+#include "tests/support/table.h"
 #include <tetrad/input/line_input.h>
 
 #include <QClipboard>
