@@ -1,11 +1,10 @@
+#include "panel_helper.h"
+
 #include "runtime/input/field_formatter.h"
-#include "tests/support/table.h"
 #include <tetrad/input/line_input.h>
 
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QLineEdit>
-#include <QTest>
 
 using namespace tetrad;
 using namespace Qt::Literals::StringLiterals;
