@@ -227,9 +227,9 @@ TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
     OutlineViewSC outline;
     TokenFieldSC token;
     const std::pair<QObject *, std::function<qint64()>> rows[] = {
-        {&table, [&] { return CUI_TableViewDelegateObj()->forwardEvent(&table, 5, 77); }},
-        {&outline, [&] { return CUI_OutlineViewDelegateObj()->forwardEvent(&outline, 5, 77); }},
-        {&token, [&] { return CUI_TokenFieldDelegateObj()->forwardEvent(&token, 5, 77); }},
+        {&table, [&] { return CUI_TableViewDelegate::forwardEvent(&table, 5, 77); }},
+        {&outline, [&] { return CUI_OutlineViewDelegate::forwardEvent(&outline, 5, 77); }},
+        {&token, [&] { return CUI_TokenFieldDelegate::forwardEvent(&token, 5, 77); }},
     };
     for (const auto &[view, forward] : rows) {
         setObjectTag(view, 9);
@@ -237,7 +237,7 @@ TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
         for (const bool own : {false, true}) {
             takeSiteCalls();
             CUI_OutputWindowSetTag(0);
-            setDelegateCallback(view, own ? ownDelegateCallback : nullptr);
+            ViewSetDelegateCallback(tagFromObject(view), own ? ownDelegateCallback : nullptr);
             EXPECT_EQ(forward(), own ? 9005 : 1) << "the callee's result";
             EXPECT_EQ(takeSiteCalls(), own ? QString() : u"5 9 7"_s);
             EXPECT_EQ(CUI_OutputWindowTag(), 7);
