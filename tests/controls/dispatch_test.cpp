@@ -177,17 +177,17 @@ TEST_F(Dispatch, StatementsMakeAndChange)
     EXPECT_EQ(alertsOf([] { CUI_Button(0, u"x"_s, {}); }),
               u"Tag error.|A view needs a tag from 1 to 1000000, not 0."_s);
     EXPECT_EQ(m_content->findChildren<QWidget *>(), QList<QWidget *>{button});
-    CUI_TextLabel(6, u"9 lives"_s, QRectF(10, 60, 80, 30));
-    EXPECT_EQ(ControlIntegerValue(6), 9);
-    EXPECT_EQ(alertsOf([] { CUI_TextField(6, u"x"_s, {}); }),
-              u"Class error.|View 6 (QLabel), in window 7, cannot respond to QLineEdit messages."_s);
+    CUI_TextLabel(16, u"9 lives"_s, QRectF(10, 60, 80, 30));
+    EXPECT_EQ(ControlIntegerValue(16), 9);
+    EXPECT_EQ(alertsOf([] { CUI_TextField(16, u"x"_s, {}); }),
+              u"Class error.|View 16 (QLabel), in window 7, cannot respond to QLineEdit messages."_s);
     const auto format = [](Tag tag) { ControlSetFormat(tag, u"1"_s, true, 0, 0); };
     EXPECT_EQ(alertsOf([&] { format(88); }), u"Tag error.|Can't find view 88 in window 7."_s);
-    CUI_ComboBox(8, u"old"_s, {u"old"_s, u"new"_s}, QRectF(10, 100, 80, 30));
-    EXPECT_EQ(alertsOf([&] { format(8); }), QString());
+    CUI_ComboBox(18, u"old"_s, {u"old"_s, u"new"_s}, QRectF(10, 100, 80, 30));
+    EXPECT_EQ(alertsOf([&] { format(18); }), QString());
     EXPECT_TRUE(m_content->findChild<QLineEdit *>()->validator());
-    ControlSetItems(8, {});
-    EXPECT_EQ(ControlItems(8), QStringList());
+    ControlSetItems(18, {});
+    EXPECT_EQ(ControlItems(18), QStringList());
     EXPECT_EQ(alertsOf([] { ViewRemoveFromSuperview(contentViewTag); }),
               u"Tag error.|A content view stays in its window."_s);
 
