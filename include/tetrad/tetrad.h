@@ -27,7 +27,6 @@
 #include <tetrad/controls/outline_view.h>
 #include <tetrad/controls/panels.h>
 #include <tetrad/controls/popovers.h>
-#include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/split_view.h>
 #include <tetrad/controls/tab_view.h>
 #include <tetrad/controls/table_view.h>
@@ -37,7 +36,6 @@
 #include <tetrad/controls/toolbar.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/controls/view_sc.h>
-#include <tetrad/controls/visual_effect_view.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 #include <tetrad/events/output_window_tag.h>

@@ -2,7 +2,6 @@
 #include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/control_target.h>
 #include <tetrad/controls/outline_view.h>
-#include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/table_view.h>
 #include <tetrad/controls/token_field.h>
 

@@ -4,10 +4,9 @@
 #include <tetrad/app/popover.h>
 #include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/popovers.h>
-#include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/toolbar.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/controls/visual_effect_view.h>
+#include <tetrad/controls/view_sc.h>
 
 #include <QAction>
 #include <QFrame>

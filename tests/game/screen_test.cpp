@@ -82,7 +82,7 @@ QString screen()
         bar += menu->title() + u'|';
     }
     const QString items = CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->dump();
-    return bar + QChar(char16_t(gZRUpperChar['q'])) + u'\n' +
+    return bar + QChar(char16_t(gZRUpperChar[u'q'])) + u'\n' +
            QString(items).remove(u" size 12 color #ffffff"_s).remove(fraction);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// Implemented in runtime/controls/views/view_sc.cpp.
+// Implemented in runtime/controls/views/view_sc.cpp and visual_effect_view.cpp.
+
 #include <tetrad/app/content_view.h>
 #include <tetrad/events/tag.h>
 
@@ -8,6 +9,7 @@
 #include <QPointer>
 #include <QRectF>
 #include <QStringList>
+#include <QWidget>
 
 namespace tetrad {
 
@@ -57,5 +59,25 @@ private:
 /// The view statement: makes the ViewSC |tag| in the output window or moves it; shows it when the tag is
 /// positive, hides it when negative.
 void CUI_ViewSubclass(Tag tag, const QRectF &rect);
+
+/// A backdrop for other views: lets what its window draws behind it show through a veil of the window's
+/// colour. Its objectName carries its tag.
+class VisualEffectView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// How much of the veil covers what lies behind: 0 nothing, 1 everything.
+    qreal coverage() const { return m_coverage; }
+    void setCoverage(qreal coverage);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    qreal m_coverage = 0.75;
+};
 
 } // namespace tetrad

@@ -6,7 +6,6 @@
 #include "runtime/input/field_formatter.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/controls/control_target.h>
-#include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/strings/not_given.h>
 

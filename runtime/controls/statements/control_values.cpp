@@ -2,7 +2,6 @@
 
 #include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/strings/saturate.h"
-#include <tetrad/controls/segmented_control.h>
 #include <tetrad/controls/token_field.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/strings/numbers.h>

@@ -1,4 +1,4 @@
-#include <tetrad/controls/segmented_control.h>
+#include <tetrad/controls/control_statements.h>
 
 #include <QButtonGroup>
 #include <QHBoxLayout>

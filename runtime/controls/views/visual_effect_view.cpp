@@ -1,4 +1,4 @@
-#include <tetrad/controls/visual_effect_view.h>
+#include <tetrad/controls/view_sc.h>
 
 #include <QPaintEvent>
 #include <QPainter>
