@@ -38,6 +38,16 @@ void refuse(qint64 /*event*/, qintptr /*userData*/)
     CUI_AppDelegateObj()->setLongVal(0);
 }
 
+// A fatal stop of the program's own while it is asked whether it may end.
+template <int button>
+void stopAgain(qint64 event, qintptr /*userData*/)
+{
+    if (event == appEventShouldTerminate) {
+        stopAndPress(button == 0 ? u"Quit"_s : u"Crash"_s, 1);
+        std::_Exit(3);
+    }
+}
+
 bool diedOfAbort(int status)
 {
     return testing::KilledBySignal(SIGABRT)(status);
@@ -85,21 +95,24 @@ TEST(BoundsError, IsWrittenInThreeLinesBeforeTheAlertThatOffersNoContinue)
 
 TEST(Stop, EndsTheProcess)
 {
-    // Code and answer, whether the delegate refuses, and whether it is an abort.
-    const Table<qint32, QString, bool, bool> rows = {
-        {"fatal, Quit", 1, u"Quit"_s, false, false},
-        {"fatal, Crash", 1, u"Crash"_s, false, true},
-        {"fatal by -1", -1, u"Crash"_s, false, true},
-        {"fatal, Quit but the delegate refuses", 1, u"Quit"_s, true, true},
-        {"not fatal, Stop", 0, u"Stop"_s, false, false},
-        {"not fatal, Crash", 0, u"Crash"_s, false, true},
-        {"only the low byte counts", 0x100, u"Stop"_s, false, false},
+    using Callback = void (*)(qint64 event, qintptr userData);
+    // Code and answer, the delegate's callback, and whether it is an abort.
+    const Table<qint32, QString, Callback, bool> rows = {
+        {"fatal, Quit", 1, u"Quit"_s, nullptr, false},
+        {"fatal, Crash", 1, u"Crash"_s, nullptr, true},
+        {"fatal by -1", -1, u"Crash"_s, nullptr, true},
+        {"fatal, Quit but the delegate refuses", 1, u"Quit"_s, refuse, true},
+        {"not fatal, Stop", 0, u"Stop"_s, nullptr, false},
+        {"not fatal, Crash", 0, u"Crash"_s, nullptr, true},
+        {"only the low byte counts", 0x100, u"Stop"_s, nullptr, false},
+        {"fatal, Quit, and Quit again in the question", 1, u"Quit"_s, stopAgain<0>, false},
+        {"fatal, Quit, and Crash in the question", 1, u"Quit"_s, stopAgain<1>, true},
     };
-    for (const auto &[name, fatal, answer, refuses, aborts] : rows) {
+    for (const auto &[name, fatal, answer, callback, aborts] : rows) {
         SCOPED_TRACE(name);
-        const auto stop = [code = fatal, title = answer, callback = refuses ? refuse : nullptr] {
+        const auto stop = [code = fatal, title = answer, asked = callback] {
             CocoaInit();
-            CUI_AppDelegateObj()->setDelegateCallback(callback);
+            CUI_AppDelegateObj()->setDelegateCallback(asked);
             stopAndPress(title, code);
         };
         const auto ended = [dies = aborts](int status) {

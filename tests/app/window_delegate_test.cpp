@@ -222,19 +222,24 @@ TEST_F(WindowDelegate, ContentViewReportsWithItsFlagOnly)
 {
     auto *const view = qobject_cast<ContentViewSC *>(m_window->contentView());
     const auto drawAndPress = [view] {
+        QDragLeaveEvent leave;
+        static_cast<QObject *>(view)->event(&leave); // the application sends it only to where something was dragged
         view->repaint(1, 2, 30, 40);
         QTest::mousePress(view, Qt::LeftButton, {}, QPoint(20, 30));
     };
     drawAndPress();
     EXPECT_EQ(takeCodes(), QString());
     view->setSubclassFlag(true);
+    view->setDragInside(true);
     CUI_OutputWindowSetTag(99);
     atEvent = [](qint64 event) {
         EXPECT_TRUE(event == windowEventDidUpdate || (CUI_EventEvent() && CUI_OutputWindowTag() == 7));
         EXPECT_TRUE(event != viewEventDraw || CUI_DialogEventObj()->rectVal == QRectF(1, 2, 30, 40));
     };
     drawAndPress();
-    EXPECT_EQ(takeCalls(), (QStringList{u"2000 %1 7"_s.arg(contentViewTag), u"2002 %1 7"_s.arg(contentViewTag)}));
+    EXPECT_EQ(takeCalls(), u"%1 @ 7,2000 @ 7,2002 @ 7"_s.arg(viewEventDraggingExited)
+                               .replace(u'@', QString::number(contentViewTag))
+                               .split(u','));
     EXPECT_EQ(CUI_EventEvent(), nullptr);
     atEvent = [this](qint64) { delete m_window.data(); };
     QTest::keyPress(view, Qt::Key_A);

@@ -7,9 +7,11 @@
 #include <tetrad/app/window.h>
 #include <tetrad/app/window_delegate.h>
 
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
+#include <QToolBar>
 #include <QWindow>
 
 using namespace tetrad;
@@ -64,6 +66,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
         {"title only", 1, u"Second"_s, notGiven, {}, u"Second"_s, windowStyleTitled, first, true},
         {"empty title", 1, u""_s, notGiven, {}, u""_s, windowStyleTitled, first, true},
         {"place only, fixed size", 1, {}, notGiven, second, u""_s, windowStyleTitled, second, true},
+        {"borderless", 1, {}, 0, {}, u""_s, 0, second, true},
         {"style only", 1, {}, windowStyleDefault, {}, u""_s, windowStyleDefault, second, true},
         {"tag of the other sign hides", -1, {}, notGiven, {}, u""_s, windowStyleDefault, second, false},
     };
@@ -78,6 +81,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
         EXPECT_EQ(window->styleMask(), styleAfter);
         EXPECT_EQ(window->contentRect(), rectAfter);
         EXPECT_EQ(window->isVisible(), shown);
+        EXPECT_EQ(window->menuBar()->isVisible(), shown && styleAfter != 0);
         EXPECT_FALSE(CUI_IsSubclassFlag());
     }
 }
@@ -98,7 +102,7 @@ TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)
     }
 }
 
-TEST_F(Windows, ContentKeepsItsSizeThroughMenuBarsAndTinyWindows)
+TEST_F(Windows, ContentStaysThroughMenuBarsAndTinyWindows)
 {
     for (const qint64 style : {qint64(windowStyleTitled), qint64(windowStyleDefault)}) {
         CUI_Window(1, QString(), style, QRectF(40, 60, 300, 200));
@@ -108,6 +112,7 @@ TEST_F(Windows, ContentKeepsItsSizeThroughMenuBarsAndTinyWindows)
             {"menus added", [] { CUI_EditMenu(2); }},
             {"bar taken out of the window", [window] { window->menuBar()->hide(); }},
             {"bar put back", [window] { window->menuBar()->show(); }},
+            {"tool bar added", [window] { window->addToolBar(u"Bar"_s)->addAction(u"Item"_s); }},
             {"tiny for a while",
              [window] {
                  const QSize size = window->size();
@@ -122,8 +127,11 @@ TEST_F(Windows, ContentKeepsItsSizeThroughMenuBarsAndTinyWindows)
         for (const auto &[name, happening] : rows) {
             happening();
             QApplication::processEvents();
-            EXPECT_EQ(window->contentRect().size(), QSizeF(300, 200)) << name;
+            EXPECT_EQ(window->contentRect(), QRectF(40, 60, 300, 200)) << name;
         }
+        QContextMenuEvent rightClick(QContextMenuEvent::Mouse, QPoint(5, 5), window->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(window->menuBar(), &rightClick);
+        EXPECT_FALSE(QApplication::activePopupWidget()) << "a menu that hides the tool bar";
         window->resize(window->width() + 20, window->height() + 30);
         const QSizeF grown = style & windowStyleResizable ? QSizeF(320, 230) : QSizeF(300, 200);
         QApplication::processEvents();

@@ -8,7 +8,10 @@
 #include <QAction>
 #include <QColorDialog>
 #include <QFontDialog>
+#include <QSignalSpy>
 #include <QToolBar>
+
+#include <algorithm>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
@@ -147,7 +150,19 @@ TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
     font.setPointSize(14);
     fonts->setCurrentFont(font);
     EXPECT_TRUE(takeSiteCalls().endsWith(u"2200 0 7 14"_s));
-    fonts->hide();
+    const QWidgetList panels = {CUI_ColorPanel(Qt::red), fonts};
+    QTimer::singleShot(0, m_content, [&panels] {
+        for (QWidget *panel : panels) {
+            const auto buttons = panel->findChildren<QAbstractButton *>();
+            const auto inside = std::ranges::find_if(buttons, [](auto *each) { return each->isVisible(); });
+            const QSignalSpy pressed(*inside, &QAbstractButton::pressed);
+            QTest::mousePress(panel->windowHandle(), Qt::LeftButton, {}, (*inside)->mapTo(panel, QPoint(5, 5)));
+            EXPECT_EQ(pressed.count(), 1) << "in a modal run";
+            panel->hide();
+        }
+        abortModal();
+    });
+    runModalForWindow(m_content->window());
 }
 
 } // namespace

@@ -2,11 +2,13 @@
 
 #include <tetrad/tetrad.h>
 
-#include <QCoreApplication>
-#include <QPushButton>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <string>
@@ -31,15 +33,22 @@ static void ask()
     for (;;) {
         const QString answer = ZRInput(10, 60, u"Which?"_s, QString(), notGiven, notGiven, notGiven);
         say(u"answer "_s + (answer.isNull() ? u"none"_s : answer));
-        if (answer == u"quit"_s) {
+        CUI_PrintToWindowPrintStatement({answer});
+        if (answer == u"other"_s) {
+            CUI_Window(1, QString(), notGiven, QRectF());
+        } else if (answer == u"quit"_s) {
             AppTerminate();
         }
     }
 }
 
-static void later(const std::function<void()> &action)
+static std::function<void()> action;
+static volatile std::sig_atomic_t isSignalled = 0;
+
+// Inside a modal run, each time the test sends SIGUSR1.
+static void whenSignalled(const std::function<void()> &given)
 {
-    QTimer::singleShot(800, qApp, action);
+    action = given;
 }
 
 static void addButton(Tag tag, const QString &title)
@@ -69,6 +78,11 @@ static qint64 onEvent(qint64 event, Tag tag, Tag, qint64)
 static const QRectF left(100, 100, 400, 150);
 static const QRectF right(600, 300, 400, 150);
 
+static Window *window()
+{
+    return CUI_WindowWithTag(1);
+}
+
 static const std::map<std::string, std::function<void()>> scenes = {
     {"one", [] { open(1, left); }},
     {"two",
@@ -81,13 +95,19 @@ static const std::map<std::string, std::function<void()>> scenes = {
     {"later",
      [] {
          open(1, left);
-         later([] { open(2, left.translated(60, 60)); });
+         whenSignalled([] { open(2, left.translated(60, 60)); });
+     }},
+    {"equal",
+     [] {
+         open(1, left);
+         open(2, right);
+         CUI_SetOnDialogFunction(nullptr);
      }},
     {"nested",
      [] {
          open(2, right);
          open(1, left);
-         later([] { say(u"run %1"_s.arg(runModalForWindow(CUI_WindowWithTag(2)))); });
+         whenSignalled([] { say(u"run %1"_s.arg(runModalForWindow(CUI_WindowWithTag(2)))); });
      }},
     {"early",
      [] {
@@ -101,12 +121,12 @@ static const std::map<std::string, std::function<void()>> scenes = {
          open(1, left);
          CUI_Popover(3, QSizeF(160, 80), popoverTransient);
          addButton(7, u"Press"_s);
-         later([] { PopoverShow(3, contentViewTag, QRectF(), Qt::BottomEdge); });
+         whenSignalled([] { PopoverShow(3, contentViewTag, QRectF(), Qt::BottomEdge); });
      }},
     {"tool bar",
      [] {
          open(1, left);
-         later([] {
+         whenSignalled([] {
              CUI_Toolbar(4);
              CUI_ToolbarAddItem(4, 41, u"Item"_s);
          });
@@ -121,10 +141,28 @@ static const std::map<std::string, std::function<void()>> scenes = {
          sizeFor = [](QSizeF size) { return QSizeF(50 * qRound(size.width() / 50), 50 * qRound(size.height() / 50)); };
          open(1, left);
      }},
+    {"styles",
+     [] {
+         open(1, left);
+         whenSignalled([] { window()->setStyleMask(window()->styleMask() ^ windowStyleDefault); });
+     }},
+    {"copied",
+     [] {
+         open(1, left);
+         QGuiApplication::clipboard()->setText(u"kept"_s);
+         static bool isOver = false;
+         CUI_SetOnAppEventFunction([](qint64 event, const QVariant &) {
+             isOver = isOver || event == appEventWillTerminate;
+             return QVariant();
+         });
+         auto *const timer = new QTimer(qApp);
+         QObject::connect(timer, &QTimer::timeout, [] { isOver ? std::abort() : void(); });
+         timer->start(0);
+     }},
     {"sheet",
      [] {
          open(1, left);
-         later([] { CUI_Alert(5, notGiven, u"Save?"_s, QString(), u"Save;Don't"_s, 1); });
+         whenSignalled([] { CUI_Alert(5, notGiven, u"Save?"_s, QString(), u"Save;Don't"_s, 1); });
      }},
 };
 
@@ -138,6 +176,7 @@ int main(int count, char **arguments)
         CUI_ShowAlert(alertStyleWarning, u"Full"_s, u"100 %"_s);
         AppTerminate();
     }
+    std::signal(SIGUSR1, [](int) { isSignalled = 1; });
     QCoreApplication::setApplicationName(u"Stranger"_s);
     CocoaInit();
     CUI_EditMenu(1);
@@ -149,8 +188,17 @@ int main(int count, char **arguments)
     scene->second();
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [] {
+        if (std::exchange(isSignalled, 0) && action) {
+            QTimer::singleShot(0, qApp, action);
+        }
         static QString last;
-        const QString line = CUI_WindowWithTag(1) ? CUI_WindowWithTag(1)->dump() : u"gone"_s;
+        QString line = u"gone"_s;
+        if (window()) {
+            const QRect frame = window()->frameGeometry();
+            line = u"%1 frame %2 %3 %4 %5 chrome %6"_s.arg(window()->dump()).arg(frame.x()).arg(frame.y());
+            line =
+                line.arg(frame.width()).arg(frame.height()).arg(window()->height() - window()->contentView()->height());
+        }
         if (line != std::exchange(last, line)) {
             say(line);
         }
