@@ -121,7 +121,7 @@ class TestTwoWindows(PlayingTest):
 
     def setUp(self):
         super().setUp()
-        self.program = self.start(command=[os.environ["TETRAD_TWO_WINDOWS"]])
+        self.program = self.start(command=[os.environ["TETRAD_STRANGER"], "equal"])
 
     def ask(self, window):
         """Waits until this window's panel asks, with the keys going there."""
@@ -138,22 +138,22 @@ class TestTwoWindows(PlayingTest):
 
     def test_the_other_window_brought_to_the_front_gives_way(self):
         for name, bring in [
-            ("by its title bar", lambda: self.desktop.run("xdotool", "windowactivate", self.program.identifier("First"))),
-            ("by a click in it", lambda: self.desktop.click(*self.window("First").centre)),
+            ("by its title bar", lambda: self.desktop.run("xdotool", "windowactivate", self.program.identifier("Window 1"))),
+            ("by a click in it", lambda: self.desktop.click(*self.window("Window 1").centre)),
         ]:
             with self.subTest(name):
-                self.ask("Second")
+                self.ask("Window 2")
                 bring()
-                self.answer("Second", name)
+                self.answer("Window 2", name)
 
     def test_each_close_box(self):
-        self.ask("Second")
-        self.answer("Second", "other")
-        self.ask("First")
-        self.desktop.click_close_box(self.program.identifier("Second"))
-        until(lambda: not self.window("Second"), "the window without the panel to close")
-        self.answer("First", "still")
-        self.desktop.click_close_box(self.program.identifier("First"))
+        self.ask("Window 2")
+        self.answer("Window 2", "other")
+        self.ask("Window 1")
+        self.desktop.click_close_box(self.program.identifier("Window 2"))
+        until(lambda: not self.window("Window 2"), "the window without the panel to close")
+        self.answer("Window 1", "still")
+        self.desktop.click_close_box(self.program.identifier("Window 1"))
         self.assert_clean_end(self.program)
 
 

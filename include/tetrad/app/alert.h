@@ -55,7 +55,7 @@ class Alert : public QMessageBox
 public:
     explicit Alert(QWidget *parent = nullptr);
 
-    /// An alert that tells the error's description, or its domain and code when it has none.
+    /// An alert that shows the error's description, or its domain and code when it has none.
     static Alert *withError(const ErrorObject &error);
 
     Tag tag() const;
@@ -88,7 +88,7 @@ public:
     void setShowsSuppressionButton(bool shows);
     qint64 suppressionButtonState() const;
 
-    /// The help button asks the delegate and leaves the alert open.
+    /// The help button notifies the delegate and leaves the alert open.
     bool showsHelp() const { return m_helpButton; }
     void setShowsHelp(bool shows);
 

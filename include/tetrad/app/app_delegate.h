@@ -18,7 +18,7 @@ namespace tetrad {
 
 class Window;
 
-/// The application's delegate: answers what the window system asks about the application and reports
+/// The application's delegate: answers the window system's questions about the application and reports
 /// what happens to it, each callback as one numbered event (AppEvent). A callback stores its
 /// arguments and its default answer in the fields below, forwards the event, and returns the answer
 /// as it stands afterwards; the program's event function changes it there:

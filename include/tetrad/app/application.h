@@ -31,10 +31,10 @@ CUI_AppDelegate *CUI_AppDelegateObj();
 /// Installs a delegate in place of the current one, also before CocoaInit; null takes it out. Not owned.
 void setAppDelegate(CUI_AppDelegate *delegate);
 
-/// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: asks
+/// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: queries
 /// the delegate, hands the clipboard over, notifies the delegate, flushes the C streams. Nothing that is registered
 /// for exit runs, destructors of static objects included: save what must be saved in event 5. Returns only when the
-/// delegate refuses. Called while the delegate is being asked or notified, it ends the process then and there.
+/// delegate refuses. Called while the delegate is being queried or notified, it ends the process at once.
 void AppTerminate();
 
 /// The application's name as the menu titles show it, its version, and its reverse-domain id. All

@@ -23,7 +23,7 @@ enum ModalResponse : qint64 {
 /// of a run and the start of the next one wait for that one.
 /// While it lasts, mouse and key events for the application's other windows are withheld, except for widgets that
 /// setWorksWhenModal was called for. Menus and their shortcuts, timers, repaints, queued calls and input methods go on
-/// as ever, and so does scrolling in the windows that carry the widget. A close box asks the window's delegate as
+/// as ever, and so does scrolling in the windows that carry the widget. A close box queries the window's delegate as
 /// always; see closeMeansQuit.
 qint64 runModalForWindow(QWidget *window);
 

@@ -10,7 +10,7 @@ namespace tetrad {
 
 class ContentViewSC;
 
-/// When a popover closes by itself.
+/// When a popover closes automatically.
 enum PopoverBehavior : qint64 {
     popoverApplicationDefined = 0, ///< never
     popoverTransient = 1,          ///< on Escape and on a click outside
@@ -34,7 +34,7 @@ public:
     /// Takes effect the next time the popover is shown.
     void setBehavior(PopoverBehavior behavior) { m_behavior = behavior; }
 
-    /// Shows the popover beside a rectangle in the widget's coordinates; an empty one stands for the
+    /// Shows the popover next to a rectangle in the widget's coordinates; an empty one stands for the
     /// whole widget. Where the preferred edge has no room on the screen the opposite one is taken.
     void showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferredEdge);
 

@@ -29,7 +29,7 @@ enum WindowStyle : qint64 {
 };
 
 /// What a per-window callback is called with: the window's tag, the event code, and the user data
-/// that was set beside it.
+/// that was set with it.
 using WindowCallback = void (*)(Tag wndTag, qint64 event, void *userData);
 
 /// A window of the runtime. Its central widget is the content view; every rectangle the runtime
@@ -81,7 +81,7 @@ public:
     bool isReleasedWhenClosed() const;
     void setReleasedWhenClosed(bool released);
 
-    /// Whether Tab goes through the controls by their places, row by row, instead of in the order in
+    /// Whether Tab goes through the controls by position, row by row, instead of in the order in
     /// which they were made; false at first.
     bool autorecalculatesKeyViewLoop() const { return m_autorecalculatesKeyViewLoop; }
     void setAutorecalculatesKeyViewLoop(bool recalculates) { m_autorecalculatesKeyViewLoop = recalculates; }
@@ -106,7 +106,7 @@ protected:
 
 private:
     QSize measuredChrome();
-    void keepContentPlace();
+    void keepContentPosition();
     void limitDrags();
     QPoint belowScreenTop(QPoint origin) const;
     void recalculateKeyViewLoop();
@@ -115,7 +115,7 @@ private:
     CUI_WindowDelegate *m_delegate = nullptr;
     std::unique_ptr<WindowTranslator> m_translator;
     qint64 m_styleMask = windowStyleDefault;
-    // What the menu bar and the like take of the window beside the content.
+    // The size that the menu bar and other bars add to the content.
     QSize m_chrome;
     bool m_closed = false;
     bool m_autorecalculatesKeyViewLoop = false;

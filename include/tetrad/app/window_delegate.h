@@ -14,7 +14,7 @@ namespace tetrad {
 
 /// Reports what happens to windows: one method for each notification, called by the window's event
 /// translator, by the code that shows sheets, or by a program. Each hands its code to forwardEvent
-/// and, where it asks, returns the answer. Sizes and rectangles are those of the content, in
+/// and, for a question event, returns the answer. Sizes and rectangles are those of the content, in
 /// device-independent pixels. A callback may close the window, give it another
 /// tag or delete it; deleting at once, not with deleteLater, only where the platform is not just then
 /// delivering the event. The window may be gone when a method returns.

@@ -63,7 +63,7 @@ QWidget *CUI_TargetWithTag(Tag tag);
 /// back. With any other tag: CUI_TargetWithTag. Null when nothing is found.
 QWidget *CUI_TargetWindow(Tag *tag);
 
-/// Whether a popover has this tag. If one has, the user is told that windows and popovers cannot
+/// Whether a popover has this tag. If one has, an alert says that windows and popovers cannot
 /// share tags.
 bool CUI_ObjectIsPopover(Tag tag);
 

@@ -88,11 +88,11 @@ void Alert::beginSheet(QWidget *window, std::function<void(qint64)> completion)
         return;
     }
     const QRectF top(0, 0, owner->contentView()->width(), 0);
-    const QRectF place = CUI_WindowDelegateObj()->windowWillPositionSheet(owner, this, top);
+    const QRectF position = CUI_WindowDelegateObj()->windowWillPositionSheet(owner, this, top);
     if (self) {
         show();
-        move(owner->contentView()->mapToGlobal(place.topLeft().toPoint()) +
-             QPoint((qRound(place.width()) - width()) / 2, 0));
+        move(owner->contentView()->mapToGlobal(position.topLeft().toPoint()) +
+             QPoint((qRound(position.width()) - width()) / 2, 0));
     }
 }
 
@@ -101,7 +101,7 @@ void Alert::endSheet()
     auto *const owner = qobject_cast<Window *>(m_sheetWindow);
     m_sheetWindow = nullptr;
     delete std::exchange(m_sheetGuard, nullptr);
-    // A callback may delete the alert; who began the sheet is still to be told.
+    // A callback may delete the alert; the code that began the sheet is still notified.
     const auto completion = std::exchange(m_completion, nullptr);
     const qint64 code = m_code;
     if (owner) {

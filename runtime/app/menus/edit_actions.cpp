@@ -93,7 +93,7 @@ bool wouldAct(const EditAction &action)
     return !field || action.lineEditCan(*field);
 }
 
-// Asks again, since a shortcut comes without the menu having been opened.
+// Checks again, since a shortcut arrives without opening the menu.
 void perform(const EditAction &action)
 {
     if (!wouldAct(action)) {

@@ -45,7 +45,7 @@ QAction *addItem(QMenu *menu, const QString &title, QAction::MenuRole role)
     return item;
 }
 
-// It holds a place in the bar. Shown it would be a gap that opens an empty menu, so it waits for a title.
+// It keeps its position in the bar but stays hidden until it has a title.
 QMenu *makeUntitledMenu()
 {
     auto *menu = new QMenu;

@@ -143,7 +143,7 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         return comesFromInside(widget) ? endHere(event) : redirectKey(event);
     }
     if (type == QEvent::Close && event->spontaneous()) {
-        // A runtime window asks its delegate, whatever runs; the answer it gives is its own.
+        // A runtime window queries its delegate itself, also during a run.
         const bool withheld = !qobject_cast<Window *>(widget);
         event->setAccepted(!withheld);
         return withheld;

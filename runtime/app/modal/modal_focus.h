@@ -23,7 +23,7 @@ public:
     /// Whether mouse and keys reach a widget: what belongs to the run's widget, menus, what works during modal runs.
     bool isLive(const QWidget *widget) const;
 
-    /// Moves the focus into the widget: to where it was there, else to the first place that takes it.
+    /// Moves the focus into the widget: to where it was there, or else to the first widget that accepts it.
     void focusInside();
 
     /// Lets a window that the program brought to the front stay there until the user leaves it.

@@ -22,25 +22,25 @@ QList<Popover *> &popovers()
     return *list;
 }
 
-QPoint placeAtEdge(const QRect &anchor, const QSize &size, Qt::Edge edge)
+QPoint positionAtEdge(const QRect &anchor, const QSize &size, Qt::Edge edge)
 {
-    QRect place(QPoint(), size);
-    place.moveCenter(anchor.center());
+    QRect rect(QPoint(), size);
+    rect.moveCenter(anchor.center());
     switch (edge) {
     case Qt::TopEdge:
-        place.moveBottom(anchor.top() - 1);
+        rect.moveBottom(anchor.top() - 1);
         break;
     case Qt::LeftEdge:
-        place.moveRight(anchor.left() - 1);
+        rect.moveRight(anchor.left() - 1);
         break;
     case Qt::RightEdge:
-        place.moveLeft(anchor.right() + 1);
+        rect.moveLeft(anchor.right() + 1);
         break;
     case Qt::BottomEdge:
-        place.moveTop(anchor.bottom() + 1);
+        rect.moveTop(anchor.bottom() + 1);
         break;
     }
-    return place.topLeft();
+    return rect.topLeft();
 }
 
 Qt::Edge oppositeEdge(Qt::Edge edge)
@@ -91,10 +91,10 @@ void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferre
     const QRect anchor(view->mapToGlobal(local.topLeft()), local.size());
     const QRect screenArea = view->screen()->availableGeometry();
     adjustSize();
-    QPoint place = placeAtEdge(anchor, size(), preferredEdge);
-    if (!screenArea.contains(QRect(place, size()))) {
-        const QPoint other = placeAtEdge(anchor, size(), oppositeEdge(preferredEdge));
-        place = screenArea.contains(QRect(other, size())) ? other : place;
+    QPoint position = positionAtEdge(anchor, size(), preferredEdge);
+    if (!screenArea.contains(QRect(position, size()))) {
+        const QPoint other = positionAtEdge(anchor, size(), oppositeEdge(preferredEdge));
+        position = screenArea.contains(QRect(other, size())) ? other : position;
     }
     const QPointer<Popover> guard(this);
     Q_EMIT willShow();
@@ -103,7 +103,7 @@ void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferre
     }
     popovers().removeOne(this);
     popovers().prepend(this);
-    move(place);
+    move(position);
     show();
     Q_EMIT didShow();
 }

@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// While a window is being asked whether it may close, a second request would not reach it: the platform window would
+// While the delegate is being queried about a close, a second request would not reach it: the platform window would
 // be destroyed, whatever the answer.
 class CloseStopper : public QObject
 {
@@ -81,7 +81,7 @@ Window::Window(const QRectF &contentRect) : m_translator(std::make_unique<Window
     // Not before all members stand: the new child is an event of this window.
     m_contentView = new ContentViewSC(this);
     setAttribute(Qt::WA_DeleteOnClose);
-    // Menus follow the language's direction; the places that a program prints and asks at do not.
+    // Menus follow the language's direction; the positions of its output and its prompts do not.
     m_contentView->setLayoutDirection(Qt::LeftToRight);
     setCentralWidget(m_contentView);
     menuBar()->setAccessibleName(tr("Menu bar"));
@@ -141,7 +141,7 @@ void Window::setContentRect(const QRectF &rect)
     m_chrome = measuredChrome();
     const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - QPoint(0, m_chrome.height());
     setGeometry(QRect(belowScreenTop(origin), rect.size().toSize() + m_chrome));
-    keepContentPlace();
+    keepContentPosition();
     limitDrags();
 }
 
@@ -164,7 +164,7 @@ qint64 Window::styleMask() const
 void Window::setStyleMask(qint64 mask)
 {
     m_styleMask = mask;
-    const QRectF place = contentRect();
+    const QRectF content = contentRect();
     // Not setWindowFlags, which hides the window.
     overrideWindowFlags((windowFlags() & Qt::WindowType_Mask) | hintsForStyle(mask));
     menuBar()->setVisible(mask & windowStyleTitled);
@@ -172,7 +172,7 @@ void Window::setStyleMask(qint64 mask)
         handle->setFlags(windowFlags());
     }
     if (!(windowState() & spreadOut)) {
-        setContentRect(place);
+        setContentRect(content);
     }
 }
 
@@ -180,12 +180,12 @@ void Window::center()
 {
     const QRect available = screen()->availableGeometry();
     const QMargins frame = frameMargins();
-    QRect place = geometry() + frame;
-    place.moveCenter(available.center());
+    QRect framed = geometry() + frame;
+    framed.moveCenter(available.center());
     // A window larger than the screen keeps its title bar where the pointer can reach it.
-    place.moveLeft(std::max(place.left(), available.left()));
-    place.moveTop(std::max(place.top(), available.top()));
-    setGeometry(place - frame);
+    framed.moveLeft(std::max(framed.left(), available.left()));
+    framed.moveTop(std::max(framed.top(), available.top()));
+    setGeometry(framed - frame);
 }
 
 void Window::setBackgroundColor(const QColor &color)
@@ -230,9 +230,9 @@ void Window::makeKeyAndOrderFront()
 
 QString Window::dump() const
 {
-    const QRectF place = contentRect();
+    const QRectF content = contentRect();
     QString line = u"content %1x%2 at %3,%4, style %5"_s;
-    line = line.arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y()).arg(m_styleMask);
+    line = line.arg(content.width()).arg(content.height()).arg(content.x()).arg(content.y()).arg(m_styleMask);
     return isActiveWindow() ? line + u", key" : line;
 }
 
@@ -247,7 +247,7 @@ bool Window::event(QEvent *event)
         return true;
     }
     if (event->type() == QEvent::Show || (event->type() == QEvent::LayoutRequest && isVisible())) {
-        keepContentPlace();
+        keepContentPosition();
     }
     if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) {
         WindowOrder::instance().bringToFront(this);
@@ -319,7 +319,7 @@ QMargins Window::frameMargins() const
 QSize Window::measuredChrome()
 {
     if (!isVisible()) {
-        // A hidden window lays nothing out by itself when its size changes.
+        // A hidden window does not update its layout when its size changes.
         layout()->invalidate();
     }
     layout()->activate();
@@ -329,7 +329,7 @@ QSize Window::measuredChrome()
 
 // The menu bar's height is known for certain only once it is shown, and bars may come and go later: a
 // desktop may take the menu bar out of the window, menus or a tool bar may be added.
-void Window::keepContentPlace()
+void Window::keepContentPosition()
 {
     const QSize grown = measuredChrome() - m_chrome;
     if (grown.isNull()) {
@@ -367,10 +367,10 @@ void Window::recalculateKeyViewLoop()
 {
     QList<QWidget *> views = m_contentView->findChildren<QWidget *>();
     views.removeIf([](const QWidget *view) { return !(view->focusPolicy() & Qt::TabFocus) || view->focusProxy(); });
-    const auto place = [this](const QWidget *view) { return view->mapTo(m_contentView, QPoint()); };
-    std::stable_sort(views.begin(), views.end(), [&place](const QWidget *a, const QWidget *b) {
-        const QPoint first = place(a);
-        const QPoint second = place(b);
+    const auto position = [this](const QWidget *view) { return view->mapTo(m_contentView, QPoint()); };
+    std::stable_sort(views.begin(), views.end(), [&position](const QWidget *a, const QWidget *b) {
+        const QPoint first = position(a);
+        const QPoint second = position(b);
         return first.y() != second.y() ? first.y() < second.y() : first.x() < second.x();
     });
     for (qsizetype i = 1; i < views.size(); ++i) {

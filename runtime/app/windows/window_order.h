@@ -6,8 +6,8 @@ namespace tetrad {
 
 class Window;
 
-/// Every window that exists and was not closed for good. The window system can be asked for neither
-/// list (some let no program see its stacking), so windows enter and leave by themselves.
+/// Every window that exists and was not closed for good. The window system reports neither
+/// list (some hide their stacking order), so windows add and remove themselves.
 class WindowOrder
 {
 public:

@@ -32,7 +32,7 @@ void notify(const QPointer<Window> &window, const QList<Notification> &notificat
     }
 }
 
-// Asks about a zoom that the window system has begun. It is undone later: the window system must
+// Queries the delegate about a zoom that the window system has begun. It is undone later: the window system must
 // not be contradicted while it is still at it.
 void confirmZoom(const QPointer<Window> &window)
 {
@@ -107,7 +107,7 @@ void WindowTranslator::shown()
 }
 
 // What the window system did is judged a moment later: a new state of the window and the geometry that belongs to it
-// come in either order, and a drag comes in more steps than anybody wants to be asked about.
+// come in either order, and a drag comes in more steps than the delegate should be queried about.
 void WindowTranslator::changed(bool byWindowSystem)
 {
     if (m_place.isNull()) {
@@ -174,8 +174,8 @@ void WindowTranslator::report(bool userMoved, bool userResized)
     }
 }
 
-// Asks once for each size that is offered. A window manager may go on with its own size as long as the user drags, so
-// the window is held at another size in the answer until the drag is over.
+// Queries the delegate once for each size that is offered. A window manager may go on with its own size as long as the
+// user drags, so the window is held at another size in the answer until the drag is over.
 void WindowTranslator::confirmSize(const QSizeF &size)
 {
     const QPointer<Window> window = m_window;

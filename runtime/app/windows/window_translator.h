@@ -16,8 +16,8 @@ class Window;
 /// Turns the window system's events for one window into calls of the window's delegate; nothing else
 /// looks at event types for that purpose.
 ///
-/// What this platform announces only after the fact is asked then, and a differing answer corrects
-/// what was done: a size the user dragged to, a zoom. A live resize is a run of resizes by the window
+/// This platform reports a dragged size or a zoom only after the fact. The delegate is queried then, and a different
+/// answer corrects what was done. A live resize is a run of resizes by the window
 /// system that ends when none has come for liveResizePause_ms.
 class WindowTranslator
 {
