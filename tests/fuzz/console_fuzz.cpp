@@ -1,8 +1,8 @@
 // The display list: random operations, then drawing, then the archive. Input: operations, each a byte with
 // its operands. Every part must show, pixel for pixel, what drawing the whole list shows there.
 
-#include "tests/fuzz/whole_list.h"
 #include "tests/fuzz/fuzz_input.h"
+#include "tests/fuzz/whole_list.h"
 
 #include <QApplication>
 

@@ -6,12 +6,15 @@
 #include <QMetaType>
 #include <QPointF>
 #include <QRectF>
-#include <QSharedDataPointer>
+#include <QSharedData>
 #include <QString>
 #include <QVariantMap>
 
+#include <memory>
+
 namespace tetrad {
 
+struct FontChoice;
 struct FontFacts;
 
 /// Where tabs lead, in device-independent pixels from the start of the text.
@@ -32,11 +35,6 @@ class TextAttributes
 public:
     /// The standard font at 12 pixels, the palette's text colour, nothing behind it, tabs every 28 pixels.
     TextAttributes();
-    TextAttributes(const TextAttributes &);
-    TextAttributes(TextAttributes &&) noexcept;
-    TextAttributes &operator=(const TextAttributes &);
-    TextAttributes &operator=(TextAttributes &&) noexcept;
-    ~TextAttributes();
 
     QString fontName() const;
     void setFontName(const QString &name);
@@ -46,26 +44,35 @@ public:
     void setFontSize(double size);
 
     /// Invalid: the palette's text colour at the time of drawing.
-    QColor foregroundColor() const;
-    void setForegroundColor(const QColor &color);
+    QColor foregroundColor() const { return m_data->foreground; }
+    void setForegroundColor(const QColor &color) { m_data->foreground = color; }
 
     /// Invalid or transparent: nothing is drawn behind the text.
-    QColor backgroundColor() const;
-    void setBackgroundColor(const QColor &color);
+    QColor backgroundColor() const { return m_data->background; }
+    void setBackgroundColor(const QColor &color) { m_data->background = color; }
 
-    const ParagraphStyle &paragraphStyle() const;
-    void setParagraphStyle(const ParagraphStyle &style);
+    const ParagraphStyle &paragraphStyle() const { return m_data->paragraph; }
+    void setParagraphStyle(const ParagraphStyle &style) { m_data->paragraph = style; }
 
-    const FontFacts &facts() const;
+    const FontFacts &facts() const { return *m_data->facts; }
 
+    /// Holds the palette's text colour as it is now where no colour was set: once merged back, it stays that colour.
     QVariantMap toMap() const;
 
     /// Copies every key of the map; keys not mentioned stay, keys with no meaning here are kept and given back.
     void merge(const QVariantMap &map);
 
 private:
-    struct Data;
+    struct Data : QSharedData
+    {
+        std::shared_ptr<const FontFacts> facts;
+        QColor foreground;
+        QColor background = Qt::transparent;
+        ParagraphStyle paragraph;
+        QVariantMap others;
+    };
     static QSharedDataPointer<Data> &initialData();
+    void setFont(const FontChoice &choice);
 
     QSharedDataPointer<Data> m_data;
 };
@@ -93,13 +100,6 @@ class CUI_PrintToWindowItem
 public:
     enum Type : quint32 { text = 0, line = 1, rectangle = 2, oval = 3 };
 
-    CUI_PrintToWindowItem();
-    CUI_PrintToWindowItem(const CUI_PrintToWindowItem &);
-    CUI_PrintToWindowItem(CUI_PrintToWindowItem &&) noexcept;
-    CUI_PrintToWindowItem &operator=(const CUI_PrintToWindowItem &);
-    CUI_PrintToWindowItem &operator=(CUI_PrintToWindowItem &&) noexcept;
-    ~CUI_PrintToWindowItem();
-
     static CUI_PrintToWindowItem itemWithString(const QString &string, QPointF pt, const TextAttributes &attributes);
     static CUI_PrintToWindowItem itemWithLinePoint1(QPointF linePt1, QPointF linePt2);
     /// An unknown type counts as a text without characters and draws nothing.
@@ -114,28 +114,37 @@ public:
     const QString &string() const { return m_string; }
     const TextAttributes &attributes() const { return m_attributes; }
 
-    QPointF linePt1() const;
-    QPointF linePt2() const;
-    QRectF rect() const;
+    QPointF linePt1() const { return shape().linePt1; }
+    QPointF linePt2() const { return shape().linePt2; }
+    QRectF rect() const { return shape().rect; }
 
     /// Width 0 and no colour until it is set; a text's stays so.
-    const LineStyle &lineStyle() const;
-    void setLineStyle(const LineStyle &style);
+    const LineStyle &lineStyle() const { return shape().lineStyle; }
+    void setLineStyle(const LineStyle &style) { editShape().lineStyle = style; }
 
     /// Sets the colours alone; they replace those of the line style.
     void setColors(const QColor &strokeColor, const QColor &fillColor);
     /// Invalid: no fill.
-    QColor fillColor() const;
+    QColor fillColor() const { return shape().fillColor; }
 
     /// Carried and archived but deliberately never consulted when drawing: an item is stroked by its width and filled
     /// by its colour, and archives are read by programs that expect the two keys.
-    bool strokeFlag() const;
-    void setStrokeFlag(bool flag);
-    bool fillFlag() const;
-    void setFillFlag(bool flag);
+    bool strokeFlag() const { return shape().strokeFlag; }
+    void setStrokeFlag(bool flag) { editShape().strokeFlag = flag; }
+    bool fillFlag() const { return shape().fillFlag; }
+    void setFillFlag(bool flag) { editShape().fillFlag = flag; }
 
 private:
-    struct Shape;
+    struct Shape : QSharedData
+    {
+        QPointF linePt1;
+        QPointF linePt2;
+        QRectF rect;
+        LineStyle lineStyle{.lineWidth = 0, .strokeColor = {}};
+        QColor fillColor;
+        bool strokeFlag = false;
+        bool fillFlag = false;
+    };
     static const Shape &noShape();
     const Shape &shape() const { return m_shape ? *m_shape : noShape(); }
     Shape &editShape();

@@ -1,4 +1,4 @@
-// Implemented in runtime/console/console_statements.cpp and colors.cpp
+// Implemented in runtime/console/console_statements.cpp
 #pragma once
 
 #include <tetrad/strings/text_format.h>
@@ -24,10 +24,22 @@ struct CUI_PrintToWindowDefaults
     bool autoHideScroller = false;
 };
 
-QColor ColorBlack();
-QColor ColorGreen(); ///< pure green: red 0, green 1, blue 0
-QColor ColorRed();
-QColor ColorWhite();
+inline QColor ColorBlack()
+{
+    return Qt::black;
+}
+inline QColor ColorGreen()
+{
+    return Qt::green;
+}
+inline QColor ColorRed()
+{
+    return Qt::red;
+}
+inline QColor ColorWhite()
+{
+    return Qt::white;
+}
 
 /// The window that prints go to; one with tag 999999 and the title "• Print to Window •" is made when
 /// the program has none. Null only if that failed.

@@ -18,21 +18,6 @@ class KeptPicture;
 class CUI_PrintToWindowView : public QWidget, public ConsoleDocument
 {
     Q_OBJECT
-    Q_PROPERTY(QString textString READ textString)
-    Q_PROPERTY(double textInset READ textInset WRITE setTextInset)
-    Q_PROPERTY(double viewH READ viewH WRITE setViewH)
-    Q_PROPERTY(double viewW READ viewW WRITE setViewW)
-    Q_PROPERTY(QPointF currentPoint READ currentPoint WRITE setCurrentPoint)
-    Q_PROPERTY(QVariantMap currentAttributes READ currentAttributes WRITE setAttributes)
-    Q_PROPERTY(qint64 currentAlignment READ currentAlignment WRITE setAlignment)
-    Q_PROPERTY(bool flipView READ flipView WRITE setFlipView)
-    Q_PROPERTY(QPointF currentLinePoint READ currentLinePoint WRITE setCurrentLinePoint)
-    Q_PROPERTY(double currentLineWidth READ currentLineWidth WRITE setCurrentLineWidth)
-    Q_PROPERTY(quint32 currentLineCapStyle READ currentLineCapStyle WRITE setCurrentLineCapStyle)
-    Q_PROPERTY(QList<double> currentLineDashPattern READ currentLineDashPattern WRITE setCurrentLineDashPattern)
-    Q_PROPERTY(double currentLineDashPhase READ currentLineDashPhase WRITE setCurrentLineDashPhase)
-    Q_PROPERTY(QColor currentStrokeColor READ currentStrokeColor WRITE setCurrentStrokeColor)
-    Q_PROPERTY(QColor currentFillColor READ currentFillColor WRITE setCurrentFillColor)
     Q_PROPERTY(bool canCopy READ canCopy)
 
 public:

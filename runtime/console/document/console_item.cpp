@@ -1,26 +1,6 @@
 #include <tetrad/console/console_item.h>
 
-#include <QSharedData>
-
 namespace tetrad {
-
-struct CUI_PrintToWindowItem::Shape : QSharedData
-{
-    QPointF linePt1;
-    QPointF linePt2;
-    QRectF rect;
-    LineStyle lineStyle{.lineWidth = 0, .strokeColor = {}};
-    QColor fillColor;
-    bool strokeFlag = false;
-    bool fillFlag = false;
-};
-
-CUI_PrintToWindowItem::CUI_PrintToWindowItem() = default;
-CUI_PrintToWindowItem::CUI_PrintToWindowItem(const CUI_PrintToWindowItem &) = default;
-CUI_PrintToWindowItem::CUI_PrintToWindowItem(CUI_PrintToWindowItem &&) noexcept = default;
-CUI_PrintToWindowItem &CUI_PrintToWindowItem::operator=(const CUI_PrintToWindowItem &) = default;
-CUI_PrintToWindowItem &CUI_PrintToWindowItem::operator=(CUI_PrintToWindowItem &&) noexcept = default;
-CUI_PrintToWindowItem::~CUI_PrintToWindowItem() = default;
 
 CUI_PrintToWindowItem CUI_PrintToWindowItem::itemWithString(const QString &string, QPointF pt,
                                                             const TextAttributes &attributes)
@@ -51,60 +31,10 @@ CUI_PrintToWindowItem CUI_PrintToWindowItem::itemWithType(quint32 type, const QR
     return item;
 }
 
-QPointF CUI_PrintToWindowItem::linePt1() const
-{
-    return shape().linePt1;
-}
-
-QPointF CUI_PrintToWindowItem::linePt2() const
-{
-    return shape().linePt2;
-}
-
-QRectF CUI_PrintToWindowItem::rect() const
-{
-    return shape().rect;
-}
-
-const LineStyle &CUI_PrintToWindowItem::lineStyle() const
-{
-    return shape().lineStyle;
-}
-
-void CUI_PrintToWindowItem::setLineStyle(const LineStyle &style)
-{
-    editShape().lineStyle = style;
-}
-
 void CUI_PrintToWindowItem::setColors(const QColor &strokeColor, const QColor &fillColor)
 {
     editShape().lineStyle.strokeColor = strokeColor;
     editShape().fillColor = fillColor;
-}
-
-QColor CUI_PrintToWindowItem::fillColor() const
-{
-    return shape().fillColor;
-}
-
-bool CUI_PrintToWindowItem::strokeFlag() const
-{
-    return shape().strokeFlag;
-}
-
-void CUI_PrintToWindowItem::setStrokeFlag(bool flag)
-{
-    editShape().strokeFlag = flag;
-}
-
-bool CUI_PrintToWindowItem::fillFlag() const
-{
-    return shape().fillFlag;
-}
-
-void CUI_PrintToWindowItem::setFillFlag(bool flag)
-{
-    editShape().fillFlag = flag;
 }
 
 const CUI_PrintToWindowItem::Shape &CUI_PrintToWindowItem::noShape()

@@ -124,6 +124,7 @@ double plainAdvance(const QFont &font)
 std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
 {
     auto facts = std::make_shared<FontFacts>();
+    facts->choice = choice;
     facts->font = drawnFont(choice);
     facts->emojiFont = facts->font;
     if (const QString emoji = emojiFamily(); !emoji.isEmpty()) {

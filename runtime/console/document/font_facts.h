@@ -32,6 +32,7 @@ bool isFontSize(double size);
 /// A font as the console draws it. Sizes and lengths are device-independent pixels, fractions kept.
 struct FontFacts
 {
+    FontChoice choice;
     QFont font;
     QFont emojiFont;
     double ascent = 0;
