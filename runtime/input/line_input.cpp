@@ -41,6 +41,19 @@ QPointer<ZRInputWindow> makePanel(const QString &prompt, qint64 x, qint64 y)
     return panel;
 }
 
+/// Hides a panel and deletes it when the next one retires: on the next focus event a screen reader queries the field
+/// that had the focus before, and Orca says nothing when that field is gone.
+void retire(const QPointer<ZRInputWindow> &panel)
+{
+    static QPointer<ZRInputWindow> before;
+    if (panel) {
+        panel->field()->clearFocus();
+        panel->hide();
+    }
+    delete before.data();
+    before = panel;
+}
+
 } // namespace
 
 void InputSetFormat(const QString &characters, qint64 pass, qint64 maxLength, qint64 caseOption)
@@ -77,7 +90,7 @@ QString ZRInput(qint64 x, qint64 y, const QString &prompt, const QString &charac
     delegate->setInputWnd(panel);
     const qint64 code = panel->run();
     delegate->setInputWnd(nullptr);
-    delete panel.data();
+    retire(panel);
     return code == modalStopped ? delegate->inputResponseString() : QString();
 }
 

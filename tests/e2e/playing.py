@@ -24,6 +24,10 @@ PUZZLE = re.compile(r"difficulty level (?P<level>[^\n]*?)\n\s*(?P<numbers>[1-9](
 Puzzle = namedtuple("Puzzle", "level numbers")
 
 
+def console_of(node):
+    return next((text for text in node.find_all("text", "entry") if "multi-line" in text.states), None)
+
+
 def prompt_after(answer):
     return f"Enter math expression: [ '{answer}' was incorrect ]"
 
@@ -62,7 +66,7 @@ class Game:
         return self.desktop.window_of(self.process.pid, name)
 
     def console(self):
-        return self.application.find("terminal")
+        return console_of(self.application)
 
     def screen(self):
         """The text of the console since it was last cleared."""

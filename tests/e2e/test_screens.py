@@ -5,7 +5,7 @@ import os
 from desktop import until
 from palettes import DARK, HIGH_CONTRAST, environment_with
 from pixels import Picture
-from playing import PROMPT, PlayingTest, prompt_after
+from playing import PROMPT, PlayingTest, console_of, prompt_after
 
 BLACK, WHITE, GREEN, RED = (0, 0, 0), (255, 255, 255), (0, 255, 0), (255, 0, 0)
 
@@ -134,7 +134,7 @@ class TestTwoWindows(PlayingTest):
 
     def answer(self, window, text):
         self.program.answer(text, "Which?")
-        until(lambda: text in self.window(window).find("terminal").text.splitlines(), f"{text!r} in {window!r}")
+        until(lambda: text in console_of(self.window(window)).text.splitlines(), f"{text!r} in {window!r}")
 
     def test_the_other_window_brought_to_the_front_gives_way(self):
         for name, bring in [

@@ -93,10 +93,10 @@ void atQuestion(std::size_t number)
         EXPECT_EQ(screen(), shown) << number;
         EXPECT_EQ(QString::asprintf("%lld %lld ", panel->xPos(), panel->yPos()) + panel->prompt(), place);
         QTest::keyClicks(panel->field(), answer);
-        if (number + 1 < std::size(questions)) {
-            QObject::connect(panel, &QObject::destroyed, qApp, [number] { atQuestion(number + 1); });
-        }
         QTest::keyClick(panel->field(), Qt::Key_Return);
+        if (number + 1 < std::size(questions)) {
+            atQuestion(number + 1);
+        }
     });
 }
 

@@ -34,9 +34,11 @@ void whenPanelRuns(std::function<void(Panel &)> user)
         user(*panel);
         if (waiting) {
             // Not reached when the user's last key ended the run, since the panel is deleted then.
-            QTimer::singleShot(0, waiting, [] {
-                ADD_FAILURE() << "the panel still waits";
-                abortModal();
+            QTimer::singleShot(0, waiting, [waiting] {
+                if (modalWindow() == waiting) {
+                    ADD_FAILURE() << "the panel still waits";
+                    abortModal();
+                }
             });
         }
     });

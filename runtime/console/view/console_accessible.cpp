@@ -32,12 +32,13 @@ qsizetype inward(CUI_PrintToWindowView *view, int offset)
     return clientsCountCharacters ? view->reader().text().offsetOfCharacter(offset) : offset;
 }
 
-/// The console as assistive technology sees it: the reader's text, rectangles in screen coordinates.
+/// The console as assistive technology sees it: the reader's text, rectangles in screen coordinates. Deliberately not
+/// a terminal: Orca speaks neither the name nor the description of one.
 class ConsoleAccessible : public QAccessibleWidget, public QAccessibleTextInterface
 {
 public:
     explicit ConsoleAccessible(CUI_PrintToWindowView *view)
-        : QAccessibleWidget(view, QAccessible::Terminal), m_view(view)
+        : QAccessibleWidget(view, QAccessible::EditableText), m_view(view)
     {}
 
     void *interface_cast(QAccessible::InterfaceType type) override

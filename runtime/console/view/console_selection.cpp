@@ -35,6 +35,10 @@ void ConsoleSelection::focusChanged(QWidget *before, QWidget *now)
     if (now == m_view && before && before->focusPolicy() != Qt::NoFocus) {
         m_focusBefore = before;
     }
+    if (now == m_view) {
+        // A screen reader speaks the line of the caret, and the description as a whole.
+        m_view->setAccessibleDescription(m_view->reader().text().text().trimmed());
+    }
     if (now == m_view || before == m_view) {
         m_view->update();
     }
