@@ -150,7 +150,7 @@ std::shared_ptr<const ShapedText> shapedText(const QString &text, const TextAttr
     if (const auto *known = shapes.object(drawn)) {
         return *known;
     }
-    const auto shape = std::make_shared<const ShapedText>(drawn, attributes);
+    auto shape = std::make_shared<const ShapedText>(drawn, attributes);
     shapes.insert(drawn, new auto(shape));
     return shape;
 }

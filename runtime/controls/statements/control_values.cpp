@@ -25,9 +25,9 @@ namespace {
 // The properties that hold a control's text, number and items; null without one.
 struct ValueProperties
 {
-    const QMetaObject *controlClass;
-    const char *text;
-    const char *number;
+    const QMetaObject *controlClass = nullptr;
+    const char *text = nullptr;
+    const char *number = nullptr;
     const char *items = nullptr;
 };
 
