@@ -123,7 +123,8 @@ void FloatingPanel::setKeyReceiver(QWidget *receiver)
 bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (watched == parentWidget() && type == QEvent::Resize) {
+    const bool fontChanged = type == QEvent::FontChange && m_entry && (watched == m_label || watched == m_entry);
+    if (fontChanged || (watched == parentWidget() && type == QEvent::Resize)) {
         resize();
     } else if (watched == parentWidget() && type == QEvent::ChildPolished) {
         // A view made later would stand above the panel.
@@ -131,8 +132,6 @@ bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
     } else if (type == QEvent::ApplicationPaletteChange || type == QEvent::ApplicationFontChange) {
         // Only windows get these events.
         adoptApplicationLook();
-    } else if (type == QEvent::FontChange && m_entry && (watched == m_label || watched == m_entry)) {
-        resize();
     }
     return QWidget::eventFilter(watched, event);
 }
