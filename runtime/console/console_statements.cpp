@@ -19,7 +19,7 @@ QWidget *targetWindow()
     return CUI_TargetWindow(&tag);
 }
 
-/// Lets a statement act on the output window's console, or on nothing when there is no window.
+// Lets a statement act on the output window's console, or on nothing when there is no window.
 template <typename Action>
 void withOutputWindow(Action action)
 {
@@ -28,7 +28,7 @@ void withOutputWindow(Action action)
     }
 }
 
-/// Lets an operation act on a window's console, or on nothing when the window has no content view.
+// Lets an operation act on a window's console, or on nothing when the window has no content view.
 template <typename Action>
 void withView(QWidget *window, Action action)
 {

@@ -17,7 +17,7 @@ CharacterSet refusedSet(const QString &characters, bool pass, qint64 caseOption)
     return pass ? listed.inverted() : listed;
 }
 
-/// First letter of each word upper, the others lower; white space separates words.
+// First letter of each word upper, the others lower; white space separates words.
 QString capitalized(const QString &text)
 {
     QString result = text.toLower();

@@ -10,7 +10,7 @@ namespace tetrad {
 
 namespace {
 
-/// Turns the field's text into another one by a single edit of the part that differs.
+// Turns the field's text into another one by a single edit of the part that differs.
 void editInto(QLineEdit *field, const QString &text)
 {
     const QString old = field->text();

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A key that may still be held down from the previous answer; its repetition is no new answer.
+// A key that may still be held down from the previous answer; its repetition is no new answer.
 bool isLeftover(const QKeyEvent *event)
 {
     return event->isAutoRepeat() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||

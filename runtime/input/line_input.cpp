@@ -18,8 +18,8 @@ namespace {
 
 std::optional<ZRInputFormat> sPendingInputFormat;
 
-/// While it lives, assistive technology gets no events. A screen reader takes a field whose caret moved before the
-/// field got the focus, as QLineEdit::setMaxLength reports, for one that it has already spoken.
+// While it lives, assistive technology gets no events. A screen reader takes a field whose caret moved before the
+// field got the focus, as QLineEdit::setMaxLength reports, for one that it has already spoken.
 class NoAccessibleEvents
 {
 public:
@@ -41,8 +41,8 @@ QPointer<ZRInputWindow> makePanel(const QString &prompt, qint64 x, qint64 y)
     return panel;
 }
 
-/// Hides a panel and deletes it when the next one retires: on the next focus event a screen reader queries the field
-/// that had the focus before, and Orca says nothing when that field is gone.
+// Hides a panel and deletes it when the next one retires: on the next focus event a screen reader queries the field
+// that had the focus before, and Orca says nothing when that field is gone.
 void retire(const QPointer<ZRInputWindow> &panel)
 {
     static QPointer<ZRInputWindow> before;

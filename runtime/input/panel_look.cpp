@@ -16,7 +16,7 @@ namespace {
 
 constexpr int shadowOffset = 3;
 constexpr double cornerRadius = 10.0;
-/// From the panel's left and right to where its picture no longer depends on x.
+// From the panel's left and right to where its picture no longer depends on x.
 constexpr int endWidth = 25;
 static_assert(endWidth > shadowMargin + cornerRadius);
 
@@ -34,7 +34,7 @@ QColor edgeColor(const QPalette &palette)
     return color;
 }
 
-/// Rings that add up to a shadow which fades outwards and stays outside the body.
+// Rings that add up to a shadow which fades outwards and stays outside the body.
 void paintShadow(QPainter &painter, const QRectF &body)
 {
     QPainterPath outside;
@@ -61,8 +61,8 @@ void paintOutlines(QPainter &painter, const QRect &panel, const QPalette &palett
     painter.drawRoundedRect(body.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
 }
 
-/// Both ends of a panel of this height with one pixel between them, kept because smooth outlines cost more than
-/// everything else that a key press paints: without it a key takes three times as long.
+// Both ends of a panel of this height with one pixel between them, kept because smooth outlines cost more than
+// everything else that a key press paints: without it a key takes three times as long.
 QPixmap narrowPanel(int height, int scale, const QPalette &palette)
 {
     const QString key = u"tetrad panel %1 %2 %3 %4"_s.arg(height).arg(scale).arg(

@@ -25,7 +25,7 @@ QString textOrNull(const QString &text)
     return text.isNull() ? u"(null)"_s : text;
 }
 
-/// The shortest form that reads back as the same float; through a double it would be 0.10000000149.
+// The shortest form that reads back as the same float; through a double it would be 0.10000000149.
 QString floatDescription(float number)
 {
     std::array<char, 32> digits{};
@@ -57,7 +57,7 @@ QString objectDescription(const QObject *object)
                   : textOrNull({});
 }
 
-/// A value of some other type: its text form if it has one, else the type's name.
+// A value of some other type: its text form if it has one, else the type's name.
 QString otherDescription(const QVariant &value)
 {
     if (value.canConvert<QVariantMap>()) {

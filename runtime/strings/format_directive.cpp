@@ -47,7 +47,7 @@ private:
         return value;
     }
 
-    /// "2$", or 0 and nothing read if that is not what comes next.
+    // "2$", or 0 and nothing read if that is not what comes next.
     int position()
     {
         const qsizetype start = m_at;

@@ -44,7 +44,7 @@ constexpr auto encodings = [] {
     return table;
 }();
 
-/// The character's byte, or 0, which no character above ASCII has, if Mac Roman lacks it.
+// The character's byte, or 0, which no character above ASCII has, if Mac Roman lacks it.
 unsigned char upperByte(char16_t character)
 {
     const auto found = std::ranges::lower_bound(encodings, character, {}, &Encoding::character);

@@ -14,8 +14,8 @@ namespace {
 // Single precision on purpose: it is a little below 1e-6, so that a fraction of 1e-6 still prints.
 constexpr float smallestFraction = 1e-6F;
 
-/// The digits of a fraction, as in "25" of "-0.2500000000". Deliberately drops leading zeros with the sign and the
-/// point: programs rely on this form, in which 2.05 prints like 2.5. A fraction that rounds up to one leaves "1.".
+// The digits of a fraction, as in "25" of "-0.2500000000". Deliberately drops leading zeros with the sign and the
+// point: programs rely on this form, in which 2.05 prints like 2.5. A fraction that rounds up to one leaves "1.".
 QStringView fractionDigits(QStringView printed)
 {
     while (printed.endsWith(u'0')) {

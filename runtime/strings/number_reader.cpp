@@ -11,7 +11,7 @@ namespace tetrad {
 
 namespace {
 
-/// The start of a text as far as it may belong to a number: its sign apart, the rest in ASCII.
+// The start of a text as far as it may belong to a number: its sign apart, the rest in ASCII.
 struct NumberText
 {
     bool negative = false;
@@ -37,8 +37,8 @@ NumberText leadingNumber(QStringView text)
     return {negative, startsNumber ? text.toLatin1() : QByteArray()};
 }
 
-/// Distinguishes a number beyond the largest double from one below the smallest: whether its first digit other than
-/// zero is before the point once the exponent is applied.
+// Distinguishes a number beyond the largest double from one below the smallest: whether its first digit other than
+// zero is before the point once the exponent is applied.
 bool isBeyondLargest(const QByteArray &number)
 {
     const auto isExponentMark = [](char character) { return character == 'e' || character == 'E'; };

@@ -26,7 +26,7 @@ bool isFloating(const QVariant &value)
     return value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float;
 }
 
-/// The argument as the 64 bits that printf would read.
+// The argument as the 64 bits that printf would read.
 quint64 bitsOf(const QVariant &value, const FormatDirective &directive)
 {
     const bool isSigned = directive.conversion == 'd' || directive.conversion == 'i';
@@ -49,7 +49,7 @@ quint64 bitsOf(const QVariant &value, const FormatDirective &directive)
     return isUnsigned(value) ? value.toULongLong() : quint64(value.toLongLong());
 }
 
-/// One run over a format text and its arguments.
+// One run over a format text and its arguments.
 class TextFormatter
 {
 public:
@@ -76,7 +76,7 @@ public:
     }
 
 private:
-    /// The argument at a position from 1, or the next one for 0; null beyond the last.
+    // The argument at a position from 1, or the next one for 0; null beyond the last.
     QVariant argumentAt(int position)
     {
         const std::size_t index = position > 0 ? static_cast<std::size_t>(position) - 1 : m_next++;
@@ -142,7 +142,7 @@ private:
         }
     }
 
-    /// A negative width means left-adjusted, as for printf.
+    // A negative width means left-adjusted, as for printf.
     static QString padded(const QString &text, int width)
     {
         return width < 0 ? text.leftJustified(-width) : text.rightJustified(width);

@@ -40,7 +40,7 @@ bool isOwned(xcb_connection_t *connection, xcb_atom_t selection)
     return reply && reply->owner != XCB_NONE;
 }
 
-/// Ends a loop when the manager answers that it has taken everything, or cannot.
+// Ends a loop when the manager answers that it has taken everything, or cannot.
 class AnswerOfManager : public QAbstractNativeEventFilter
 {
 public:

@@ -60,8 +60,8 @@ QPointF ConsoleDocument::addString(const QString &string, QPointF at)
     return addString(string);
 }
 
-/// Deliberately neither the inset nor the current x counts for a centred or right-aligned piece, yet the current x
-/// moves on as for any other: programs place what follows by it.
+// Deliberately neither the inset nor the current x counts for a centred or right-aligned piece, yet the current x
+// moves on as for any other: programs place what follows by it.
 double ConsoleDocument::pieceX(double width) const
 {
     switch (m_alignment) {
@@ -74,7 +74,7 @@ double ConsoleDocument::pieceX(double width) const
     }
 }
 
-/// An empty piece becomes an item too, deliberately: archives count two items for one printed line.
+// An empty piece becomes an item too, deliberately: archives count two items for one printed line.
 void ConsoleDocument::addPiece(const QString &piece, bool last)
 {
     const TextExtent extent = measureText(piece, m_attributes);

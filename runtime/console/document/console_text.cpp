@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The parts between blank lines, without the white space around them.
+// The parts between blank lines, without the white space around them.
 QStringList paragraphs(const QString &text)
 {
     QStringList parts = text.split(u"\n\n"_s);

@@ -45,13 +45,13 @@ bool isSkinTone(char32_t code)
     return code >= 0x1F3FB && code <= 0x1F3FF;
 }
 
-/// The tag characters that spell the region of a subdivision's flag.
+// The tag characters that spell the region of a subdivision's flag.
 bool isFlagTag(char32_t code)
 {
     return code >= 0xE0020 && code <= 0xE007F;
 }
 
-/// One code point of the text; reading past the end gives 0.
+// One code point of the text; reading past the end gives 0.
 struct Reader
 {
     const QString &text;
@@ -78,7 +78,7 @@ struct Reader
         return follower == emojiSelector || hasEmojiPresentation(code);
     }
 
-    /// Just past the picture that starts at index: selectors, skin tones and tags, and whatever is joined on.
+    // Just past the picture that starts at index: selectors, skin tones and tags, and whatever is joined on.
     qsizetype pictureEnd(qsizetype index) const
     {
         qsizetype end = next(index);

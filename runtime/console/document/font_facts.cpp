@@ -70,7 +70,7 @@ QString emojiFamily()
     return {};
 }
 
-/// Typographic points per device-independent pixel.
+// Typographic points per device-independent pixel.
 double pointsPerPixel()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();

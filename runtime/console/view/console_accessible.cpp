@@ -32,8 +32,8 @@ qsizetype inward(CUI_PrintToWindowView *view, int offset)
     return clientsCountCharacters ? view->reader().text().offsetOfCharacter(offset) : offset;
 }
 
-/// The console as assistive technology sees it: the reader's text, rectangles in screen coordinates. Deliberately not
-/// a terminal: Orca speaks neither the name nor the description of one.
+// The console as assistive technology sees it: the reader's text, rectangles in screen coordinates. Deliberately not
+// a terminal: Orca speaks neither the name nor the description of one.
 class ConsoleAccessible : public QAccessibleWidget, public QAccessibleTextInterface
 {
 public:
@@ -200,7 +200,7 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     return view ? new ConsoleAccessible(view) : nullptr;
 }
 
-/// Kept, since it is queried for every printed item.
+// Kept, since it is queried for every printed item.
 struct Listening : QAccessible::ActivationObserver
 {
     bool active = QAccessible::isActive();

@@ -136,7 +136,7 @@ qsizetype ConsoleSelection::destination(const QKeyEvent &event) const
     }
 }
 
-/// A page overlaps the one before by a line.
+// A page overlaps the one before by a line.
 qsizetype ConsoleSelection::pageAway(int direction) const
 {
     ConsoleReader &reader = m_view->reader();

@@ -11,7 +11,7 @@ namespace tetrad {
 
 namespace {
 
-/// The window's own pixels, when the painter paints into them and not into a picture of the widget.
+// The window's own pixels, when the painter paints into them and not into a picture of the widget.
 const QImage *screenOf(const QPainter &painter, const QWidget &widget)
 {
     QBackingStore *const store = widget.window()->backingStore();

@@ -42,7 +42,7 @@ Qt::PenCapStyle capStyle(quint32 code)
     }
 }
 
-/// A pattern of no length, or with a part that is negative or not finite, is drawn solid.
+// A pattern of no length, or with a part that is negative or not finite, is drawn solid.
 bool isUsable(const QList<double> &pattern)
 {
     double length = 0;
@@ -96,8 +96,8 @@ void fill(QPainter &painter, const Item &item, const QRectF &extent)
     painter.drawEllipse(extent.normalized());
 }
 
-/// Whether the painter loses its position in a dash pattern at what it need not repaint, so that a part drawn again
-/// would have other dashes. It does not where it follows a line of one device pixel.
+// Whether the painter loses its position in a dash pattern at what it need not repaint, so that a part drawn again
+// would have other dashes. It does not where it follows a line of one device pixel.
 bool losesItsPosition(const QPainter &painter, const QPen &pen, const QRectF &extent)
 {
     const QRectF bounds = extent.normalized();
