@@ -1,6 +1,7 @@
 // Answers: judged whole, and the evaluator alone. Input: a puzzle's position, then the answer.
 
 #include "tests/fuzz/fuzz_input.h"
+#include "tests/game/puzzles.h"
 
 #include "game/rules/answer.h"
 #include "game/rules/expression.h"
@@ -49,21 +50,12 @@ void evaluate(const QString &text)
 
 void judge(const QString &answer, const QString &puzzle)
 {
-    PuzzleNumbers numbers([](quint32 index, quint32 bound, quint32, const QString &) {
-        require(index <= bound, "an index is within its bound", QString::number(index));
-        return index;
-    });
-    // Digits with a blank after each.
-    const QStringList digits = puzzle.split(u' ', Qt::SkipEmptyParts);
-    for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
-        numbers.at(i, 0) = digits.at(i - 1).toShort();
-    }
-    const Outcome outcome = judgeAnswer(answer, numbers);
+    const Outcome outcome = judgeAnswer(answer, numbersOf(puzzle));
     require(gZRStk == 0, "the string stack is back at its start", answer);
     require(outcome != Outcome::noSequence, "every text has a result", answer);
     require(answer.isEmpty() == (outcome == Outcome::nothingTyped), "nothing typed is the empty answer", answer);
     if (outcome == Outcome::correct || outcome == Outcome::incorrect) {
-        for (const QString &digit : digits) {
+        for (const QString &digit : puzzle.split(u' ')) {
             require(answer.contains(digit), "every number was used", answer);
         }
         const qint64 value = StringIntegerValue(EvaluateMath(answer));

@@ -1,10 +1,11 @@
 // The game's own loop, unattended: a timer answers whatever the loop asks, until the given number of puzzles
-// was played (10,000 unless told otherwise). From the 100th puzzle on, nothing may be left over from one
-// question to the next: no window, no file, no slot of the string stack, and no memory.
+// was played (10,000 unless told otherwise). No cycle of 96 may show a puzzle twice. From the 100th puzzle on, nothing
+// may be left over from one question to the next: no window, no file, no slot of the string stack, and no memory.
 //   soak [PUZZLES]
 
 #include "game/rules/puzzle_deck.h"
-#include "solutions.h"
+#include "tests/fuzz/fuzz_input.h"
+#include "tests/game/puzzles.h"
 
 #include <tetrad/app/alert.h>
 #include <tetrad/app/application.h>
@@ -17,16 +18,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QTimer>
 
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <malloc.h>
-#include <unistd.h>
 
 int gameMain(int argc, char **argv);
 
@@ -42,16 +42,11 @@ quint32 drawnRandom()
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
+using fuzz::require;
 
 namespace {
 
 constexpr int puzzlesBefore = 100;
-
-qint64 heapInUse_bytes()
-{
-    const struct mallinfo2 facts = mallinfo2();
-    return static_cast<qint64>(facts.uordblks) + static_cast<qint64>(facts.hblkhd);
-}
 
 // What the process holds while the game asks, and by how much it may have grown in the end.
 struct Holding
@@ -68,29 +63,18 @@ std::array holdings = {
     Holding{"open files", [] { return qint64(QDir(u"/proc/self/fd"_s).entryList().size()); }},
     // Two bytes for each of 10,000 puzzles, less than any object, timer or connection takes; what the game has shown of
     // a cycle takes some kilobytes.
-    Holding{"heap bytes", heapInUse_bytes, 20'000},
+    Holding{"heap bytes", [] { return qint64(mallinfo2().uordblks + mallinfo2().hblkhd); }, 20'000},
 };
-
-void require(bool holds, const char *what)
-{
-    if (!holds) {
-        std::printf("FAILED: %s\n", what);
-        std::fflush(stdout);
-        std::_Exit(1);
-    }
-}
 
 [[noreturn]] void finish(int puzzles)
 {
-    bool isFlat = true;
     std::printf("%-12s %12d %12d\n", "at puzzle", puzzlesBefore, puzzles);
     for (const Holding &holding : holdings) {
         const qint64 now = holding.now();
         std::printf("%-12s %12lld %12lld\n", holding.name, holding.before, now);
-        isFlat = isFlat && now <= holding.before + holding.mayGrow;
+        std::fflush(stdout);
+        require(now <= holding.before + holding.mayGrow, "nothing is left over", QString::fromUtf8(holding.name));
     }
-    require(isFlat, "nothing is left over");
-    std::fflush(stdout);
     std::remove(qgetenv("TEST_PREMATURE_EXIT_FILE").constData());
     std::_Exit(0);
 }
@@ -104,16 +88,6 @@ const QList<QStringList> ways = {
     {u"s"_s},
     {u""_s, cancelled, QString()},
 };
-
-QString solutionOf(const QString &puzzle)
-{
-    static QHash<QString, QString> known;
-    QString &solution = known[puzzle];
-    if (solution.isNull()) {
-        solution = solutionsOf(puzzle).first();
-    }
-    return solution;
-}
 
 QString puzzleOnScreen()
 {
@@ -138,7 +112,7 @@ private:
     void look()
     {
         QWidget *widget = modalWindow();
-        if (widget == nullptr || widget == m_answered || !widget->isActiveWindow()) {
+        if (!widget || widget == m_answered || !widget->isActiveWindow()) {
             return;
         }
         m_answered = widget;
@@ -154,13 +128,13 @@ private:
     {
         if (m_turn == way().size()) {
             m_turn = 0;
-            startPuzzle();
+            startPuzzle(puzzleOnScreen());
         }
         const QString answer = way().at(m_turn++);
         if (answer == cancelled) {
             QTest::keyClick(field, Qt::Key_Escape);
         } else {
-            QTest::keyClicks(field, answer.isNull() ? solutionOf(puzzleOnScreen()) : answer);
+            QTest::keyClicks(field, answer.isNull() ? m_solutions[puzzleOnScreen()].first() : answer);
             QTest::keyClick(field, Qt::Key_Return);
         }
     }
@@ -168,8 +142,13 @@ private:
     const QStringList &way() const { return ways.at(m_played % ways.size()); }
 
     // Compares when the same is on the screen as it was then: a fresh puzzle's first question.
-    void startPuzzle()
+    void startPuzzle(const QString &puzzle)
     {
+        require(!m_cycle.contains(puzzle), "no puzzle is shown twice in a cycle", puzzle);
+        m_cycle.insert(puzzle);
+        if (m_cycle.size() == puzzleCount) {
+            m_cycle.clear();
+        }
         ++m_played;
         if (m_played == puzzlesBefore) {
             for (Holding &holding : holdings) {
@@ -180,6 +159,8 @@ private:
         }
     }
 
+    QMap<QString, QStringList> m_solutions = solvedPuzzles();
+    QSet<QString> m_cycle;
     int m_puzzles = 0;
     int m_played = 0;
     qsizetype m_turn = 1; // the way before the first is done
@@ -187,22 +168,10 @@ private:
     QPointer<QWidget> m_answered;
 };
 
-// The C library keeps freed memory in a cache for each thread and counts it as in use; it fills up over thousands of
-// puzzles. Without it what is counted is what is held.
-void startWithoutCache(char **argv)
-{
-    constexpr char tunables[] = "GLIBC_TUNABLES";
-    if (!qEnvironmentVariableIsSet(tunables)) {
-        qputenv(tunables, "glibc.malloc.tcache_count=0");
-        execv("/proc/self/exe", argv);
-    }
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
-    startWithoutCache(argv);
     CocoaInit();
     Player player(argc > 1 ? std::atoi(argv[1]) : 10'000);
     return gameMain(argc, argv);
