@@ -43,96 +43,64 @@ TEST(Formatter, judgesAProposal)
     }
 }
 
-class FormattedField : public testing::Test
+TEST(Field, isFilteredWhicheverWayATextComesIn)
 {
-protected:
-    void format(const QString &list, bool pass = true, quint64 length = 0, qint64 caseOption = 0)
-    {
-        attachFormatter(&field, list, pass, length, caseOption);
+    const QString nested = QString(100'000, u'(') + u'1' + QString(100'000, u')');
+    // What the program set and selected of it, what is typed and pasted then, the result and where the cursor is.
+    const Table<QString, quint64, QString, int, int, QString, QString, QString, int> rows = {
+        {"no turn of the event loop between keys", answerKeys, 0, u""_s, 0, 0, u"0q1 s"_s, u""_s, u"q1s"_s, 3},
+        {"pasted", answerKeys, 0, u"1"_s, 1, 0, u""_s, u"x(\n"_s, u"1("_s, 2},
+        {"pasted in the middle", answerKeys, 0, u"12"_s, 1, 0, u""_s, u"0+x*"_s, u"1+*2"_s, 3},
+        {"typed over a selection", answerKeys, 0, u"1+*2"_s, 1, 2, u"x"_s, u""_s, u"12"_s, 1},
+        {"a paste that is too long", u"1"_s, 3, u""_s, 0, 0, u"11"_s, u"11"_s, u"11"_s, 2},
+        {"beyond the limit by the program", answerKeys, 3, u"1+20"_s, 4, 0, u"5"_s, u""_s, u"1+20"_s, 4},
+        {"refused text of the program stands", answerKeys, 3, u"0"_s, 1, 0, u""_s, u""_s, u"0"_s, 1},
+        {"until the next edit", answerKeys, 3, u"0"_s, 1, 0, u"5"_s, u""_s, u"5"_s, 1},
+        {"deep", answerKeys, 0, u""_s, 0, 0, u""_s, nested, nested, 200'001},
+        {"large", answerKeys, 0, u""_s, 0, 0, u""_s, u"\u202Eא0\u0001"_s.repeated(100'000) + u'7', u"7"_s, 1},
+    };
+    for (const auto &[shows, list, length, set, at, selected, typed, pasted, text, cursor] : rows) {
+        SCOPED_TRACE(shows);
+        QLineEdit field;
+        attachFormatter(&field, u"another"_s, true, 1, 0);
+        attachFormatter(&field, list, true, length, 0);
         field.show();
-    }
-    QString paste(const QString &text)
-    {
-        QGuiApplication::clipboard()->setText(text);
-        field.paste();
-        return settled();
-    }
-    QString settled()
-    {
+        field.setText(set);
+        selected ? field.setSelection(at, selected) : field.setCursorPosition(at);
+        QTest::keyClicks(&field, typed);
         QCoreApplication::processEvents();
-        return field.text();
+        QGuiApplication::clipboard()->setText(pasted);
+        field.paste();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(field.text(), text);
+        EXPECT_EQ(field.cursorPosition(), cursor);
     }
+}
 
+TEST(Field, undoesAndRedoesThroughTheFilterAndTakesAnInputMethodsText)
+{
     QLineEdit field;
-};
-
-TEST_F(FormattedField, filtersEveryWayIn)
-{
-    format(answerKeys, true, 0, caseForceUpper);
-    QTest::keyClicks(&field, u"0q1 s"_s); // no turn of the event loop between the keys
-    EXPECT_EQ(settled(), u"Q1S"_s);
-    EXPECT_EQ(paste(u"x(\n"_s), u"Q1S("_s);
-    compose(&field, u"0+é"_s);
-    EXPECT_EQ(settled(), u"Q1S(+"_s);
-}
-
-TEST_F(FormattedField, editsInTheMiddleKeepTheCursorThere)
-{
-    format(answerKeys);
-    field.setText(u"12"_s);
-    field.setCursorPosition(1);
-    EXPECT_EQ(paste(u"0+x*"_s), u"1+*2"_s);
-    EXPECT_EQ(field.cursorPosition(), 3);
-    field.setSelection(1, 2);
-    QTest::keyClicks(&field, u"x"_s);
-    EXPECT_EQ(settled(), u"12"_s);
-    EXPECT_EQ(field.cursorPosition(), 1);
-}
-
-TEST_F(FormattedField, undoAndRedoSurviveTheFilter)
-{
-    format(answerKeys);
-    QTest::keyClicks(&field, u"12"_s);
-    paste(u"+ 3"_s);
+    attachFormatter(&field, answerKeys, true, 0, caseForceUpper);
+    field.show();
+    QStringList texts;
+    const auto note = [&] {
+        QCoreApplication::processEvents();
+        texts << field.text();
+    };
+    QTest::keyClicks(&field, u"1q"_s);
+    note();
+    QGuiApplication::clipboard()->setText(u"+ é3"_s);
+    field.paste();
+    note();
     QTest::keyClicks(&field, u"0"_s);
-    QStringList texts = {settled()};
+    note();
     for (void (QLineEdit::*const step)() : {&QLineEdit::undo, &QLineEdit::undo, &QLineEdit::redo, &QLineEdit::redo}) {
         (field.*step)();
-        texts << settled();
+        note();
     }
-    EXPECT_EQ(texts.join(u' '), u"12+3 12  12 12+3"_s);
-}
-
-TEST_F(FormattedField, tooLongAPasteChangesNothingAndTheNewestFormatCounts)
-{
-    format(u"1"_s, true, 3);
-    QTest::keyClicks(&field, u"11"_s);
-    EXPECT_EQ(paste(u"11"_s), u"11"_s);
-    format(u"2"_s);
-    EXPECT_EQ(paste(u"12"_s), u"2"_s);
-}
-
-TEST_F(FormattedField, aTextSetByTheProgramStandsAndTheNextEditIsJudged)
-{
-    format(answerKeys, true, 3);
-    field.setText(u"1+20"_s);
-    QTest::keyClicks(&field, u"5"_s);
-    EXPECT_EQ(settled(), u"1+20"_s) << "beyond the limit";
-    field.setText(u"0"_s);
-    QTest::keyClick(&field, Qt::Key_Home);
-    EXPECT_EQ(settled(), u"0"_s);
-    QTest::keyClicks(&field, u"5"_s);
-    EXPECT_EQ(settled(), u"5"_s);
-}
-
-TEST_F(FormattedField, hugePastes)
-{
-    format(answerKeys);
-    const QString nested = QString(100'000, u'(') + u'1' + QString(100'000, u')');
-    EXPECT_EQ(paste(nested).size(), nested.size());
-    field.clear();
-    EXPECT_EQ(paste(QString(1'000'000, u'0')).size(), 0);
-    EXPECT_EQ(paste(u"\u202Eא0\U0001F600\u0001"_s.repeated(100'000) + u'7'), u"7"_s);
+    compose(&field, u"0+é"_s);
+    note();
+    EXPECT_EQ(texts.join(u' '), u"1Q 1Q+3 1Q+3 1Q  1Q 1Q+3 1Q+3+"_s);
 }
 
 } // namespace

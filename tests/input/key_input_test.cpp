@@ -17,6 +17,7 @@ class KeyInput : public PanelTest
 protected:
     QString ask(const QString &characters, qint64 pass, qint64 caseOption, std::function<void(ZRInkeyWindow &)> user)
     {
+        CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
         whenPanelRuns(std::move(user));
         const QString key = ZRInkey(10, 190, u"Key:"_s, characters, pass, caseOption);
         EXPECT_EQ(CUI_AppDelegateObj()->inkeyWnd(), nullptr);
@@ -31,7 +32,7 @@ protected:
 
 TEST_F(KeyInput, takesTheFirstAcceptedKey)
 {
-    // The keys that are refused are pressed first; the panel must go on waiting.
+    // The keys that are refused are pressed first; the panel must go on waiting. An empty list keeps the format before.
     const Table<QString, qint64, qint64, QString, QString, QString> rows = {
         {"any without a format", QString(), notGiven, notGiven, u""_s, u"x"_s, u"x"_s},
         {"listed", u"yn"_s, 1, notGiven, u"xY 1"_s, u"y"_s, u"y"_s},
@@ -39,10 +40,11 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
         {"raised before the list", u"Q"_s, 1, caseForceUpper, u"x"_s, u"q"_s, u"Q"_s},
         {"lowered before the list", u"q"_s, 1, caseForceLower, u"x"_s, u"Q"_s, u"q"_s},
         {"a capital is lowered out of its list", u"Qa"_s, 1, caseForceLower, u"Qq"_s, u"A"_s, u"a"_s},
+        {"as before", u""_s, 0, notGiven, u"Qq"_s, u"A"_s, u"a"_s},
+        {"no longer", QString(), 0, notGiven, u""_s, u"q"_s, u"q"_s},
     };
     for (const auto &[shows, characters, pass, caseOption, refused, pressed, expected] : rows) {
         SCOPED_TRACE(shows);
-        CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
         const QString key = ask(characters, pass, caseOption, [no = refused, yes = pressed](ZRInkeyWindow &panel) {
             press(no);
             EXPECT_EQ(modalWindow(), &panel);
@@ -63,7 +65,7 @@ TEST_F(KeyInput, escapeGivesNoKeyWithTheCodeOfAnAnswer)
     EXPECT_TRUE(CUI_AppDelegateObj()->inkeyResponseString().isNull());
 }
 
-TEST_F(KeyInput, keysThatAreNoAnswerAreWaitedOver)
+TEST_F(KeyInput, waitsThroughKeysThatAreNoAnswerWithACursorThatBlinksAfterThePrompt)
 {
     const QString key = ask(u"é\t\r"_s, 1, notGiven, [](ZRInkeyWindow &panel) {
         for (const Qt::Key silent : {Qt::Key_Shift, Qt::Key_Left, Qt::Key_F5}) {
@@ -72,21 +74,6 @@ TEST_F(KeyInput, keysThatAreNoAnswerAreWaitedOver)
         repeatHeldKey(&panel, Qt::Key_Return);
         compose(&panel, u"è"_s);
         EXPECT_EQ(modalWindow(), &panel);
-        compose(&panel, u"é"_s);
-    });
-    EXPECT_EQ(key, u"é"_s);
-}
-
-TEST_F(KeyInput, theFormatPersistsUntilItIsRemoved)
-{
-    ask(u"y"_s, 1, notGiven, [](ZRInkeyWindow &) { press(u"y"_s); });
-    EXPECT_EQ(ask(u""_s, 0, notGiven, [](ZRInkeyWindow &) { press(u"ny"_s); }), u"y"_s);
-    EXPECT_EQ(ask(QString(), 0, notGiven, [](ZRInkeyWindow &) { press(u"n"_s); }), u"n"_s);
-}
-
-TEST_F(KeyInput, theCursorBlinksAndStandsAfterThePrompt)
-{
-    ask(QString(), notGiven, notGiven, [](ZRInkeyWindow &panel) {
         const QPointer<QTimer> timer = panel.cursorTimer();
         EXPECT_EQ(timer->interval(), 500);
         EXPECT_GT(panel.cursorLabel()->x(), panel.promptLabel()->geometry().right());
@@ -94,14 +81,11 @@ TEST_F(KeyInput, theCursorBlinksAndStandsAfterThePrompt)
         EXPECT_TRUE(QTest::qWaitFor([&] { return panel.cursorLabel()->isHidden(); }));
         panel.windowDidBecomeKey();
         EXPECT_EQ(panel.cursorTimer(), timer) << "a second timer would toggle out of step";
-        press(u"k"_s);
+        compose(&panel, u"é"_s);
         EXPECT_EQ(timer, nullptr) << "the cursor still blinks";
     });
-}
-
-TEST_F(KeyInput, aWindowDeletedUnderTheRunGivesNone)
-{
-    EXPECT_TRUE(ask(QString(), notGiven, notGiven, [&](ZRInkeyWindow &) { delete host; }).isNull());
+    EXPECT_EQ(key, u"é"_s);
+    EXPECT_TRUE(ask(u"é"_s, 1, notGiven, [&](ZRInkeyWindow &) { delete host; }).isNull()) << "its window was deleted";
 }
 
 } // namespace
