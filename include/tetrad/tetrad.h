@@ -38,8 +38,8 @@
 #include <tetrad/controls/view_sc.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
-#include <tetrad/events/output_window_tag.h>
 #include <tetrad/events/tag.h>
+#include <tetrad/events/view_relay.h>
 #include <tetrad/input/control_formatter.h>
 #include <tetrad/input/floating_panel.h>
 #include <tetrad/input/key_input.h>

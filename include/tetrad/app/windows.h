@@ -2,7 +2,7 @@
 
 // Implemented in runtime/app/windows/windows.cpp and output_window.cpp
 
-#include <tetrad/events/output_window_tag.h>
+#include <tetrad/events/tag.h>
 
 #include <QColor>
 #include <QRectF>

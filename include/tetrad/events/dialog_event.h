@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/controls/events/dialog_event.cpp
+
 #include <tetrad/events/tag.h>
 #include <tetrad/strings/error_object.h>
 
@@ -12,6 +14,8 @@
 #include <QSizeF>
 #include <QUrl>
 #include <QVariantList>
+
+#include <type_traits>
 
 class QEvent;
 class QMenu;
@@ -86,46 +90,64 @@ DialogFunction CUI_OnDialogFunction();
 /// Calls the dialog function and returns its result; 0 without a call when none is installed.
 qint64 CallUserDefinedOnDialogFunction(qint64 event, Tag tag, Tag wndTag, qint64 obj);
 
-/// Each reads or writes one field of the shared record (see CUI_DialogEventObj) and does nothing else. Those that
-/// set a rectangle, point, size or range take its parts one by one.
+namespace detail {
 
-bool DialogEventBool();
-void DialogEventSetBool(bool value);
-qint64 DialogEventLong();
-void DialogEventSetLong(qint64 value);
-float DialogEventFloat();
-void DialogEventSetFloat(float value);
-double DialogEventDouble();
-void DialogEventSetDouble(double value);
+template <auto field, typename Value = std::remove_cvref_t<decltype(CUI_DialogEventObj()->*field)>>
+Value dialogEventValue()
+{
+    return CUI_DialogEventObj()->*field;
+}
 
-QRectF DialogEventRect();
+template <auto field, typename Value = std::remove_cvref_t<decltype(CUI_DialogEventObj()->*field)>>
+void setDialogEventValue(Value value)
+{
+    CUI_DialogEventObj()->*field = value;
+}
+
+} // namespace detail
+
+/// The functions below each read or write one field of the shared record and do nothing else: `bool DialogEventBool()`,
+/// `void DialogEventSetBool(bool value)`. A view, menu or pasteboard is a `QObject *`.
+
+inline constexpr auto DialogEventBool = detail::dialogEventValue<&CUI_DialogEvent::boolVal>;
+inline constexpr auto DialogEventSetBool = detail::setDialogEventValue<&CUI_DialogEvent::boolVal>;
+inline constexpr auto DialogEventLong = detail::dialogEventValue<&CUI_DialogEvent::longVal>;
+inline constexpr auto DialogEventSetLong = detail::setDialogEventValue<&CUI_DialogEvent::longVal>;
+inline constexpr auto DialogEventFloat = detail::dialogEventValue<&CUI_DialogEvent::floatVal>;
+inline constexpr auto DialogEventSetFloat = detail::setDialogEventValue<&CUI_DialogEvent::floatVal>;
+inline constexpr auto DialogEventDouble = detail::dialogEventValue<&CUI_DialogEvent::doubleVal>;
+inline constexpr auto DialogEventSetDouble = detail::setDialogEventValue<&CUI_DialogEvent::doubleVal>;
+
+inline constexpr auto DialogEventRect = detail::dialogEventValue<&CUI_DialogEvent::rectVal>;
 void DialogEventSetNSRect(double x, double y, double width, double height);
 void DialogEventSetNSPoint(double x, double y);
-QSizeF DialogEventNSSize();
+inline constexpr auto DialogEventNSSize = detail::dialogEventValue<&CUI_DialogEvent::sizeVal>;
 void DialogEventSetNSSize(double width, double height);
 void DialogEventSetNSRange(quint64 location, quint64 length);
 
-QVariantList DialogEventNSArray();
-QUrl DialogEventNSURL();
-void DialogEventSetOtherNSURL(const QUrl &url);
-QColor DialogEventColor();
-void DialogEventSetColor(const QColor &color);
-QVariant DialogEventNSObject();
-void DialogEventSetNSObject(const QVariant &object);
+inline constexpr auto DialogEventNSArray = detail::dialogEventValue<&CUI_DialogEvent::arrayObj>;
+inline constexpr auto DialogEventNSURL = detail::dialogEventValue<&CUI_DialogEvent::urlObj>;
+inline constexpr auto DialogEventSetOtherNSURL = detail::setDialogEventValue<&CUI_DialogEvent::otherUrlObj>;
+inline constexpr auto DialogEventColor = detail::dialogEventValue<&CUI_DialogEvent::colorObj>;
+inline constexpr auto DialogEventSetColor = detail::setDialogEventValue<&CUI_DialogEvent::colorObj>;
+inline constexpr auto DialogEventNSObject = detail::dialogEventValue<&CUI_DialogEvent::object>;
+inline constexpr auto DialogEventSetNSObject = detail::setDialogEventValue<&CUI_DialogEvent::object>;
 
-QObject *DialogEventNSMenu();
-void DialogEventSetNSMenu(QObject *menu);
+inline constexpr auto DialogEventNSMenu = detail::dialogEventValue<&CUI_DialogEvent::menuObj, QObject *>;
+inline constexpr auto DialogEventSetNSMenu = detail::setDialogEventValue<&CUI_DialogEvent::menuObj, QObject *>;
 /// Another name for DialogEventSetNSMenu.
-void DialogEventSetMenu(QObject *menu);
-QObject *DialogEventView();
-void DialogEventSetView(QObject *view);
-void DialogEventSetPasteboard(QObject *pasteboard);
+inline constexpr auto DialogEventSetMenu = DialogEventSetNSMenu;
+inline constexpr auto DialogEventView = detail::dialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
+inline constexpr auto DialogEventSetView = detail::setDialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
+inline constexpr auto DialogEventSetPasteboard =
+    detail::setDialogEventValue<&CUI_DialogEvent::pasteboardObj, QObject *>;
 
-void DialogEventSetContext(void *context);
-void DialogEventSetDraggingInfo(const QVariant &info);
-QVariant DialogEventTintConfiguration();
-void DialogEventSetTintConfiguration(const QVariant &configuration);
-void DialogEventSetTableColumn(const QVariant &column);
+inline constexpr auto DialogEventSetContext = detail::setDialogEventValue<&CUI_DialogEvent::context>;
+inline constexpr auto DialogEventSetDraggingInfo = detail::setDialogEventValue<&CUI_DialogEvent::dragInfo>;
+inline constexpr auto DialogEventTintConfiguration = detail::dialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
+inline constexpr auto DialogEventSetTintConfiguration =
+    detail::setDialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
+inline constexpr auto DialogEventSetTableColumn = detail::setDialogEventValue<&CUI_DialogEvent::tableColumnObj>;
 
 /// The platform event whose callback is running, or null. Not owned, and valid only until that
 /// callback returns.

@@ -184,36 +184,31 @@ enum TokenFieldEvent : qint64 {
     tokenFieldEventDidChange = 2302,   ///< arrayObj: all tokens
 };
 
-/// Named only: nothing on this platform asks a program before a file is moved, copied or removed.
-enum FileManagerEvent : qint64 {
+enum ColorPanelEvent : qint64 {
+    colorPanelEventAction = 2600, ///< colorObj: the colour chosen
+};
+
+enum TableHeaderEvent : qint64 {
+    tableHeaderEventFont = 4200,
+    tableHeaderEventTextColor = 4300,
+};
+
+/// Named only, since nothing on this platform sends them: moving files, gesture recognisers, open and save panels,
+/// network sessions, sounds, detached stack views, the preview panel, errors with recovery (alertEndedEvent ends those
+/// here), printing and sharing.
+enum UnsentEvent : qint64 {
     fileManagerEventShouldMove = 2400,
     fileManagerEventProceedAfterMoveError = 2401,
     fileManagerEventShouldCopy = 2402,
     fileManagerEventProceedAfterCopyError = 2403,
     fileManagerEventShouldRemove = 2404,
-};
-
-enum ColorPanelEvent : qint64 {
-    colorPanelEventAction = 2600, ///< colorObj: the colour chosen
-};
-
-/// Named only: no statement attaches a gesture recogniser.
-enum GestureEvent : qint64 {
     gestureEventAction = 2700,
-};
-
-/// Named only: no statement shows an open or save panel.
-enum FilePanelEvent : qint64 {
     filePanelEventUserEnteredName = 2901,
     filePanelEventSelectionChanged = 2902,
     filePanelEventDirectoryChanged = 2903,
     filePanelEventWillExpand = 2904,
     filePanelEventShouldEnableUrl = 2905, ///< urlObj: the file; boolVal: the answer
     filePanelEventValidateUrl = 2906,     ///< urlObj: the file; boolVal: the answer
-};
-
-/// Named only: the runtime has no network sessions.
-enum UrlSessionEvent : qint64 {
     urlSessionEventBecameInvalid = 3600,
     urlSessionEventFinishedBackgroundEvents = 3601,
     urlSessionEventDownloadFinished = 3604,
@@ -228,42 +223,13 @@ enum UrlSessionEvent : qint64 {
     urlSessionEventBecameStreams = 3621,
     urlSessionEventReadClosed = 3622,
     urlSessionEventWriteClosed = 3623,
-};
-
-/// Named only: the runtime plays no sounds.
-enum SoundEvent : qint64 {
     soundEventFinished = 3700,
-};
-
-enum TableHeaderEvent : qint64 {
-    tableHeaderEventFont = 4200,
-    tableHeaderEventTextColor = 4300,
-};
-
-/// Named only: nothing here detaches a view from its stack.
-enum StackViewEvent : qint64 {
     stackViewEventReattached = 4500,
     stackViewEventWillDetach = 4501,
-};
-
-/// Named only: there is no preview panel to fill.
-enum PreviewPanelEvent : qint64 {
     previewPanelEventItemCount = 4700,
     previewPanelEventItemAtIndex = 4701,
-};
-
-/// Named only: errors are presented as alerts, whose end is alertEndedEvent.
-enum ErrorEvent : qint64 {
     errorEventPresentedWithRecovery = 4900,
-};
-
-/// Named only: no statement prints on paper.
-enum PrintEvent : qint64 {
     printEventDidRun = 5200,
-};
-
-/// Named only: there is no sharing service.
-enum SharingEvent : qint64 {
     sharingEventServicesForItems = 5700,
     sharingEventServiceChosen = 5701,
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+// Implemented in runtime/controls/events/tag.cpp
+
 #include <tetrad/fwd.h>
 
 class QEvent;
@@ -44,5 +46,11 @@ void setObjectTag(QObject *object, Tag tag);
 /// The tag of the window that owns an object (dynamic property "wndTagNumber"); 0 when never set.
 Tag objectWindowTag(const QObject *object);
 void setObjectWindowTag(QObject *object, Tag wndTag);
+
+/// The tag of the window that prints go to and that sheets attach to, stored as an absolute value; 0
+/// means none. It follows the last window statement and the last window that became key or main,
+/// moved, resized, or began or ended a sheet.
+void CUI_OutputWindowSetTag(Tag tag);
+Tag CUI_OutputWindowTag();
 
 } // namespace tetrad

@@ -1,7 +1,7 @@
 #include <tetrad/app/content_view.h>
 
 #include "runtime/controls/events/current_event.h"
-#include "runtime/controls/events/view_relay.h"
+#include <tetrad/events/view_relay.h>
 
 #include <QFileInfo>
 #include <QMimeData>

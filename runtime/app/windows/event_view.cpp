@@ -1,6 +1,6 @@
 #include <tetrad/app/content_view.h>
 
-#include "runtime/controls/events/view_relay.h"
+#include <tetrad/events/view_relay.h>
 
 #include <QApplication>
 #include <QContextMenuEvent>

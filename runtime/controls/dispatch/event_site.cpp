@@ -2,7 +2,7 @@
 
 #include "runtime/controls/lookup/typed_lookup.h"
 #include "runtime/strings/saturate.h"
-#include <tetrad/events/output_window_tag.h>
+#include <tetrad/events/tag.h>
 
 #include <QVariant>
 

@@ -7,6 +7,7 @@ namespace tetrad {
 namespace {
 
 DialogFunction sCUI_OnDialogFunction = nullptr;
+QEvent *currentEvent = nullptr;
 
 } // namespace
 
@@ -51,6 +52,36 @@ DialogFunction CUI_OnDialogFunction()
 qint64 CallUserDefinedOnDialogFunction(qint64 event, Tag tag, Tag wndTag, qint64 obj)
 {
     return sCUI_OnDialogFunction ? sCUI_OnDialogFunction(event, tag, wndTag, obj) : 0;
+}
+
+void DialogEventSetNSRect(double x, double y, double width, double height)
+{
+    CUI_DialogEventObj()->rectVal = QRectF(x, y, width, height);
+}
+
+void DialogEventSetNSPoint(double x, double y)
+{
+    CUI_DialogEventObj()->pointVal = QPointF(x, y);
+}
+
+void DialogEventSetNSSize(double width, double height)
+{
+    CUI_DialogEventObj()->sizeVal = QSizeF(width, height);
+}
+
+void DialogEventSetNSRange(quint64 location, quint64 length)
+{
+    CUI_DialogEventObj()->rangeVal = {location, length};
+}
+
+QEvent *CUI_EventEvent()
+{
+    return currentEvent;
+}
+
+void CUI_EventSetEvent(QEvent *event)
+{
+    currentEvent = event;
 }
 
 } // namespace tetrad

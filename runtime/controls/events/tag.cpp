@@ -12,6 +12,8 @@ namespace {
 constexpr char tagKey[] = "tagNumber";
 constexpr char windowTagKey[] = "wndTagNumber";
 
+Tag outputWindowTag = 0;
+
 } // namespace
 
 Tag tagFromObject(const QObject *object)
@@ -52,6 +54,16 @@ Tag objectWindowTag(const QObject *object)
 void setObjectWindowTag(QObject *object, Tag wndTag)
 {
     object->setProperty(windowTagKey, wndTag);
+}
+
+void CUI_OutputWindowSetTag(Tag tag)
+{
+    outputWindowTag = tagIdentity(tag);
+}
+
+Tag CUI_OutputWindowTag()
+{
+    return outputWindowTag;
 }
 
 } // namespace tetrad

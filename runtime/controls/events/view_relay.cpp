@@ -1,7 +1,7 @@
-#include "runtime/controls/events/view_relay.h"
+#include <tetrad/events/view_relay.h>
 
 #include "runtime/controls/events/current_event.h"
-#include <tetrad/events/output_window_tag.h>
+#include <tetrad/events/tag.h>
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -68,12 +68,12 @@ bool reportDrag(const ReportingView &view, ViewEvent code, QEvent *event)
     for (const QUrl &url : drag->mimeData()->urls()) {
         record->arrayObj.append(url);
     }
-    return reportViewEvent(view, code, event);
+    return detail::reportViewEvent(view, code, event);
 }
 
 } // namespace
 
-bool reportViewEvent(const ReportingView &view, ViewEvent code, QEvent *event)
+bool detail::reportViewEvent(const ReportingView &view, ViewEvent code, QEvent *event)
 {
     const QPointer<QObject> guard(view.view);
     const CurrentEventScope scope(event ? event : CUI_EventEvent());
@@ -92,13 +92,13 @@ bool CUI_ViewSubclassEvent(const ReportingView &view, QEvent *event)
 bool CUI_ViewSubclassDrawRect(const ReportingView &view, const QRect &dirtyRect)
 {
     CUI_DialogEventObj()->rectVal = dirtyRect;
-    return reportViewEvent(view, viewEventDraw, nullptr);
+    return detail::reportViewEvent(view, viewEventDraw, nullptr);
 }
 
 bool CUI_ViewSubclassAcceptsFirstResponder(const ReportingView &view)
 {
     const QPointer<QObject> guard(view.view);
-    return reportViewEvent(view, viewEventAcceptsFirstResponder, nullptr) && guard;
+    return detail::reportViewEvent(view, viewEventAcceptsFirstResponder, nullptr) && guard;
 }
 
 bool CUI_ViewSubclassDraggingEntered(const ReportingView &view, QEvent *event)
@@ -114,7 +114,7 @@ bool CUI_ViewSubclassPerformDragOperation(const ReportingView &view, QEvent *eve
 bool CUI_ViewSubclassMenuForEvent(const ReportingView &view, QEvent *event, QObject **menu)
 {
     CUI_DialogEventObj()->menuObj = *menu;
-    const bool handled = reportViewEvent(view, viewEventMenu, event);
+    const bool handled = detail::reportViewEvent(view, viewEventMenu, event);
     *menu = CUI_DialogEventObj()->menuObj;
     return handled;
 }

@@ -5,7 +5,7 @@
 #include "runtime/controls/lookup/tag_alerts.h"
 #include <tetrad/app/menus.h>
 #include <tetrad/events/event_codes.h>
-#include <tetrad/events/output_window_tag.h>
+#include <tetrad/events/tag.h>
 #include <tetrad/strings/not_given.h>
 
 #include <QAction>

@@ -2,7 +2,7 @@
 
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/events/current_event.h"
-#include "runtime/controls/events/view_relay.h"
+#include <tetrad/events/view_relay.h>
 #include "runtime/controls/lookup/view_tag.h"
 #include "runtime/controls/statements/view_statement.h"
 
