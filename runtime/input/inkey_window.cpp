@@ -124,7 +124,7 @@ bool ZRInkeyWindow::takeKey(QString key, QEvent *event)
 void ZRInkeyWindow::endWith(const QString &key, QEvent *event)
 {
     const CurrentEventScope current(event);
-    CUI_AppDelegateObj()->setInkeyResponseString(key);
+    CUI_AppDelegateObj()->inkeyResponseString = key;
     stopModalWithCode(modalStopped);
     delete m_cursorTimer;
     m_cursorTimer = nullptr;

@@ -49,11 +49,11 @@ QString ZRInkey(qint64 x, qint64 y, const QString &prompt, const QString &charac
 
     CUI_AppDelegate *const delegate = CUI_AppDelegateObj();
     const QPointer<ZRInkeyWindow> panel = new ZRInkeyWindow(prompt, x, y);
-    delegate->setInkeyWnd(panel);
+    delegate->inkeyWnd = panel;
     const qint64 code = panel->run();
-    delegate->setInkeyWnd(nullptr);
+    delegate->inkeyWnd = nullptr;
     delete panel.data();
-    return code == modalStopped ? delegate->inkeyResponseString() : QString();
+    return code == modalStopped ? delegate->inkeyResponseString : QString();
 }
 
 } // namespace tetrad

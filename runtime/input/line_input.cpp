@@ -87,11 +87,11 @@ QString ZRInput(qint64 x, qint64 y, const QString &prompt, const QString &charac
 
     CUI_AppDelegate *const delegate = CUI_AppDelegateObj();
     const QPointer<ZRInputWindow> panel = makePanel(prompt, x, y);
-    delegate->setInputWnd(panel);
+    delegate->inputWnd = panel;
     const qint64 code = panel->run();
-    delegate->setInputWnd(nullptr);
+    delegate->inputWnd = nullptr;
     retire(panel);
-    return code == modalStopped ? delegate->inputResponseString() : QString();
+    return code == modalStopped ? delegate->inputResponseString : QString();
 }
 
 } // namespace tetrad

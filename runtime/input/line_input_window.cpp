@@ -59,7 +59,7 @@ void ZRInputWindow::controlTextDidChange()
 void ZRInputWindow::controlTextDidEndEditing(QEvent *event)
 {
     const CurrentEventScope current(event);
-    CUI_AppDelegateObj()->setInputResponseString(m_field->text());
+    CUI_AppDelegateObj()->inputResponseString = m_field->text();
     stopModalWithCode(modalStopped);
 }
 

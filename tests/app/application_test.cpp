@@ -63,10 +63,10 @@ TEST(Application, DelegateThatIsInstalledStays)
     EXPECT_EQ(CUI_AppDelegateObj(), &own);
     // It is served like the runtime's own.
     static int asked = 0;
-    own.setDelegateCallback([](qint64 event, qintptr) {
+    own.delegateCallback = [](qint64 event, qintptr) {
         asked += event == appEventShouldTerminate;
-        CUI_AppDelegateObj()->setLongVal(0);
-    });
+        CUI_AppDelegateObj()->longVal = 0;
+    };
     QEvent quit(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &quit);
     EXPECT_EQ(asked, 1);
@@ -98,9 +98,9 @@ void startAndMeetEvents()
         QFileOpenEvent open(u"/x/y.z"_s);
         QCoreApplication::sendEvent(qApp, &open);
         EXPECT_EQ(lastObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_s)});
-        EXPECT_EQ(CUI_AppDelegateObj()->stringVal(), u"y.z");
+        EXPECT_EQ(CUI_AppDelegateObj()->stringVal, u"y.z");
         CUI_AppDelegateObj()->openFiles({u"/a/dir/"_s});
-        EXPECT_EQ(CUI_AppDelegateObj()->stringVal(), u"dir");
+        EXPECT_EQ(CUI_AppDelegateObj()->stringVal, u"dir");
         stopModalWithCode(1);
     });
     runModalForWindow(&window);
@@ -127,7 +127,7 @@ TEST_F(Terminate, AsksTellsAndRefuses)
         QEvent quit(QEvent::Quit);
         answer = [&quit, refusal](qint64) {
             QCoreApplication::sendEvent(qApp, &quit); // the user, while the question is open
-            CUI_AppDelegateObj()->setLongVal(refusal);
+            CUI_AppDelegateObj()->longVal = refusal;
         };
         AppTerminate();
         QCoreApplication::sendEvent(qApp, &quit);
@@ -165,7 +165,7 @@ void closeTheLastWindow()
 {
     CUI_SetOnAppEventFunction(onAppEvent);
     answer = [](qint64 event) {
-        CUI_AppDelegateObj()->setBoolVal(event == appEventShouldTerminateAfterLastWindowClosed);
+        CUI_AppDelegateObj()->boolVal = event == appEventShouldTerminateAfterLastWindowClosed;
     };
     CUI_Window(1, QString(), notGiven, QRectF());
     CUI_WindowWithTag(1)->close();
@@ -174,7 +174,7 @@ void closeTheLastWindow()
 void signalThoughTheDelegateWouldRefuse()
 {
     CUI_SetOnAppEventFunction(onAppEvent);
-    answer = [](qint64) { CUI_AppDelegateObj()->setLongVal(0); };
+    answer = [](qint64) { CUI_AppDelegateObj()->longVal = 0; };
     std::raise(SIGTERM);
 }
 

@@ -35,7 +35,7 @@ void stopAndPress(const QString &title, qint32 fatal)
 
 void refuse(qint64 /*event*/, qintptr /*userData*/)
 {
-    CUI_AppDelegateObj()->setLongVal(0);
+    CUI_AppDelegateObj()->longVal = 0;
 }
 
 // A fatal stop of the program's own while it is asked whether it may end.
@@ -112,7 +112,7 @@ TEST(Stop, EndsTheProcess)
         SCOPED_TRACE(name);
         const auto stop = [code = fatal, title = answer, asked = callback] {
             CocoaInit();
-            CUI_AppDelegateObj()->setDelegateCallback(asked);
+            CUI_AppDelegateObj()->delegateCallback = asked;
             stopAndPress(title, code);
         };
         const auto ended = [dies = aborts](int status) {
@@ -125,7 +125,7 @@ TEST(Stop, EndsTheProcess)
 TEST(Stop, ReturnsAfterContinueAndARefusedTermination)
 {
     CocoaInit();
-    CUI_AppDelegateObj()->setDelegateCallback(refuse);
+    CUI_AppDelegateObj()->delegateCallback = refuse;
     stopAndPress(u"Continue"_s, 0);
     stopAndPress(u"Stop"_s, 0x100);
     EXPECT_TRUE(noAlertLeft());

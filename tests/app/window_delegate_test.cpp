@@ -131,7 +131,7 @@ TEST_F(WindowDelegate, AnswersReachTheWindow)
 
     EXPECT_FALSE(m_window->close());
     EXPECT_TRUE(m_window->isVisible());
-    EXPECT_EQ(CUI_AppDelegateObj()->windows(), QList<Window *>{m_window});
+    EXPECT_EQ(CUI_AppDelegateObj()->windows, QList<Window *>{m_window});
 
     m_window->showMaximized();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isMaximized(); })) << "zoom refused";
@@ -173,13 +173,13 @@ TEST_F(WindowDelegate, IsKnownUntilItHasToldThatItCloses)
     bool stillKnown = false;
     atEvent = [&](qint64 event) {
         if (event == windowEventWillClose) {
-            stillKnown = CUI_AppDelegateObj()->windows().contains(m_window) && CUI_WindowWithTag(7);
+            stillKnown = CUI_AppDelegateObj()->windows.contains(m_window) && CUI_WindowWithTag(7);
             m_window->close(); // already closing
         }
     };
     EXPECT_TRUE(m_window->close());
     EXPECT_TRUE(stillKnown);
-    EXPECT_TRUE(CUI_AppDelegateObj()->windows().isEmpty());
+    EXPECT_TRUE(CUI_AppDelegateObj()->windows.isEmpty());
     EXPECT_EQ(takeCodes().count(u"10032"), 1);
 }
 

@@ -93,7 +93,7 @@ TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)
     Window *const second = WindowInit(5, QRectF(40, 60, 300, 200));
     Window *const negative = WindowInit(-6, QRectF(40, 60, 300, 200));
     EXPECT_FALSE(first->isVisible());
-    EXPECT_EQ(CUI_AppDelegateObj()->windows(), (QList<Window *>{first, second, negative}));
+    EXPECT_EQ(CUI_AppDelegateObj()->windows, (QList<Window *>{first, second, negative}));
     EXPECT_TRUE(qobject_cast<WindowSC *>(first) && !qobject_cast<WindowSC *>(second));
     const std::pair<Tag, Window *> lookups[] = {{5, first},   {-5, first},  {tagFromObject(second), second},
                                                 {6, nullptr}, {0, nullptr}, {largestTag, nullptr}};
@@ -193,7 +193,7 @@ TEST_F(Windows, ClosingReleasesUnlessToldOtherwise)
             }
         });
         EXPECT_TRUE(window->close());
-        EXPECT_EQ(CUI_AppDelegateObj()->windows().contains(window), !released);
+        EXPECT_EQ(CUI_AppDelegateObj()->windows.contains(window), !released);
         EXPECT_EQ(CUI_WindowWithTag(1), released ? nullptr : window.data());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(window.isNull(), released);

@@ -17,10 +17,10 @@ class KeyInput : public PanelTest
 protected:
     QString ask(const QString &characters, qint64 pass, qint64 caseOption, std::function<void(ZRInkeyWindow &)> user)
     {
-        CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
+        CUI_AppDelegateObj()->inkeyResponseString = u"before"_s;
         whenPanelRuns(std::move(user));
         const QString key = ZRInkey(10, 190, u"Key:"_s, characters, pass, caseOption);
-        EXPECT_EQ(CUI_AppDelegateObj()->inkeyWnd(), nullptr);
+        EXPECT_EQ(CUI_AppDelegateObj()->inkeyWnd, nullptr);
         return key;
     }
     static void press(const QString &text)
@@ -48,7 +48,7 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
         const QString key = ask(characters, pass, caseOption, [no = refused, yes = pressed](ZRInkeyWindow &panel) {
             press(no);
             EXPECT_EQ(modalWindow(), &panel);
-            EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString(), u"before"_s);
+            EXPECT_EQ(CUI_AppDelegateObj()->inkeyResponseString, u"before"_s);
             press(yes);
         });
         EXPECT_EQ(key, expected);
@@ -57,12 +57,12 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
 
 TEST_F(KeyInput, escapeGivesNoKeyWithTheCodeOfAnAnswer)
 {
-    CUI_AppDelegateObj()->setInkeyResponseString(u"before"_s);
+    CUI_AppDelegateObj()->inkeyResponseString = u"before"_s;
     whenPanelRuns<ZRInkeyWindow>([](ZRInkeyWindow &panel) { QTest::keyClick(&panel, Qt::Key_Escape); });
     ZRInkeyWindow panel(u""_s, 10, 190);
     EXPECT_EQ(panel.bodyRect(), QRect(10, 154, 40, 36)) << "without a prompt forty wide";
     EXPECT_EQ(panel.run(), modalStopped);
-    EXPECT_TRUE(CUI_AppDelegateObj()->inkeyResponseString().isNull());
+    EXPECT_TRUE(CUI_AppDelegateObj()->inkeyResponseString.isNull());
 }
 
 TEST_F(KeyInput, waitsThroughKeysThatAreNoAnswerWithACursorThatBlinksAfterThePrompt)

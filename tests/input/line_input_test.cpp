@@ -23,7 +23,7 @@ protected:
     {
         whenPanelRuns(std::move(user));
         const QString answer = ZRInput(10, 190, u"Enter:"_s, characters, 1, maxLength, caseOption);
-        EXPECT_EQ(CUI_AppDelegateObj()->inputWnd(), nullptr);
+        EXPECT_EQ(CUI_AppDelegateObj()->inputWnd, nullptr);
         return answer;
     }
     static void answerWith(const ZRInputWindow &panel, const QString &text, Qt::Key end = Qt::Key_Return,

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/app/process/app_delegate.cpp
+// Implemented in runtime/app/process/app_delegate.cpp and application.cpp
 
 #include <tetrad/strings/error_object.h>
 
@@ -18,6 +18,44 @@ namespace tetrad {
 
 class Window;
 
+/// Codes of the application events, in the order of CUI_AppDelegate's callbacks. 18 and 32 are not used.
+enum AppEvent : qint64 {
+    appEventWillFinishLaunching = 1,
+    appEventDidFinishLaunching = 2,
+    appEventShouldTerminate = 3,
+    appEventShouldTerminateAfterLastWindowClosed = 4,
+    appEventWillTerminate = 5,
+    appEventWillBecomeActive = 6,
+    appEventDidBecomeActive = 7,
+    appEventWillResignActive = 8,
+    appEventDidResignActive = 9,
+    appEventWillHide = 10,
+    appEventDidHide = 11,
+    appEventWillUnhide = 12,
+    appEventDidUnhide = 13,
+    appEventWillUpdate = 14,
+    appEventDidUpdate = 15,
+    appEventShouldHandleReopen = 16,
+    appEventDockMenu = 17,
+    appEventDidChangeScreenParameters = 19,
+    appEventOpenFileWithoutUI = 20,
+    appEventOpenTempFile = 21,
+    appEventOpenUntitledFile = 22,
+    appEventShouldOpenUntitledFile = 23,
+    appEventPrintFile = 24,
+    appEventPrintFiles = 25,
+    appEventDidRegisterForRemoteNotifications = 26,
+    appEventDidFailToRegisterForRemoteNotifications = 27,
+    appEventDidReceiveRemoteNotification = 28,
+    appEventDidDecodeRestorableState = 29,
+    appEventWillEncodeRestorableState = 30,
+    appEventWillContinueUserActivity = 31,
+    appEventDidFailToContinueUserActivity = 33,
+    appEventDidUpdateUserActivity = 34,
+    appEventDidChangeOcclusionState = 35,
+    appEventOpenFiles = 36,
+};
+
 /// The application's delegate: answers the window system's questions about the application and reports
 /// what happens to it, each callback as one numbered event (AppEvent). A callback stores its
 /// arguments and its default answer in the fields below, forwards the event, and returns the answer
@@ -26,7 +64,7 @@ class Window;
 ///     QVariant onAppEvent(qint64 event, const QVariant &)
 ///     {
 ///         if (event == appEventShouldTerminate) {
-///             CUI_AppDelegateObj()->setLongVal(0);
+///             CUI_AppDelegateObj()->longVal = 0;
 ///         }
 ///         return {};
 ///     }
@@ -45,92 +83,86 @@ public:
     /// The answer to applicationShouldTerminate that lets the process end; every other one refuses.
     static constexpr qint64 terminateNow = 1;
 
-    explicit CUI_AppDelegate(QObject *parent = nullptr);
+    using QObject::QObject;
 
-    bool boolVal() const { return m_boolVal; }
-    void setBoolVal(bool value) { m_boolVal = value; }
-
-    /// If set, it gets every event in place of the registered application-event function.
-    DelegateCallback delegateCallback() const { return m_delegateCallback; }
-    void setDelegateCallback(DelegateCallback callback) { m_delegateCallback = callback; }
-    qintptr delegateUserData() const { return m_delegateUserData; }
-    void setDelegateUserData(qintptr userData) { m_delegateUserData = userData; }
-
+    bool boolVal = false;
+    DelegateCallback delegateCallback = nullptr;
+    qintptr delegateUserData = 0;
     /// Every window made by WindowInit and not closed yet, in the order of their making.
-    QList<Window *> windows() const { return m_windows; }
-    void setWindows(const QList<Window *> &windows) { m_windows = windows; }
-
-    qint64 longVal() const { return m_longVal; }
-    void setLongVal(qint64 value) { m_longVal = value; }
-
+    QList<Window *> windows;
+    qint64 longVal = 0;
     /// A file's name or an activity's type.
-    QString stringVal() const { return m_stringVal; }
-    void setStringVal(const QString &value) { m_stringVal = value; }
-
+    QString stringVal;
     /// Files or URLs.
-    QVariantList arrayVal() const { return m_arrayVal; }
-    void setArrayVal(const QVariantList &value) { m_arrayVal = value; }
-
+    QVariantList arrayVal;
     /// Print settings or a notification's payload.
-    QVariantMap dictVal() const { return m_dictVal; }
-    void setDictVal(const QVariantMap &value) { m_dictVal = value; }
-
+    QVariantMap dictVal;
     /// The first of the opened files.
-    QUrl urlVal() const { return m_urlVal; }
-    void setUrlVal(const QUrl &value) { m_urlVal = value; }
-
+    QUrl urlVal;
     /// The answer to applicationDockMenu. Not owned.
-    QMenu *menuObj() const;
-    void setMenuObj(QMenu *menu);
-
+    QPointer<QMenu> menuObj;
     /// The open key-input and line-input panels and the answers of the last ones that were confirmed.
-    QWidget *inkeyWnd() const { return m_inkeyWnd; }
-    void setInkeyWnd(QWidget *panel) { m_inkeyWnd = panel; }
-    QString inkeyResponseString() const { return m_inkeyResponseString; }
-    void setInkeyResponseString(const QString &response) { m_inkeyResponseString = response; }
-    QWidget *inputWnd() const { return m_inputWnd; }
-    void setInputWnd(QWidget *panel) { m_inputWnd = panel; }
-    QString inputResponseString() const { return m_inputResponseString; }
-    void setInputResponseString(const QString &response) { m_inputResponseString = response; }
+    QPointer<QWidget> inkeyWnd;
+    QString inkeyResponseString;
+    QPointer<QWidget> inputWnd;
+    QString inputResponseString;
 
-    /// The runtime calls these with an invalid notification: no event of this platform belongs to one of them.
-    virtual void applicationWillFinishLaunching(const QVariant &notification);
-    virtual void applicationDidFinishLaunching(const QVariant &notification);
+    /// Notifications of the window system have no object.
+    virtual void applicationWillFinishLaunching();
+    virtual void applicationDidFinishLaunching() { forwardApplicationEvent(appEventDidFinishLaunching); }
     virtual qint64 applicationShouldTerminate();
-    virtual bool applicationShouldTerminateAfterLastWindowClosed();
-    virtual void applicationWillTerminate(const QVariant &notification);
-    virtual void applicationWillBecomeActive(const QVariant &notification);
-    virtual void applicationDidBecomeActive(const QVariant &notification);
-    virtual void applicationWillResignActive(const QVariant &notification);
-    virtual void applicationDidResignActive(const QVariant &notification);
-    virtual void applicationWillHide(const QVariant &notification);
-    virtual void applicationDidHide(const QVariant &notification);
-    virtual void applicationWillUnhide(const QVariant &notification);
-    virtual void applicationDidUnhide(const QVariant &notification);
-    virtual void applicationWillUpdate(const QVariant &notification);
-    virtual void applicationDidUpdate(const QVariant &notification);
-    virtual bool applicationShouldHandleReopen(bool hasVisibleWindows);
+    virtual bool applicationShouldTerminateAfterLastWindowClosed()
+    {
+        return ask(appEventShouldTerminateAfterLastWindowClosed, false);
+    }
+    virtual void applicationWillTerminate() { forwardApplicationEvent(appEventWillTerminate); }
+    virtual void applicationWillBecomeActive() { forwardApplicationEvent(appEventWillBecomeActive); }
+    virtual void applicationDidBecomeActive() { forwardApplicationEvent(appEventDidBecomeActive); }
+    virtual void applicationWillResignActive() { forwardApplicationEvent(appEventWillResignActive); }
+    virtual void applicationDidResignActive() { forwardApplicationEvent(appEventDidResignActive); }
+    virtual void applicationWillHide() { forwardApplicationEvent(appEventWillHide); }
+    virtual void applicationDidHide() { forwardApplicationEvent(appEventDidHide); }
+    virtual void applicationWillUnhide() { forwardApplicationEvent(appEventWillUnhide); }
+    virtual void applicationDidUnhide() { forwardApplicationEvent(appEventDidUnhide); }
+    virtual void applicationWillUpdate() { forwardApplicationEvent(appEventWillUpdate); }
+    virtual void applicationDidUpdate() { forwardApplicationEvent(appEventDidUpdate); }
+    virtual bool applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
+    {
+        return ask(appEventShouldHandleReopen, true);
+    }
     virtual QMenu *applicationDockMenu();
-    virtual void applicationDidChangeScreenParameters(const QVariant &notification);
-    virtual bool openFileWithoutUI(const QString &fileName);
-    virtual bool openTempFile(const QString &fileName);
-    virtual bool applicationOpenUntitledFile();
-    virtual bool applicationShouldOpenUntitledFile();
-    virtual bool printFile(const QString &fileName);
+    virtual void applicationDidChangeScreenParameters() { forwardApplicationEvent(appEventDidChangeScreenParameters); }
+    virtual bool openFileWithoutUI(const QString &fileName) { return ask(appEventOpenFileWithoutUI, false, fileName); }
+    virtual bool openTempFile(const QString &fileName) { return ask(appEventOpenTempFile, false, fileName); }
+    virtual bool applicationOpenUntitledFile() { return ask(appEventOpenUntitledFile, false); }
+    virtual bool applicationShouldOpenUntitledFile() { return ask(appEventShouldOpenUntitledFile, false); }
+    virtual bool printFile(const QString &fileName) { return ask(appEventPrintFile, true, fileName); }
     virtual qint64 printFiles(const QStringList &files, const QVariantMap &settings, bool showPrintPanels);
     virtual void didRegisterForRemoteNotificationsWithDeviceToken(const QByteArray &token);
     virtual void didFailToRegisterForRemoteNotificationsWithError(const ErrorObject &error);
     virtual void didReceiveRemoteNotification(const QVariantMap &payload);
-    virtual void didDecodeRestorableState(const QVariant &coder);
-    virtual void willEncodeRestorableState(const QVariant &coder);
-    virtual bool willContinueUserActivityWithType(const QString &type);
+    virtual void didDecodeRestorableState(const QVariant &coder)
+    {
+        forwardApplicationEvent(appEventDidDecodeRestorableState, coder);
+    }
+    virtual void willEncodeRestorableState(const QVariant &coder)
+    {
+        forwardApplicationEvent(appEventWillEncodeRestorableState, coder);
+    }
+    virtual bool willContinueUserActivityWithType(const QString &type)
+    {
+        return ask(appEventWillContinueUserActivity, false, type);
+    }
     virtual void didFailToContinueUserActivityWithType(const QString &type, const ErrorObject &error);
-    virtual void didUpdateUserActivity(const QVariant &activity);
-    virtual void applicationDidChangeOcclusionState(const QVariant &notification);
+    virtual void didUpdateUserActivity(const QVariant &activity)
+    {
+        forwardApplicationEvent(appEventDidUpdateUserActivity, activity);
+    }
+    virtual void applicationDidChangeOcclusionState() { forwardApplicationEvent(appEventDidChangeOcclusionState); }
     virtual void openFiles(const QStringList &paths);
 
     /// Forwards nothing and returns the error as it is.
-    virtual ErrorObject willPresentError(const ErrorObject &error);
+    virtual ErrorObject willPresentError(const ErrorObject &error) { return error; }
 
     /// Calls the function that a timer carries and stops the timer when the function returns true. The
     /// function may delete the timer. A timer without a function is left alone.
@@ -138,29 +170,34 @@ public:
     static void setTimerFunction(QTimer *timer, TimerFunction function);
 
     /// Where every event goes: to delegateCallback, else to the registered application-event function.
-    void forwardApplicationEvent(qint64 event, const QVariant &object);
+    void forwardApplicationEvent(qint64 event, const QVariant &object = {});
 
 private:
-    bool ask(qint64 event, bool preset, const QVariant &object);
-
-    bool m_boolVal = false;
-    DelegateCallback m_delegateCallback = nullptr;
-    qintptr m_delegateUserData = 0;
-    QList<Window *> m_windows;
-    qint64 m_longVal = 0;
-    QString m_stringVal;
-    QVariantList m_arrayVal;
-    QVariantMap m_dictVal;
-    QUrl m_urlVal;
-    QPointer<QObject> m_menuObj;
-    QPointer<QWidget> m_inkeyWnd;
-    QString m_inkeyResponseString;
-    QPointer<QWidget> m_inputWnd;
-    QString m_inputResponseString;
+    bool ask(qint64 event, bool preset);
+    bool ask(qint64 event, bool preset, const QString &text);
 };
+
+/// The application's current delegate; if none is installed, one that is remembered but not installed.
+CUI_AppDelegate *CUI_AppDelegateObj();
+
+/// Installs a delegate in place of the current one, also before CocoaInit; null takes it out. Not owned.
+void setAppDelegate(CUI_AppDelegate *delegate);
 
 /// Keep the current delegate's list of windows.
 void CUI_AppDelegateAddWindow(Window *window);
 void CUI_AppDelegateRemoveWindow(Window *window);
+
+/// The program's one function for application events: event code and the object concerned. Answers are
+/// written into the delegate's fields.
+using AppEventFunction = QVariant (*)(qint64 event, const QVariant &object);
+
+/// Registers the function; null takes it out again. Returns the one registered before.
+AppEventFunction CUI_SetOnAppEventFunction(AppEventFunction function);
+
+/// The registered function, or null.
+AppEventFunction CUI_OnAppEventFunction();
+
+/// Calls the registered function and returns its result; without one, null and no call.
+QVariant CallUserDefinedOnAppEventFunction(qint64 event, const QVariant &object);
 
 } // namespace tetrad

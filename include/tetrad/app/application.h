@@ -1,13 +1,10 @@
 #pragma once
 
-// Implemented in runtime/app/process/: application.cpp, termination.cpp, about_panel.cpp and app_events.cpp
+// Implemented in runtime/app/process/application.cpp, termination.cpp and about_panel.cpp
 
 #include <QString>
-#include <QVariant>
 
 namespace tetrad {
-
-class CUI_AppDelegate;
 
 /// Makes the process an application of the window system that is driven from the program's own straight-line main. A
 /// second call changes nothing. What it does to the process:
@@ -25,12 +22,6 @@ class CUI_AppDelegate;
 ///   second signal, the process ends at once. Signals with another action than the default keep it.
 void CocoaInit();
 
-/// The application's current delegate; if none is installed, one that is remembered but not installed.
-CUI_AppDelegate *CUI_AppDelegateObj();
-
-/// Installs a delegate in place of the current one, also before CocoaInit; null takes it out. Not owned.
-void setAppDelegate(CUI_AppDelegate *delegate);
-
 /// Ends the process with status 0 from any depth of nested modal loops, without unwinding main: queries
 /// the delegate, hands the clipboard over, notifies the delegate, flushes the C streams. Nothing that is registered
 /// for exit runs, destructors of static objects included: save what must be saved in event 5. Returns only when the
@@ -46,56 +37,5 @@ QString applicationId();
 
 /// Shows the application's name, and its version if it has one, modally until the panel is closed.
 void orderFrontStandardAboutPanel();
-
-/// Codes of the application events, in the order of CUI_AppDelegate's callbacks. 18 and 32 are not used.
-enum AppEvent : qint64 {
-    appEventWillFinishLaunching = 1,
-    appEventDidFinishLaunching = 2,
-    appEventShouldTerminate = 3,
-    appEventShouldTerminateAfterLastWindowClosed = 4,
-    appEventWillTerminate = 5,
-    appEventWillBecomeActive = 6,
-    appEventDidBecomeActive = 7,
-    appEventWillResignActive = 8,
-    appEventDidResignActive = 9,
-    appEventWillHide = 10,
-    appEventDidHide = 11,
-    appEventWillUnhide = 12,
-    appEventDidUnhide = 13,
-    appEventWillUpdate = 14,
-    appEventDidUpdate = 15,
-    appEventShouldHandleReopen = 16,
-    appEventDockMenu = 17,
-    appEventDidChangeScreenParameters = 19,
-    appEventOpenFileWithoutUI = 20,
-    appEventOpenTempFile = 21,
-    appEventOpenUntitledFile = 22,
-    appEventShouldOpenUntitledFile = 23,
-    appEventPrintFile = 24,
-    appEventPrintFiles = 25,
-    appEventDidRegisterForRemoteNotifications = 26,
-    appEventDidFailToRegisterForRemoteNotifications = 27,
-    appEventDidReceiveRemoteNotification = 28,
-    appEventDidDecodeRestorableState = 29,
-    appEventWillEncodeRestorableState = 30,
-    appEventWillContinueUserActivity = 31,
-    appEventDidFailToContinueUserActivity = 33,
-    appEventDidUpdateUserActivity = 34,
-    appEventDidChangeOcclusionState = 35,
-    appEventOpenFiles = 36,
-};
-
-/// The program's one function for application events: event code and the object concerned. Answers are
-/// written into the delegate's fields.
-using AppEventFunction = QVariant (*)(qint64 event, const QVariant &object);
-
-/// Registers the function; null takes it out again. Returns the one registered before.
-AppEventFunction CUI_SetOnAppEventFunction(AppEventFunction function);
-
-/// The registered function, or null.
-AppEventFunction CUI_OnAppEventFunction();
-
-/// Calls the registered function and returns its result; without one, null and no call.
-QVariant CallUserDefinedOnAppEventFunction(qint64 event, const QVariant &object);
 
 } // namespace tetrad

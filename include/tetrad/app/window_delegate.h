@@ -28,43 +28,43 @@ public:
     void forwardEvent(Window *window, qint64 event, Tag tag, qint64 obj);
 
     QRectF windowWillPositionSheet(Window *window, QWidget *sheet, const QRectF &rect);
-    void windowWillBeginSheet(Window *window);
-    void windowDidEndSheet(Window *window);
+    void windowWillBeginSheet(Window *window) { reportAsOutput(window, windowEventWillBeginSheet); }
+    void windowDidEndSheet(Window *window) { reportAsOutput(window, windowEventDidEndSheet); }
 
     QSizeF windowWillResize(Window *window, const QSizeF &size);
-    void windowDidResize(Window *window);
-    void windowWillStartLiveResize(Window *window);
-    void windowDidEndLiveResize(Window *window);
+    void windowDidResize(Window *window) { report(window, windowEventDidResize); }
+    void windowWillStartLiveResize(Window *window) { report(window, windowEventWillStartLiveResize); }
+    void windowDidEndLiveResize(Window *window) { reportAsOutput(window, windowEventDidEndLiveResize); }
 
-    void windowWillMiniaturize(Window *window);
-    void windowDidMiniaturize(Window *window);
-    void windowDidDeminiaturize(Window *window);
+    void windowWillMiniaturize(Window *window) { report(window, windowEventWillMiniaturize); }
+    void windowDidMiniaturize(Window *window) { report(window, windowEventDidMiniaturize); }
+    void windowDidDeminiaturize(Window *window) { reportAsOutput(window, windowEventDidDeminiaturize); }
 
     QRectF windowWillUseStandardFrame(Window *window, const QRectF &frame);
     bool windowShouldZoom(Window *window, const QRectF &frame);
 
     QSizeF windowWillUseFullScreenContentSize(Window *window, const QSizeF &size);
     qint64 windowWillUseFullScreenPresentationOptions(Window *window, qint64 options);
-    void windowWillEnterFullScreen(Window *window);
-    void windowDidEnterFullScreen(Window *window);
-    void windowWillExitFullScreen(Window *window);
-    void windowDidExitFullScreen(Window *window);
-    void windowDidFailToEnterFullScreen(Window *window);
-    void windowDidFailToExitFullScreen(Window *window);
+    void windowWillEnterFullScreen(Window *window) { report(window, windowEventWillEnterFullScreen); }
+    void windowDidEnterFullScreen(Window *window) { reportAsOutput(window, windowEventDidEnterFullScreen); }
+    void windowWillExitFullScreen(Window *window) { report(window, windowEventWillExitFullScreen); }
+    void windowDidExitFullScreen(Window *window) { reportAsOutput(window, windowEventDidExitFullScreen); }
+    void windowDidFailToEnterFullScreen(Window *window) { report(window, windowEventDidFailToEnterFullScreen); }
+    void windowDidFailToExitFullScreen(Window *window) { report(window, windowEventDidFailToExitFullScreen); }
 
-    void windowWillMove(Window *window);
-    void windowDidMove(Window *window);
-    void windowDidChangeScreen(Window *window);
+    void windowWillMove(Window *window) { reportAsOutput(window, windowEventWillMove); }
+    void windowDidMove(Window *window) { reportAsOutput(window, windowEventDidMove); }
+    void windowDidChangeScreen(Window *window) { reportAsOutput(window, windowEventDidChangeScreen); }
 
-    bool windowShouldClose(Window *window);
+    bool windowShouldClose(Window *window) { return ask(window, windowEventShouldClose); }
     /// Also takes a window that is released when closed off the application delegate's list.
     void windowWillClose(Window *window);
 
-    void windowDidBecomeKey(Window *window);
-    void windowDidResignKey(Window *window);
-    void windowDidBecomeMain(Window *window);
-    void windowDidResignMain(Window *window);
-    void windowDidUpdate(Window *window);
+    void windowDidBecomeKey(Window *window) { reportAsOutput(window, windowEventDidBecomeKey); }
+    void windowDidResignKey(Window *window) { report(window, windowEventDidResignKey); }
+    void windowDidBecomeMain(Window *window) { reportAsOutput(window, windowEventDidBecomeMain); }
+    void windowDidResignMain(Window *window) { report(window, windowEventDidResignMain); }
+    void windowDidUpdate(Window *window) { report(window, windowEventDidUpdate); }
 
     bool windowShouldPopUpDocumentPathMenu(Window *window, QMenu *menu);
 

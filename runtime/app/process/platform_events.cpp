@@ -21,19 +21,19 @@ void reportState(Qt::ApplicationState before, Qt::ApplicationState now)
 {
     CUI_AppDelegate *delegate = CUI_AppDelegateObj();
     if (before == Qt::ApplicationActive) {
-        delegate->applicationWillResignActive({});
-        delegate->applicationDidResignActive({});
+        delegate->applicationWillResignActive();
+        delegate->applicationDidResignActive();
     }
     if (now == Qt::ApplicationHidden) {
-        delegate->applicationWillHide({});
-        delegate->applicationDidHide({});
+        delegate->applicationWillHide();
+        delegate->applicationDidHide();
     } else if (before == Qt::ApplicationHidden) {
-        delegate->applicationWillUnhide({});
-        delegate->applicationDidUnhide({});
+        delegate->applicationWillUnhide();
+        delegate->applicationDidUnhide();
     }
     if (now == Qt::ApplicationActive) {
-        delegate->applicationWillBecomeActive({});
-        delegate->applicationDidBecomeActive({});
+        delegate->applicationWillBecomeActive();
+        delegate->applicationDidBecomeActive();
     }
 }
 
@@ -50,7 +50,7 @@ void followState()
 
 void reportScreens()
 {
-    CUI_AppDelegateObj()->applicationDidChangeScreenParameters({});
+    CUI_AppDelegateObj()->applicationDidChangeScreenParameters();
 }
 
 void followScreen(const QScreen *screen)
@@ -87,8 +87,8 @@ void followSession()
 void followUpdates()
 {
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, qApp, [] {
-        CUI_AppDelegateObj()->applicationWillUpdate({});
-        CUI_AppDelegateObj()->applicationDidUpdate({});
+        CUI_AppDelegateObj()->applicationWillUpdate();
+        CUI_AppDelegateObj()->applicationDidUpdate();
     });
 }
 
@@ -130,8 +130,8 @@ void announceLaunch()
 {
     static bool announced = false;
     if (!std::exchange(announced, true)) {
-        CUI_AppDelegateObj()->applicationWillFinishLaunching({});
-        CUI_AppDelegateObj()->applicationDidFinishLaunching({});
+        CUI_AppDelegateObj()->applicationWillFinishLaunching();
+        CUI_AppDelegateObj()->applicationDidFinishLaunching();
     }
 }
 

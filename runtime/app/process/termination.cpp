@@ -58,7 +58,7 @@ void terminateWithoutAsking()
         handClipboardOver();
     }
     if (!std::exchange(isNotified, true)) {
-        CUI_AppDelegateObj()->applicationWillTerminate({});
+        CUI_AppDelegateObj()->applicationWillTerminate();
     }
     std::fflush(nullptr);
 #ifdef TETRAD_FIND_LEAKS
