@@ -7,8 +7,12 @@
 
 #include <QAction>
 #include <QColorDialog>
+#include <QFileDialog>
 #include <QFontDialog>
+#include <QLineEdit>
+#include <QListView>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QToolBar>
 
 #include <algorithm>
@@ -163,6 +167,66 @@ TEST_F(PanelSite, ColoursAndFontsAreToldAsTheyAreChosen)
         abortModal();
     });
     runModalForWindow(m_content->window());
+}
+
+TEST_F(PanelSite, FilesAreOpenedAndSavedAsTheProgramAnswers)
+{
+    const QTemporaryDir folder;
+    for (const auto &name : {u"a.txt"_s, u"b.txt"_s, u"c.csv"_s}) {
+        EXPECT_TRUE(QFile(folder.filePath(name)).open(QFile::WriteOnly));
+    }
+    valuesOf = [](qint64 event) {
+        const CUI_DialogEvent &record = *CUI_DialogEventObj();
+        return event == filePanelEventUserEnteredName ? record.stringObj : record.urlObj.fileName();
+    };
+    atEvent = [](qint64 event) {
+        CUI_DialogEvent &record = *CUI_DialogEventObj();
+        answer(record.urlObj.fileName() != u"a.txt");
+        record.stringObj.replace(u"no"_s, event == filePanelEventUserEnteredName ? QString() : u"no"_s);
+    };
+    const Table<decltype(&CUI_OpenPanel), bool, QString, QString, QString> rows = {
+        {"opened", CUI_OpenPanel, false, u"b.txt"_s, u"b.txt"_s, {}},
+        {"opened, asked", CUI_OpenPanel, true, u"b.txt"_s, u"b.txt"_s, u"2906 9 7 b.txt"_s},
+        {"refused", CUI_OpenPanel, true, u"a.txt"_s, {}, u"2906 9 7 a.txt"_s},
+        {"another folder", CUI_OpenPanel, false, u"/"_s, {}, u"2903 9 7"_s},
+        {"saved, with an ending", CUI_SavePanel, false, u"d"_s, u"d.txt"_s, u"2901 9 7 d.txt"_s},
+        {"named by the program", CUI_SavePanel, true, u"nod"_s, u"d.txt"_s, u"2901 9 7 nod.txt, 2906 9 7 d.txt"_s},
+        {"without a name", CUI_SavePanel, false, u"no.txt"_s, u".txt"_s, u"2901 9 7 no.txt"_s},
+    };
+    for (const auto &[name, statement, asks, typed, chosen, calls] : rows) {
+        SCOPED_TRACE(name);
+        FilePanelSetAsks(9, asks);
+        whenRuns<QFileDialog>([&, text = typed, expected = calls](QFileDialog *panel) {
+            EXPECT_EQ(CUI_OpenPanel(9, {}, {}, {}), QString()) << "one at a time";
+            auto *const field = panel->findChild<QLineEdit *>();
+            takeSiteCalls();
+            if (asks) {
+                const auto *const list = panel->findChild<QListView *>(u"listView"_s);
+                const auto file = [list](int row) { return list->model()->index(row, 0, list->rootIndex()); };
+                EXPECT_TRUE(
+                    QTest::qWaitFor([&] { return file(1).isValid() && !(file(0).flags() & Qt::ItemIsEnabled); }));
+                list->selectionModel()->setCurrentIndex(file(1), QItemSelectionModel::Select);
+                EXPECT_TRUE(takeSiteCalls().contains(u"2902 9 7 b.txt"_s));
+            }
+            field->setText(text);
+            QTest::keyClick(field, Qt::Key_Return);
+            EXPECT_EQ(takeSiteCalls(), expected);
+            panel->reject();
+        });
+        const QString path = statement(9, u"Choose"_s, folder.path(), u"txt;md"_s);
+        EXPECT_EQ(path, chosen.isEmpty() ? QString() : folder.filePath(chosen));
+    }
+    FilePanelSetAsks(9, true);
+    for (const qint64 dangerous : {2901, 2905, 2906}) {
+        atEvent = [dangerous](qint64 event) {
+            answer(true);
+            delete (event == dangerous ? objectFromTag(lastObject) : nullptr);
+        };
+        whenRuns<QFileDialog>([dangerous](QFileDialog *panel) {
+            QTest::keyClick(panel, dangerous == 2905 ? Qt::Key_Shift : Qt::Key_Return);
+        });
+        EXPECT_EQ(CUI_SavePanel(9, {}, folder.filePath(u"e"_s), {}), QString()) << dangerous;
+    }
 }
 
 } // namespace

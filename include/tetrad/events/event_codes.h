@@ -8,9 +8,9 @@ namespace tetrad {
 ///
 /// A question has its answer in the record, preset to 0 (no, or nothing) or to what the platform proposes. Questions
 /// are worded so that this changes nothing ("refuse?", "handled?"): a program that does not know an event may ignore
-/// it. The exceptions: the questions about windows are preset to yes, and 1301, 1307 and 1901 ("may it close?", "may it
-/// be dragged off?", "is it enabled?") are sent only to a program that asked for them, with PopoverSetAsks or
-/// ToolbarItemSetValidates, since their preset is no.
+/// it. The exceptions: the questions about windows are preset to yes, and 1301, 1307, 1901, 2905 and 2906 ("may it
+/// close?", "may it be dragged off?", "is it enabled?", "may it be chosen?") are sent only to a program that asked for
+/// them, with PopoverSetAsks, ToolbarItemSetValidates or FilePanelSetAsks, since their preset is no.
 ///
 /// Unless a line says otherwise, the object that an event comes with is the view, item, panel or popover concerned.
 
@@ -193,6 +193,14 @@ enum TableHeaderEvent : qint64 {
     tableHeaderEventTextColor = 4300,
 };
 
+enum FilePanelEvent : qint64 {
+    filePanelEventUserEnteredName = 2901,  ///< stringObj: the name to save under, in and out; an empty one refuses it
+    filePanelEventSelectionChanged = 2902, ///< urlObj: the file or folder
+    filePanelEventDirectoryChanged = 2903, ///< urlObj: the folder now shown
+    filePanelEventShouldEnableUrl = 2905,  ///< urlObj: a file listed; boolVal: the answer; see FilePanelSetAsks
+    filePanelEventValidateUrl = 2906,      ///< urlObj: the file chosen; boolVal: the answer; see FilePanelSetAsks
+};
+
 /// Named only, since nothing on this platform sends them: moving files, gesture recognisers, open and save panels,
 /// network sessions, sounds, detached stack views, the preview panel, errors with recovery (alertEndedEvent ends those
 /// here), printing and sharing.
@@ -203,12 +211,7 @@ enum UnsentEvent : qint64 {
     fileManagerEventProceedAfterCopyError = 2403,
     fileManagerEventShouldRemove = 2404,
     gestureEventAction = 2700,
-    filePanelEventUserEnteredName = 2901,
-    filePanelEventSelectionChanged = 2902,
-    filePanelEventDirectoryChanged = 2903,
     filePanelEventWillExpand = 2904,
-    filePanelEventShouldEnableUrl = 2905, ///< urlObj: the file; boolVal: the answer
-    filePanelEventValidateUrl = 2906,     ///< urlObj: the file; boolVal: the answer
     urlSessionEventBecameInvalid = 3600,
     urlSessionEventFinishedBackgroundEvents = 3601,
     urlSessionEventDownloadFinished = 3604,
