@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -171,6 +172,14 @@ void closeTheLastWindow()
     CUI_WindowWithTag(1)->close();
 }
 
+// What Qt 6.4 does for a close box on Wayland: the event is not a spontaneous one.
+void closeBoxOnWayland()
+{
+    CUI_Window(1, QString(), notGiven, QRectF());
+    CUI_WindowWithTag(1)->windowHandle()->close();
+    std::_Exit(4);
+}
+
 void signalThoughTheDelegateWouldRefuse()
 {
     CUI_SetOnAppEventFunction(onAppEvent);
@@ -191,6 +200,7 @@ TEST_F(Terminate, EndsFromAnyDepth)
         {"again in the question", terminateAgainIn<appEventShouldTerminate>},
         {"again while it is notified", terminateAgainIn<appEventWillTerminate>},
         {"the program closes its last window, which ends it", closeTheLastWindow},
+        {"the close box of the last window on Wayland", closeBoxOnWayland},
         {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse},
     };
     for (const auto &[name, end] : rows) {

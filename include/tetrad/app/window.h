@@ -98,6 +98,11 @@ public:
     /// One line for the text dump of what is on the screen.
     Q_INVOKABLE QString dump() const;
 
+public Q_SLOTS:
+    /// Closes the window as the program: the delegate is queried as ever, but it is never the Quit item, which the
+    /// user's request can be. Returns whether it closed. QWidget::close() of the same window counts as the user's.
+    bool close();
+
 protected:
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -118,6 +123,7 @@ private:
     // The size that the menu bar and other bars add to the content.
     QSize m_chrome;
     bool m_closed = false;
+    bool m_closedByProgram = false;
     bool m_autorecalculatesKeyViewLoop = false;
 };
 

@@ -269,11 +269,23 @@ bool Window::event(QEvent *event)
     return handled;
 }
 
+bool Window::close()
+{
+    const QPointer<Window> guard(this);
+    m_closedByProgram = true;
+    const bool closed = QMainWindow::close();
+    if (guard) {
+        m_closedByProgram = false;
+    }
+    return closed;
+}
+
 void Window::closeEvent(QCloseEvent *event)
 {
     const CloseStopper stopper(windowHandle());
     const QPointer<Window> guard(this);
-    const bool byUser = event->spontaneous();
+    // Whether the event is spontaneous says nothing: for a close box on Wayland Qt 6.4 calls QWindow::close().
+    const bool byUser = !m_closedByProgram;
     // Some window managers draw a close box whatever the style says.
     if ((byUser && !(m_styleMask & windowStyleClosable)) || (m_delegate && !m_delegate->windowShouldClose(this))) {
         event->ignore();
