@@ -2,7 +2,6 @@
 
 #include "runtime/controls/dispatch/input_watch.h"
 #include "runtime/controls/events/current_event.h"
-#include "runtime/controls/lookup/view_tag.h"
 #include <tetrad/app/windows.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/dialog_event.h>

@@ -1,6 +1,6 @@
 #include "runtime/controls/dispatch/event_site.h"
 
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/events/tag.h>
 

@@ -1,18 +1,13 @@
 #include "runtime/controls/lookup/class_names.h"
 
-#include <tetrad/events/tag.h>
-
 #include <QObject>
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <iterator>
 #include <string_view>
 
 namespace tetrad {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,11 +18,10 @@ struct ClassRow
     Name name;
     Name superclass;
     // This platform's classes, each as its meta-object names it.
-    std::array<Name, 3> platformClasses;
+    std::array<Name, 2> platformClasses;
 };
 
-// The one place where a class of this platform gets its name. The rows with an exact meaning elsewhere (NSView,
-// ViewSC, ContentViewSC, NSVisualEffectView, NSSegmentedControl) have one platform class only.
+// The only table from which a class of this platform gets its name.
 constexpr ClassRow classTable[] = {
     {"NSObject", "", {"QObject"}},
     {"NSView", "NSObject", {"QWidget"}},
@@ -63,69 +57,31 @@ constexpr ClassRow classTable[] = {
     {"NSPopover", "NSObject", {"tetrad::Popover"}},
 };
 
-const ClassRow *rowOfPlatformClass(Name platformClass)
+// The row of the nearest class that has one. Every object is at least a QObject, which the table has.
+const ClassRow *rowOf(const QMetaObject *metaObject)
 {
-    const auto found = std::find_if(std::begin(classTable), std::end(classTable), [&](const ClassRow &row) {
-        return std::find(row.platformClasses.begin(), row.platformClasses.end(), platformClass) !=
-               row.platformClasses.end();
+    const ClassRow *const row = std::ranges::find_if(classTable, [metaObject](const ClassRow &each) {
+        return std::ranges::count(each.platformClasses, Name(metaObject->className())) > 0;
     });
-    return found == std::end(classTable) ? nullptr : found;
-}
-
-const ClassRow *rowNamed(Name name)
-{
-    const auto found = std::find_if(std::begin(classTable), std::end(classTable),
-                                    [name](const ClassRow &row) { return row.name == name; });
-    return found == std::end(classTable) ? nullptr : found;
-}
-
-// Every object is at least a QObject, which the table has.
-const ClassRow *nearestRow(const QMetaObject *metaObject)
-{
-    const ClassRow *row = rowOfPlatformClass(metaObject->className());
-    while (!row) {
-        metaObject = metaObject->superClass();
-        row = rowOfPlatformClass(metaObject->className());
-    }
-    return row;
-}
-
-bool isNamed(const ClassRow *row, QStringView name)
-{
-    return name == QLatin1StringView(row->name.data(), qsizetype(row->name.size()));
+    return row == std::end(classTable) ? rowOf(metaObject->superClass()) : row;
 }
 
 } // namespace
 
-QString viewClassName(const QObject *object)
-{
-    return viewClassName(*object->metaObject());
-}
-
 QString viewClassName(const QMetaObject &platformClass)
 {
-    const Name name = nearestRow(&platformClass)->name;
+    const Name name = rowOf(&platformClass)->name;
     return QString::fromLatin1(name.data(), qsizetype(name.size()));
 }
 
-bool isKindOfViewClass(const QObject *object, QStringView className)
+bool isKindOfViewClass(const QObject *object, const QString &className)
 {
-    const ClassRow *row = nearestRow(object->metaObject());
-    while (row && !isNamed(row, className)) {
-        row = rowNamed(row->superclass);
+    const QByteArray wanted = className.toLatin1();
+    const ClassRow *row = rowOf(object->metaObject());
+    while (row != std::end(classTable) && row->name != wanted.constData()) {
+        row = std::ranges::find(classTable, row->superclass, &ClassRow::name);
     }
-    return row != nullptr;
-}
-
-bool isExactlyViewClass(const QObject *object, QStringView className)
-{
-    const ClassRow *row = rowOfPlatformClass(object->metaObject()->className());
-    return row && isNamed(row, className);
-}
-
-QString objectDescription(const QObject *object, const QString &className)
-{
-    return u"<%1: 0x%2>"_s.arg(className, QString::number(tagFromObject(object), 16));
+    return row != std::end(classTable);
 }
 
 } // namespace tetrad

@@ -1,15 +1,11 @@
 #include <tetrad/controls/view_lookup.h>
 
 #include "runtime/app/windows/output_window.h"
-#include "runtime/controls/lookup/class_names.h"
-#include "runtime/controls/lookup/typed_lookup.h"
-#include "runtime/controls/lookup/view_tag.h"
-#include "runtime/controls/statements/titlebar_accessory.h"
-#include <tetrad/app/content_view.h>
 #include <tetrad/app/popover.h>
-#include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
+#include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/toolbar.h>
+#include <tetrad/controls/view_sc.h>
 #include <tetrad/strings/numbers.h>
 
 #include <QAction>
@@ -18,9 +14,26 @@
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+// A C++ class without Q_OBJECT looks like its base.
+template <typename View>
+bool isExactly(const QWidget *view)
+{
+    return view->metaObject() == &View::staticMetaObject;
+}
+
+bool isPlainView(const QWidget *view)
+{
+    return isExactly<QWidget>(view) || isExactly<ViewSC>(view);
+}
+
+// The tag of a view as lookups compare it.
+Tag viewSearchTag(const QWidget *view)
+{
+    const bool byIdentifier = isPlainView(view) || isExactly<VisualEffectView>(view);
+    return byIdentifier ? StringIntegerValue(view->objectName()) : objectTag(view);
+}
 
 QWidget *viewInShownPopover(Tag tag)
 {
@@ -74,7 +87,7 @@ QWidget *CUI_ViewSubviewWithTag(QWidget *view, Tag tag)
     if (const auto *tabView = qobject_cast<QTabWidget *>(view)) {
         return viewInTabs(tabView, tag);
     }
-    if (isExactlyViewClass(view, u"NSSegmentedControl")) {
+    if (isExactly<SegmentedControlSC>(view)) {
         return nullptr;
     }
     for (QObject *const child : view->children()) {
@@ -93,31 +106,15 @@ QWidget *CUI_ViewSubviewWithTag(QWidget *view, Tag tag)
     return nullptr;
 }
 
-QWidget *TitlebarAccessoryViewWithTag(Tag tag)
+Tag CUI_ViewTag(const QWidget *view)
 {
-    const auto *const window = qobject_cast<Window *>(CUI_OutputWindow());
-    if (!window || !(window->styleMask() & windowStyleTitled)) {
-        return nullptr;
-    }
-    for (QWidget *const view : titlebarAccessoryViews(window)) {
-        if (StringIntegerValue(view->objectName()) == tag) {
-            return view;
-        }
-        if (QWidget *const found = CUI_ViewSubviewWithTag(view, tag)) {
-            return found;
-        }
-    }
-    return nullptr;
+    const bool byIdentifier = isPlainView(view) || isExactly<ContentViewSC>(view);
+    return byIdentifier ? StringIntegerValue(view->objectName()) : objectTag(view);
 }
 
-QWidget *CUI_ValidateViewKindOfClass(Tag tagOrView, const QString &className)
+Tag CUI_ViewWindowTag(const QWidget *view)
 {
-    return validatedView(tagOrView, {className});
-}
-
-QWidget *ControlWithTag(Tag tagOrControl)
-{
-    return CUI_ValidateViewKindOfClass(tagOrControl, u"NSControl"_s);
+    return objectTag(view->window());
 }
 
 } // namespace tetrad

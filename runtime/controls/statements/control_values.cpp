@@ -1,6 +1,6 @@
 #include <tetrad/controls/control_statements.h>
 
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/controls/token_field.h>
 #include <tetrad/controls/view_lookup.h>

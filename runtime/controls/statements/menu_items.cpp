@@ -1,8 +1,7 @@
 #include <tetrad/controls/menu_items.h>
 
-#include "runtime/app/process/strings_table.h"
 #include "runtime/controls/dispatch/event_site.h"
-#include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include <tetrad/app/menus.h>
 #include <tetrad/events/event_codes.h>
 #include <tetrad/events/tag.h>
@@ -12,8 +11,6 @@
 #include <QMenu>
 #include <QPointer>
 
-#include <algorithm>
-
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
@@ -21,22 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char disabledKey[] = "disabledByStatement";
-
-QMenu *menuWithTag(Tag tag)
-{
-    const QList<QMenu *> menus = mainMenu() ? mainMenu()->menus : QList<QMenu *>();
-    const auto found =
-        std::find_if(menus.begin(), menus.end(), [tag](const QMenu *menu) { return objectTag(menu) == tag; });
-    return found == menus.end() ? nullptr : *found;
-}
-
-QAction *itemWithTag(const QMenu *menu, Tag tag)
-{
-    const QList<QAction *> items = menu->actions();
-    const auto found =
-        std::find_if(items.begin(), items.end(), [tag](const QAction *item) { return objectTag(item) == tag; });
-    return found == items.end() ? nullptr : *found;
-}
 
 // The events carry the menu's tag and the window that the user is in.
 void prepareEvent(QMenu *menu, const QAction *item)
@@ -76,17 +57,14 @@ QAction *newItem(QMenu *menu, Tag tag)
     auto *const item = menu->addAction(QString());
     setObjectTag(item, tag);
     item->setShortcutContext(Qt::ApplicationShortcut);
-    QObject::connect(item, &QAction::triggered, menu, [menu, item = QPointer<QAction>(item)] {
-        // Only the statement ticks and unticks.
-        item->setChecked(item->isCheckable());
-        // The menu is still closing.
-        callSoon(menu, [menu, item] {
-            if (item) {
-                prepareEvent(menu, item);
-                sendObjectEvent(menu, menuEventItem);
-            }
-        });
-    });
+    // Only the statement ticks and unticks.
+    QObject::connect(item, &QAction::triggered, item, [item] { item->setChecked(item->isCheckable()); });
+    // Queued, since the menu is still closing.
+    const auto report = [menu, item] {
+        prepareEvent(menu, item);
+        sendObjectEvent(menu, menuEventItem);
+    };
+    QObject::connect(item, &QAction::triggered, item, report, Qt::QueuedConnection);
     return item;
 }
 
@@ -105,15 +83,14 @@ QKeySequence shortcut(const QString &key)
 void CUI_Menu(Tag menuTag, qint64 item, qint64 state, const QString &title, const QString &key)
 {
     if (menuTag < 1 || isObjectAddress(menuTag) || item < 0) {
-        const char *const text = QT_TRANSLATE_NOOP("Runtime", "There can be no item %1 in a menu %2.");
-        showTagError(runtimeText(text).arg(QString::number(item), QString::number(menuTag)));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "There can be no item %1 in a menu %2."), item, menuTag);
         return;
     }
-    QMenu *menu = menuWithTag(menuTag);
+    QMenu *menu = mainMenu() ? objectWithTag(mainMenu()->menus, menuTag) : nullptr;
     if (!menu) {
         menu = newMenu(menuTag);
     }
-    QAction *action = item == 0 ? menu->menuAction() : itemWithTag(menu, item);
+    QAction *action = item == 0 ? menu->menuAction() : objectWithTag(menu->actions(), item);
     if (!action) {
         action = newItem(menu, item);
     }

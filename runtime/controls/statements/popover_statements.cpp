@@ -1,27 +1,126 @@
 #include <tetrad/controls/popovers.h>
 
-#include "runtime/app/process/strings_table.h"
-#include "runtime/controls/dispatch/popover_events.h"
-#include "runtime/controls/lookup/tag_alerts.h"
-#include "runtime/controls/lookup/typed_lookup.h"
-#include <tetrad/app/alerts.h>
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/windows.h>
+#include <tetrad/events/event_codes.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QVariant>
 
 namespace tetrad {
 
 namespace {
 
+constexpr char asksKey[] = "popoverAsks";
+
+void report(Popover *popover, qint64 event)
+{
+    setObjectWindowTag(popover, popover->tag());
+    sendObjectEvent(popover, event);
+}
+
+bool answersYesTo(Popover *popover, qint64 event)
+{
+    CUI_DialogEventObj()->boolVal = false;
+    report(popover, event);
+    return CUI_DialogEventObj()->boolVal;
+}
+
+bool asks(const Popover *popover)
+{
+    return popover->property(asksKey).toBool();
+}
+
+// Turns a popover whose background is dragged off into a window, if the program lets it.
+class PopoverDetacher : public QObject
+{
+public:
+    explicit PopoverDetacher(Popover *popover) : QObject(popover), m_popover(popover)
+    {
+        popover->contentView()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isMove = event->type() == QEvent::MouseMove;
+        if (isMove || event->type() == QEvent::MouseButtonPress) {
+            const auto *const mouse = static_cast<QMouseEvent *>(event);
+            const QPoint position = mouse->globalPosition().toPoint();
+            const QPoint distance = position - m_pressedAt;
+            if (!isMove) {
+                m_pressedAt = position;
+            } else if (mouse->buttons() & Qt::LeftButton && isAttached() &&
+                       distance.manhattanLength() > QApplication::startDragDistance()) {
+                m_pressedAt = position;
+                detach(distance);
+                return true;
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    // A detached popover has a frame until it is shown at a view again.
+    bool isAttached() const { return m_popover->windowFlags() & Qt::FramelessWindowHint; }
+
+    void detach(const QPoint &distance)
+    {
+        const QPointer<Popover> guard(m_popover);
+        if (!asks(m_popover) || !answersYesTo(m_popover, popoverEventShouldDetach) || !guard) {
+            return;
+        }
+        const QPoint position = m_popover->pos() + distance;
+        CUI_DialogEventObj()->viewObj = nullptr;
+        report(m_popover, popoverEventDetachableWindow);
+        if (!guard) {
+            return;
+        }
+        const QPointer<QWidget> window = qobject_cast<QWidget *>(CUI_DialogEventObj()->viewObj);
+        if (window) {
+            m_popover->hide();
+            window->move(position);
+            window->show();
+        } else {
+            m_popover->setWindowFlags(Qt::Tool);
+            m_popover->move(position);
+            m_popover->show();
+        }
+        report(m_popover, popoverEventDidDetach);
+    }
+
+    Popover *m_popover = nullptr;
+    QPoint m_pressedAt;
+};
+
+void reportPopoverEvents(Popover *popover)
+{
+    const auto reports = [popover](auto signal, qint64 event) {
+        QObject::connect(popover, signal, popover, [popover, event] { report(popover, event); });
+    };
+    reports(&Popover::willShow, popoverEventWillShow);
+    reports(&Popover::didShow, popoverEventDidShow);
+    reports(&Popover::willClose, popoverEventWillClose);
+    reports(&Popover::didClose, popoverEventDidClose);
+    QObject::connect(popover, &Popover::shouldClose, popover, [popover](bool *answer) {
+        if (asks(popover)) {
+            *answer = answersYesTo(popover, popoverEventShouldClose);
+        }
+    });
+    new PopoverDetacher(popover);
+}
+
 bool canBePopover(Tag tag)
 {
-    if (tag == 0 || isObjectAddress(tag)) {
-        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1.");
-        showTagError(runtimeText(text).arg(tag));
+    if (!canBeTag(tag, QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1."))) {
         return false;
     }
     if (CUI_WindowWithTag(tag)) {
-        CUI_ShowAlert(alertStyleWarning, runtimeText(QT_TRANSLATE_NOOP("Runtime", "Window tag error.")),
-                      runtimeText(QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value.")));
+        showStatementAlert(QT_TRANSLATE_NOOP("Runtime", "Window tag error."),
+                           QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value."));
         return false;
     }
     return true;
@@ -32,7 +131,7 @@ Popover *popoverWithTag(Tag tag)
 {
     Popover *const popover = CUI_PopoverWithTag(tag);
     if (!popover) {
-        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1.")).arg(tag));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find popover %1."), tag);
     }
     return popover;
 }
@@ -59,7 +158,7 @@ void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
 void PopoverSetAsks(Tag tag, bool asks)
 {
     if (Popover *const popover = popoverWithTag(tag)) {
-        setPopoverAsks(popover, asks);
+        popover->setProperty(asksKey, asks);
     }
 }
 

@@ -1,8 +1,7 @@
 #include <tetrad/controls/timers.h>
 
-#include "runtime/app/process/strings_table.h"
 #include "runtime/controls/dispatch/event_site.h"
-#include "runtime/controls/lookup/tag_alerts.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/events/event_codes.h>
 #include <tetrad/events/tag.h>
@@ -15,29 +14,15 @@
 
 namespace tetrad {
 
-namespace {
-
-// The timers are the application's own children; nothing else there is a plain QTimer with a tag.
-QTimer *timerWithTag(Tag tag)
-{
-    const auto timers = qApp->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
-    const auto found =
-        std::find_if(timers.begin(), timers.end(), [tag](const QTimer *timer) { return objectTag(timer) == tag; });
-    return found == timers.end() ? nullptr : *found;
-}
-
-} // namespace
-
 void CUI_Timer(Tag tag, double interval_s, bool repeats)
 {
-    const Tag identity = tagIdentity(tag);
-    if (tag == 0 || isObjectAddress(identity)) {
-        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A timer needs a tag from 1 to 1000000, not %1.");
-        showTagError(runtimeText(text).arg(tag));
+    if (!canBeTag(tag, QT_TRANSLATE_NOOP("Runtime", "A timer needs a tag from 1 to 1000000, not %1."))) {
         return;
     }
-    // A timer may be stopped in its own event.
-    if (QTimer *const running = timerWithTag(identity)) {
+    // The timers are the application's own children; nothing else there is a plain QTimer with a tag.
+    const auto timers = qApp->findChildren<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    if (QTimer *const running = objectWithTag(timers, tagIdentity(tag))) {
+        // It may be stopped in its own event.
         setObjectTag(running, 0);
         running->stop();
         running->deleteLater();

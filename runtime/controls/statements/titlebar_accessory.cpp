@@ -1,12 +1,11 @@
-#include "runtime/controls/statements/titlebar_accessory.h"
+#include <tetrad/controls/toolbar.h>
 
-#include "runtime/app/process/strings_table.h"
-#include "runtime/controls/lookup/tag_alerts.h"
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/controls/toolbar.h>
+#include <tetrad/controls/view_lookup.h>
+#include <tetrad/strings/numbers.h>
 
 #include <QHBoxLayout>
 #include <QMenuBar>
@@ -27,7 +26,7 @@ void WindowAddTitlebarAccessoryView(Tag wndTag, Tag view)
 {
     Window *const window = CUI_WindowWithTag(wndTag);
     if (!window) {
-        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Can't find window %1.")).arg(wndTag));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find window %1."), wndTag);
         return;
     }
     QWidget *const added = viewOfClass<QWidget>(view);
@@ -46,15 +45,21 @@ void WindowAddTitlebarAccessoryView(Tag wndTag, Tag view)
     row->show();
 }
 
-QList<QWidget *> titlebarAccessoryViews(const Window *window)
+QWidget *TitlebarAccessoryViewWithTag(Tag tag)
 {
-    QList<QWidget *> views;
-    if (const QWidget *const row = accessoryRow(window)) {
-        for (int index = 0; index < row->layout()->count(); ++index) {
-            views.append(row->layout()->itemAt(index)->widget());
+    const auto *const window = qobject_cast<Window *>(CUI_OutputWindow());
+    const bool hasTitle = window && window->styleMask() & windowStyleTitled;
+    const QWidget *const row = hasTitle ? accessoryRow(window) : nullptr;
+    for (int index = 0; row && index < row->layout()->count(); ++index) {
+        QWidget *const view = row->layout()->itemAt(index)->widget();
+        if (StringIntegerValue(view->objectName()) == tag) {
+            return view;
+        }
+        if (QWidget *const found = CUI_ViewSubviewWithTag(view, tag)) {
+            return found;
         }
     }
-    return views;
+    return nullptr;
 }
 
 } // namespace tetrad

@@ -1,20 +1,57 @@
 #include <tetrad/controls/toolbar.h>
 
-#include "runtime/app/process/strings_table.h"
-#include "runtime/controls/dispatch/toolbar_events.h"
-#include "runtime/controls/lookup/tag_alerts.h"
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/dispatch/event_site.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
+#include <tetrad/events/event_codes.h>
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QTimer>
 #include <QToolBar>
 #include <QWidgetAction>
 
 namespace tetrad {
 
 namespace {
+
+// Asks whether a tool bar's item is enabled, now and after what the user did may have changed it. The item may be gone
+// afterwards.
+class ItemValidator : public QTimer
+{
+public:
+    explicit ItemValidator(QAction *item) : QTimer(item)
+    {
+        setSingleShot(true);
+        callOnTimeout(item, [item] {
+            const QPointer<QAction> guard(item);
+            const bool enabled = answersYes(item, toolbarEventValidateItem);
+            if (guard) {
+                item->setEnabled(enabled);
+            }
+        });
+        QCoreApplication::instance()->installEventFilter(this);
+        start(0);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::WindowActivate:
+        case QEvent::MouseButtonRelease:
+        case QEvent::KeyRelease:
+            start(0);
+            break;
+        default:
+            break;
+        }
+        return QTimer::eventFilter(watched, event);
+    }
+};
 
 Window *targetWindow()
 {
@@ -46,12 +83,11 @@ QToolBar *toolbarForItem(Tag toolbarTag, Tag itemTag)
     }
     QToolBar *const toolbar = CUI_WindowToolbar(window);
     if (!toolbar || CUI_ToolbarTag(toolbar) != toolbarTag) {
-        const char *const text = QT_TRANSLATE_NOOP("Runtime", "Can't find tool bar %1 in window %2.");
-        showTagError(runtimeText(text).arg(QString::number(toolbarTag), QString::number(window->tag())));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find tool bar %1 in window %2."), toolbarTag, window->tag());
         return nullptr;
     }
     if (itemTag == 0) {
-        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "A tool bar item cannot have the tag 0.")));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "A tool bar item cannot have the tag 0."));
         return nullptr;
     }
     return toolbar;
@@ -61,7 +97,9 @@ QAction *addItem(QToolBar *toolbar, QAction *item, Tag tag)
 {
     setObjectTag(item, tag);
     setObjectWindowTag(item, objectWindowTag(toolbar));
-    reportToolbarItemEvents(item);
+    QObject::connect(
+        item, &QAction::triggered, item, [item] { sendObjectEvent(item, toolbarEventItemAction); },
+        Qt::QueuedConnection);
     toolbar->addAction(item);
     return item;
 }
@@ -85,18 +123,13 @@ Tag CUI_ToolbarTag(const QToolBar *toolbar)
 
 QAction *ToolbarItemWithTag(const QToolBar *toolbar, Tag tag)
 {
-    for (QAction *const item : toolbar->actions()) {
-        if (tag != 0 && objectTag(item) == tag) {
-            return item;
-        }
-    }
-    return nullptr;
+    return objectWithTag(toolbar->actions(), tag);
 }
 
 QToolBar *CUI_Toolbar(Tag tag)
 {
     if (tag == 0) {
-        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "A tool bar cannot have the tag 0.")));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "A tool bar cannot have the tag 0."));
         return nullptr;
     }
     Window *const window = targetWindow();
@@ -146,10 +179,12 @@ void ToolbarItemSetValidates(Tag toolbarTag, Tag itemTag, bool validates)
 {
     const QToolBar *const toolbar = toolbarForItem(toolbarTag, itemTag);
     if (QAction *const item = toolbar ? ToolbarItemWithTag(toolbar, itemTag) : nullptr) {
-        setToolbarItemValidates(item, validates);
+        delete item->findChild<QTimer *>();
+        if (validates) {
+            new ItemValidator(item);
+        }
     } else if (toolbar) {
-        const char *const text = QT_TRANSLATE_NOOP("Runtime", "Can't find item %1 in tool bar %2.");
-        showTagError(runtimeText(text).arg(QString::number(itemTag), QString::number(toolbarTag)));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find item %1 in tool bar %2."), itemTag, toolbarTag);
     }
 }
 

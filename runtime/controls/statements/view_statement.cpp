@@ -1,10 +1,7 @@
 #include "runtime/controls/statements/view_statement.h"
 
-#include "runtime/app/process/strings_table.h"
 #include "runtime/app/windows/output_window.h"
 #include "runtime/controls/dispatch/input_watch.h"
-#include "runtime/controls/lookup/tag_alerts.h"
-#include "runtime/controls/lookup/view_tag.h"
 #include <tetrad/controls/view_lookup.h>
 
 #include <QWidget>
@@ -13,17 +10,14 @@ namespace tetrad {
 
 QWidget *contentViewForStatement(Tag tag)
 {
-    if (tag == 0 || isObjectAddress(tagIdentity(tag))) {
-        const char *const text = QT_TRANSLATE_NOOP("Runtime", "A view needs a tag from 1 to 1000000, not %1.");
-        showTagError(runtimeText(text).arg(tag));
-        return nullptr;
-    }
-    return viewOfClass<QWidget>(contentViewTag);
+    return canBeTag(tag, QT_TRANSLATE_NOOP("Runtime", "A view needs a tag from 1 to 1000000, not %1."))
+               ? viewOfClass<QWidget>(contentViewTag)
+               : nullptr;
 }
 
 void adoptView(QWidget *view, Tag tag)
 {
-    setViewTag(view, tagIdentity(tag));
+    setObjectTag(view, tagIdentity(tag));
     setObjectWindowTag(view, CUI_ViewWindowTag(view));
     view->adjustSize();
     watchInput();
@@ -54,9 +48,9 @@ void ViewAddSubview(Tag superview, Tag subview)
         return;
     }
     const bool wasShown = !inner->isHidden();
-    const QPoint place = inner->pos();
+    const QPoint position = inner->pos();
     inner->setParent(outer);
-    inner->move(place);
+    inner->move(position);
     inner->setVisible(wasShown);
     setWindowTagWithin(inner, CUI_ViewWindowTag(outer));
 }
@@ -68,7 +62,7 @@ void ViewRemoveFromSuperview(Tag tag)
         return;
     }
     if (view == contentViewOf(view->window()) || view->isWindow()) {
-        showTagError(runtimeText(QT_TRANSLATE_NOOP("Runtime", "A content view stays in its window.")));
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "A content view stays in its window."));
         return;
     }
     view->hide();

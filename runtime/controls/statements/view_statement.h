@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include <tetrad/controls/view_lookup.h>
 
 #include <QRectF>
@@ -27,8 +27,9 @@ void placeView(QWidget *view, Tag tag, const QRectF &rect);
 
 /// The view that a statement is about. Null after an alert, when the statement does nothing.
 /// `whenMade` is called with a view made just now: to connect it, for example.
-template <typename View, typename WhenMade>
-View *statementView(Tag tag, const QRectF &rect, WhenMade whenMade)
+template <typename View, typename WhenMade = void (*)(View *)>
+View *statementView(
+    Tag tag, const QRectF &rect, WhenMade whenMade = [](View *) {})
 {
     QWidget *const contentView = contentViewForStatement(tag);
     if (!contentView) {
@@ -37,22 +38,15 @@ View *statementView(Tag tag, const QRectF &rect, WhenMade whenMade)
     View *view = nullptr;
     if (CUI_ViewWithTag(tagIdentity(tag))) {
         view = viewOfClass<View>(tagIdentity(tag));
-        if (!view) {
-            return nullptr;
-        }
     } else {
         view = new View(contentView);
         adoptView(view, tag);
         whenMade(view);
     }
-    placeView(view, tag, rect);
+    if (view) {
+        placeView(view, tag, rect);
+    }
     return view;
-}
-
-template <typename View>
-View *statementView(Tag tag, const QRectF &rect)
-{
-    return statementView<View>(tag, rect, [](View *) {});
 }
 
 } // namespace tetrad

@@ -1,7 +1,7 @@
 #include <tetrad/controls/outline_view.h>
 
 #include "runtime/controls/dispatch/event_site.h"
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/controls/views/selection_gate.h"
 #include <tetrad/events/event_codes.h>

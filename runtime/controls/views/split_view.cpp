@@ -1,7 +1,7 @@
 #include <tetrad/controls/split_view.h>
 
 #include "runtime/controls/dispatch/event_site.h"
-#include "runtime/controls/lookup/typed_lookup.h"
+#include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/controls/views/pixel_answer.h"
 #include "runtime/controls/views/split_divider.h"

@@ -2,9 +2,8 @@
 
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/events/current_event.h"
-#include <tetrad/events/view_relay.h>
-#include "runtime/controls/lookup/view_tag.h"
 #include "runtime/controls/statements/view_statement.h"
+#include <tetrad/events/view_relay.h>
 
 #include <QFocusEvent>
 #include <QMimeData>
@@ -132,7 +131,7 @@ void ViewSC::confirmFocus(bool forward)
 
 void CUI_ViewSubclass(Tag tag, const QRectF &rect)
 {
-    statementView<ViewSC>(tag, rect);
+    statementView<ViewSC>(tag, rect, [tag](ViewSC *made) { made->setObjectName(QString::number(tagIdentity(tag))); });
 }
 
 } // namespace tetrad
