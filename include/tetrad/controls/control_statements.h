@@ -1,7 +1,7 @@
 #pragma once
 
-// Implemented in runtime/controls/statements/control_statements.cpp and control_values.cpp,
-// runtime/controls/dispatch/control_callback.cpp and runtime/controls/views/segmented_control.cpp.
+// Implemented in runtime/controls/statements/control_statements.cpp and control_values.cpp, and
+// runtime/controls/dispatch/control_target.cpp.
 
 #include <tetrad/events/tag.h>
 
@@ -128,11 +128,6 @@ public:
 Q_SIGNALS:
     /// The user chose an item or pressed Return; sent once control is back in the event loop.
     void chosen();
-
-private:
-    void reportSoon();
-
-    bool m_isQueued = false;
 };
 
 class ImageViewSC : public QWidget

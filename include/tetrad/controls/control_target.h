@@ -57,10 +57,6 @@ void ControlSetActionID(Tag tag, qint64 id);
 /// warning that names it.
 void sendControlAction(QWidget *control);
 
-/// The same as soon as control is back in the event loop, unless the control is gone by then: for widgets
-/// that are still working when they report a change.
-void sendControlActionSoon(QWidget *control);
-
 /// The dispatch of what a control's delegate reports: as controlAction, with the event and the object given,
 /// and with the result of the function that was called.
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj);

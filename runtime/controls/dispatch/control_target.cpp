@@ -1,17 +1,13 @@
 #include <tetrad/controls/control_target.h>
 
-#include "runtime/controls/dispatch/input_watch.h"
+#include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/events/current_event.h"
 #include <tetrad/app/windows.h>
 #include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QEvent>
 #include <QVariant>
-#include <QWidget>
-
-#include <memory>
 
 namespace tetrad {
 
@@ -20,6 +16,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char actionKey[] = "actionName";
+constexpr char callbackKey[] = "callbackValue";
+constexpr char userDataKey[] = "userDataValue";
 
 Tag controlWindowTag(const QWidget *control)
 {
@@ -30,10 +28,8 @@ Tag controlWindowTag(const QWidget *control)
 // `obj` is what the callback for all controls is given, `sender` what the dialog function is.
 qint64 dispatch(qint64 event, const QWidget *control, Tag wndTag, Tag obj, Tag sender)
 {
-    // A copy of the program's own: the next event replaces the one that is kept.
-    const QEvent *const last = CUI_EventEvent() ? nullptr : lastInputEvent();
-    const std::unique_ptr<QEvent> copy(last ? last->clone() : nullptr);
-    const CurrentEventScope scope(copy ? copy.get() : CUI_EventEvent());
+    const std::shared_ptr<QEvent> last = lastInputEvent();
+    const CurrentEventScope scope(CUI_EventEvent() ? CUI_EventEvent() : last.get());
     const Tag tag = objectTag(control);
     if (const ControlCallback callback = cuiControlCallback(control)) {
         return callback(tag, wndTag, cuiControlUserData(control));
@@ -94,10 +90,32 @@ void sendControlAction(QWidget *control)
     QMetaObject::invokeMethod(target, method.constData(), Qt::DirectConnection, Q_ARG(QWidget *, control));
 }
 
-void sendControlActionSoon(QWidget *control)
+ControlCallback cuiControlCallback(const QObject *control)
 {
-    QMetaObject::invokeMethod(
-        control, [control] { sendControlAction(control); }, Qt::QueuedConnection);
+    return control->property(callbackKey).value<ControlCallback>();
+}
+
+void setCuiControlCallback(QObject *control, ControlCallback callback)
+{
+    control->setProperty(callbackKey, QVariant::fromValue(callback));
+}
+
+void *cuiControlUserData(const QObject *control)
+{
+    return control->property(userDataKey).value<void *>();
+}
+
+void setCuiControlUserData(QObject *control, void *userData)
+{
+    control->setProperty(userDataKey, QVariant::fromValue(userData));
+}
+
+void ControlSetCallback(Tag tag, ControlCallback callback, void *userData)
+{
+    if (QWidget *const control = ControlWithTag(tag)) {
+        setCuiControlCallback(control, callback);
+        setCuiControlUserData(control, userData);
+    }
 }
 
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj)

@@ -4,6 +4,8 @@
 #include "runtime/strings/saturate.h"
 #include <tetrad/events/tag.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QVariant>
 
 #include <algorithm>
@@ -13,6 +15,32 @@ namespace tetrad {
 namespace {
 
 constexpr char delegateCallbackKey[] = "delegateCallback";
+
+class InputWatch : public QObject
+{
+public:
+    using QObject::QObject;
+
+    std::shared_ptr<QEvent> last;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        static constexpr QEvent::Type kept[] = {QEvent::MouseButtonPress,
+                                                QEvent::MouseButtonRelease,
+                                                QEvent::MouseButtonDblClick,
+                                                QEvent::MouseMove,
+                                                QEvent::Wheel,
+                                                QEvent::KeyPress,
+                                                QEvent::KeyRelease};
+        if (std::ranges::count(kept, event->type()) > 0) {
+            last.reset(event->clone());
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+QPointer<InputWatch> inputWatch;
 
 } // namespace
 
@@ -48,6 +76,19 @@ qint64 forwardDelegateEvent(const QObject *view, qint64 event, Tag obj)
 int countAnswer(const QObject *object, qint64 event)
 {
     return std::max(0, saturatedTo<int>(answerTo(object, event, &CUI_DialogEvent::longVal, qint64(0))));
+}
+
+void watchInput()
+{
+    if (!inputWatch) {
+        inputWatch = new InputWatch(qApp);
+        qApp->installEventFilter(inputWatch);
+    }
+}
+
+std::shared_ptr<QEvent> lastInputEvent()
+{
+    return inputWatch ? inputWatch->last : nullptr;
 }
 
 } // namespace tetrad

@@ -6,6 +6,7 @@
 #include <QMetaObject>
 #include <QObject>
 
+#include <memory>
 #include <utility>
 
 namespace tetrad {
@@ -47,6 +48,13 @@ inline bool answersYes(const QObject *object, qint64 event)
 
 /// A number of rows or children that the program answers, preset to 0; a negative one counts as 0.
 int countAnswer(const QObject *object, qint64 event);
+
+/// Begins to keep a copy of the last mouse, wheel or key event delivered to the application, since a control may act
+/// on it later. Only the first call does something.
+void watchInput();
+
+/// That copy, or null.
+std::shared_ptr<QEvent> lastInputEvent();
 
 /// Calls a function as soon as control is back in the event loop, unless the object is gone by then.
 template <typename Function>

@@ -1,6 +1,5 @@
 #include <tetrad/controls/control_statements.h>
 
-#include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/input/field_formatter.h"
@@ -9,9 +8,11 @@
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/strings/not_given.h>
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QDoubleSpinBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -20,10 +21,11 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QTimer>
+#include <QToolButton>
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tetrad {
 
@@ -35,18 +37,22 @@ void sendsActionAtOnce(QAbstractButton *button)
     QObject::connect(button, &QAbstractButton::clicked, button, [button] { sendControlAction(button); });
 }
 
-template <typename Control, typename Signal>
-void sendsActionSoon(Control *control, Signal signal)
+// Other controls are still working when they report a change.
+template <typename Control, typename... Values>
+auto sendsActionSoon(void (Control::*signal)(Values...))
 {
-    QObject::connect(control, signal, control, [control] { sendControlActionSoon(control); });
+    return [signal](auto *control) {
+        QObject::connect(
+            control, signal, control, [control] { sendControlAction(control); }, Qt::QueuedConnection);
+    };
 }
 
-template <typename Button>
-void buttonStatement(Tag tag, const QString &title, const QRectF &rect)
+template <typename View, typename WhenMade>
+void textStatement(Tag tag, const QString &text, const QRectF &rect, WhenMade whenMade)
 {
-    auto *const button = statementView<Button>(tag, rect, sendsActionAtOnce);
-    if (button && !title.isNull()) {
-        button->setText(title);
+    auto *const view = statementView<View>(tag, rect, whenMade);
+    if (view && !text.isNull()) {
+        view->setText(text);
     }
 }
 
@@ -64,40 +70,32 @@ int decimalsOf(double increment)
 
 void CUI_Button(Tag tag, const QString &title, const QRectF &rect)
 {
-    buttonStatement<QPushButton>(tag, title, rect);
+    textStatement<QPushButton>(tag, title, rect, sendsActionAtOnce);
 }
 
 void CUI_CheckBox(Tag tag, const QString &title, const QRectF &rect)
 {
-    buttonStatement<QCheckBox>(tag, title, rect);
+    textStatement<QCheckBox>(tag, title, rect, sendsActionAtOnce);
 }
 
 void CUI_RadioButton(Tag tag, const QString &title, const QRectF &rect)
 {
-    buttonStatement<QRadioButton>(tag, title, rect);
+    textStatement<QRadioButton>(tag, title, rect, sendsActionAtOnce);
 }
 
 void CUI_TextField(Tag tag, const QString &text, const QRectF &rect)
 {
-    auto *const field =
-        statementView<QLineEdit>(tag, rect, [](QLineEdit *made) { sendsActionSoon(made, &QLineEdit::returnPressed); });
-    if (field && !text.isNull()) {
-        field->setText(text);
-    }
+    textStatement<QLineEdit>(tag, text, rect, sendsActionSoon(&QLineEdit::returnPressed));
 }
 
 void CUI_TextLabel(Tag tag, const QString &text, const QRectF &rect)
 {
-    auto *const label = statementView<QLabel>(tag, rect, [](QLabel *made) { made->setTextFormat(Qt::PlainText); });
-    if (label && !text.isNull()) {
-        label->setText(text);
-    }
+    textStatement<QLabel>(tag, text, rect, [](QLabel *made) { made->setTextFormat(Qt::PlainText); });
 }
 
 void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRectF &rect)
 {
-    auto *const slider =
-        statementView<QSlider>(tag, rect, [](QSlider *made) { sendsActionSoon(made, &QSlider::valueChanged); });
+    auto *const slider = statementView<QSlider>(tag, rect, sendsActionSoon(&QSlider::valueChanged));
     if (!slider) {
         return;
     }
@@ -115,9 +113,8 @@ void CUI_Slider(Tag tag, qint64 value, qint64 minimum, qint64 maximum, const QRe
 
 void CUI_Stepper(Tag tag, double value, double minimum, double maximum, double increment, const QRectF &rect)
 {
-    auto *const stepper = statementView<QDoubleSpinBox>(
-        tag, rect, [](QDoubleSpinBox *made) { sendsActionSoon(made, &QDoubleSpinBox::valueChanged); });
-    if (stepper) {
+    if (auto *const stepper =
+            statementView<QDoubleSpinBox>(tag, rect, sendsActionSoon(&QDoubleSpinBox::valueChanged))) {
         const QSignalBlocker blocker(stepper);
         stepper->setDecimals(decimalsOf(increment));
         stepper->setRange(minimum, maximum);
@@ -137,8 +134,7 @@ void CUI_ProgressIndicator(Tag tag, qint64 value, qint64 minimum, qint64 maximum
 
 void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, const QRectF &rect)
 {
-    auto *const box =
-        statementView<QComboBox>(tag, rect, [](QComboBox *made) { sendsActionSoon(made, &QComboBox::activated); });
+    auto *const box = statementView<QComboBox>(tag, rect, sendsActionSoon(&QComboBox::activated));
     if (!box) {
         return;
     }
@@ -153,9 +149,7 @@ void CUI_PopUpButton(Tag tag, const QStringList &items, qint64 selectedIndex, co
 
 void CUI_ComboBox(Tag tag, const QString &text, const QStringList &items, const QRectF &rect)
 {
-    auto *const box = statementView<ComboBoxSC>(tag, rect, [](ComboBoxSC *made) {
-        QObject::connect(made, &ComboBoxSC::chosen, made, [made] { sendControlAction(made); });
-    });
+    auto *const box = statementView<ComboBoxSC>(tag, rect, sendsActionSoon(&ComboBoxSC::chosen));
     if (!box) {
         return;
     }
@@ -172,7 +166,7 @@ void CUI_DateField(Tag tag, const QDate &date, const QRectF &rect)
     auto *const field = statementView<QDateEdit>(tag, rect, [](QDateEdit *made) {
         made->setCalendarPopup(true);
         made->setDate(QDate::currentDate());
-        sendsActionSoon(made, &QDateEdit::dateChanged);
+        sendsActionSoon (&QDateEdit::dateChanged)(made);
     });
     if (field && date.isValid()) {
         const QSignalBlocker blocker(field);
@@ -188,23 +182,16 @@ void CUI_ImageView(Tag tag, const QImage &image, const QRectF &rect)
     }
 }
 
+// Return on the text of an item is reported more than once.
 ComboBoxSC::ComboBoxSC(QWidget *parent) : QComboBox(parent)
 {
     setEditable(true);
     setInsertPolicy(NoInsert);
-    connect(this, &QComboBox::activated, this, &ComboBoxSC::reportSoon);
-    connect(lineEdit(), &QLineEdit::returnPressed, this, &ComboBoxSC::reportSoon);
-}
-
-// Return on the text of an item comes here more than once.
-void ComboBoxSC::reportSoon()
-{
-    if (!std::exchange(m_isQueued, true)) {
-        callSoon(this, [this] {
-            m_isQueued = false;
-            Q_EMIT chosen();
-        });
-    }
+    auto *const report = new QTimer(this);
+    report->setSingleShot(true);
+    report->callOnTimeout(this, &ComboBoxSC::chosen);
+    connect(this, &QComboBox::activated, report, [report] { report->start(0); });
+    connect(lineEdit(), &QLineEdit::returnPressed, report, [report] { report->start(0); });
 }
 
 void ImageViewSC::setImage(const QImage &image)
@@ -215,17 +202,61 @@ void ImageViewSC::setImage(const QImage &image)
 
 void ImageViewSC::paintEvent(QPaintEvent * /*event*/)
 {
-    QRect place(QPoint(), m_image.size().scaled(size(), Qt::KeepAspectRatio));
-    place.moveCenter(rect().center());
+    QRect target(QPoint(), m_image.size().scaled(size(), Qt::KeepAspectRatio));
+    target.moveCenter(rect().center());
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(place, m_image);
+    painter.drawImage(target, m_image);
+}
+
+SegmentedControlSC::SegmentedControlSC(QWidget *parent) : QWidget(parent), m_segments(new QButtonGroup(this))
+{
+    auto *const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    connect(m_segments, &QButtonGroup::idClicked, this, &SegmentedControlSC::clicked);
+}
+
+QStringList SegmentedControlSC::labels() const
+{
+    QStringList labels;
+    for (const QAbstractButton *segment : m_segments->buttons()) {
+        labels << segment->text();
+    }
+    return labels;
+}
+
+void SegmentedControlSC::setLabels(const QStringList &labels)
+{
+    qDeleteAll(m_segments->buttons());
+    for (int index = 0; index < labels.size(); ++index) {
+        auto *const segment = new QToolButton(this);
+        segment->setText(labels.at(index));
+        segment->setCheckable(true);
+        segment->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        m_segments->addButton(segment, index);
+        layout()->addWidget(segment);
+    }
+}
+
+int SegmentedControlSC::selectedSegment() const
+{
+    return m_segments->checkedId();
+}
+
+void SegmentedControlSC::setSelectedSegment(int index)
+{
+    // An exclusive group does not let go of its last button.
+    m_segments->setExclusive(false);
+    for (QAbstractButton *segment : m_segments->buttons()) {
+        segment->setChecked(m_segments->id(segment) == index);
+    }
+    m_segments->setExclusive(true);
 }
 
 void CUI_SegmentedControl(Tag tag, const QStringList &labels, qint64 selectedIndex, const QRectF &rect)
 {
-    auto *const control = statementView<SegmentedControlSC>(
-        tag, rect, [](SegmentedControlSC *made) { sendsActionSoon(made, &SegmentedControlSC::clicked); });
+    auto *const control = statementView<SegmentedControlSC>(tag, rect, sendsActionSoon(&SegmentedControlSC::clicked));
     if (!control) {
         return;
     }
@@ -258,23 +289,11 @@ void ViewSetFocus(Tag tag)
     }
 }
 
-void ControlSetCallback(Tag tag, ControlCallback callback, void *userData)
-{
-    if (QWidget *const control = ControlWithTag(tag)) {
-        setCuiControlCallback(control, callback);
-        setCuiControlUserData(control, userData);
-    }
-}
-
 void ControlSetFormat(Tag tag, const QString &characters, bool pass, quint64 length, qint64 caseOption)
 {
-    QWidget *const control = ControlWithTag(tag);
-    if (!control) {
-        return;
-    }
-    const auto *const box = qobject_cast<QComboBox *>(control);
-    QLineEdit *const field = box && box->lineEdit() ? box->lineEdit() : viewOfClass<QLineEdit>(tag);
-    if (field) {
+    const auto *const box = qobject_cast<QComboBox *>(CUI_ViewWithTag(tag));
+    QLineEdit *const boxField = box ? box->lineEdit() : nullptr;
+    if (QLineEdit *const field = boxField ? boxField : viewOfClass<QLineEdit>(tag)) {
         attachFormatter(field, characters, pass, length, caseOption);
     }
 }

@@ -15,9 +15,6 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
-#include <algorithm>
-#include <iterator>
-
 namespace tetrad {
 
 namespace {
@@ -34,7 +31,6 @@ struct ValueProperties
 // A derived class comes before its base.
 const ValueProperties valueTable[] = {
     {&QAbstractButton::staticMetaObject, "text", "checked"},
-    {&ComboBoxSC::staticMetaObject, "currentText", "currentIndex"},
     {&QComboBox::staticMetaObject, "currentText", "currentIndex"},
     {&QLabel::staticMetaObject, "text", "text"},
     {&TokenFieldSC::staticMetaObject, "tokenText", "tokenText", "tokens"},
@@ -51,10 +47,12 @@ using Property = const char *ValueProperties::*;
 // A null name when there is none.
 const char *propertyName(const QObject *control, Property property)
 {
-    const auto row = std::find_if(std::begin(valueTable), std::end(valueTable), [control](const ValueProperties &each) {
-        return control && each.controlClass->cast(control);
-    });
-    return row == std::end(valueTable) ? nullptr : row->*property;
+    for (const ValueProperties &row : valueTable) {
+        if (control && row.controlClass->cast(control)) {
+            return row.*property;
+        }
+    }
+    return nullptr;
 }
 
 // A progress indicator is a view with a value, though it is no control.
@@ -76,7 +74,9 @@ void setValue(Tag tag, Property property, const QVariant &value)
     QWidget *const control = viewWithValue(tag);
     if (const char *const name = propertyName(control, property)) {
         const QSignalBlocker blocker(control);
-        control->setProperty(name, value);
+        // A conversion to int would wrap.
+        const bool isInt = control->property(name).typeId() == QMetaType::Int;
+        control->setProperty(name, isInt ? saturatedTo<int>(value.toDouble()) : value);
     }
 }
 
@@ -112,7 +112,7 @@ qint64 ControlIntegerValue(Tag tag)
 
 void ControlSetIntegerValue(Tag tag, qint64 value)
 {
-    setValue(tag, &ValueProperties::number, saturatedTo<int>(value));
+    setValue(tag, &ValueProperties::number, value);
 }
 
 QStringList ControlItems(Tag tag)

@@ -3,7 +3,6 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/app/modal.h>
 #include <tetrad/app/windows.h>
-#include <tetrad/events/dialog_event.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QColorDialog>
@@ -14,24 +13,27 @@ namespace tetrad {
 
 namespace {
 
-// The panel in this slot, made again when a program deleted it.
-template <typename Panel, typename Connect>
-Panel *panelIn(QPointer<Panel> &slot, Connect connectPanel)
+// The program's one panel of a kind, shown with a value; made again when a program deleted it. What the user chooses in
+// it is reported in the record's field.
+template <typename Panel, typename Value>
+Panel *shownPanel(const Value &value, void (Panel::*setValue)(const Value &), void (Panel::*chosen)(const Value &),
+                  Value CUI_DialogEvent::*field, qint64 event)
 {
-    if (!slot) {
-        slot = new Panel;
-        slot->setOptions(Panel::NoButtons | Panel::DontUseNativeDialog);
-        slot->setWindowFlags(slot->windowFlags() | Qt::Tool);
-        setWorksWhenModal(slot, true);
-        connectPanel(slot.data());
+    static QPointer<Panel> panel;
+    if (!panel) {
+        panel = new Panel;
+        panel->setOptions(Panel::NoButtons | Panel::DontUseNativeDialog);
+        panel->setWindowFlags(panel->windowFlags() | Qt::Tool);
+        setWorksWhenModal(panel, true);
+        const auto report = [field, event](const Value &choice) {
+            CUI_DialogEventObj()->*field = choice;
+            sendObjectEvent(panel, event);
+        };
+        QObject::connect(panel.data(), chosen, panel.data(), report, Qt::QueuedConnection);
     }
-    setObjectWindowTag(slot, CUI_OutputWindowTag());
-    return slot;
-}
-
-template <typename Panel>
-Panel *shown(Panel *panel)
-{
+    setObjectWindowTag(panel, CUI_OutputWindowTag());
+    const QSignalBlocker blocker(panel);
+    (panel->*setValue)(value);
     panel->show();
     panel->raise();
     return panel;
@@ -41,34 +43,14 @@ Panel *shown(Panel *panel)
 
 QColorDialog *CUI_ColorPanel(const QColor &color)
 {
-    static QPointer<QColorDialog> panel;
-    panelIn(panel, [](QColorDialog *made) {
-        QObject::connect(made, &QColorDialog::currentColorChanged, made, [made](const QColor &chosen) {
-            callSoon(made, [made, chosen] {
-                CUI_DialogEventObj()->colorObj = chosen;
-                sendObjectEvent(made, colorPanelEventAction);
-            });
-        });
-    });
-    const QSignalBlocker blocker(panel);
-    panel->setCurrentColor(color);
-    return shown(panel.data());
+    return shownPanel(color, &QColorDialog::setCurrentColor, &QColorDialog::currentColorChanged,
+                      &CUI_DialogEvent::colorObj, colorPanelEventAction);
 }
 
 QFontDialog *CUI_FontPanel(const QFont &font)
 {
-    static QPointer<QFontDialog> panel;
-    panelIn(panel, [](QFontDialog *made) {
-        QObject::connect(made, &QFontDialog::currentFontChanged, made, [made](const QFont &chosen) {
-            callSoon(made, [made, chosen] {
-                CUI_DialogEventObj()->fontObj = chosen;
-                sendObjectEvent(made, fontPanelEventChanged);
-            });
-        });
-    });
-    const QSignalBlocker blocker(panel);
-    panel->setCurrentFont(font);
-    return shown(panel.data());
+    return shownPanel(font, &QFontDialog::setCurrentFont, &QFontDialog::currentFontChanged, &CUI_DialogEvent::fontObj,
+                      fontPanelEventChanged);
 }
 
 } // namespace tetrad

@@ -1,7 +1,7 @@
 #include "runtime/controls/statements/view_statement.h"
 
 #include "runtime/app/windows/output_window.h"
-#include "runtime/controls/dispatch/input_watch.h"
+#include "runtime/controls/dispatch/event_site.h"
 #include <tetrad/controls/view_lookup.h>
 
 #include <QWidget>
