@@ -217,7 +217,7 @@ TEST_F(Alerts, SuppressionStateIsKeptByTheDelegate)
             clicks(0)(alert);
         };
         EXPECT_EQ(show(2, check), 1000);
-        EXPECT_EQ(CUI_AlertDelegateObj()->lastSuppressionButtonState(), checked ? 1 : 0);
+        EXPECT_EQ(CUI_AlertDelegateObj()->lastSuppressionButtonState, checked ? 1 : 0);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/app/alerts/alert.cpp, alert_keys.cpp, alert_sheet.cpp and alert_delegate.cpp
+// Implemented in runtime/app/alerts/alert.cpp, alert_keys.cpp and alert_sheet.cpp
 
 #include <tetrad/events/tag.h>
 
@@ -22,14 +22,9 @@ struct ErrorObject;
 class CUI_AlertDelegate : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(qint64 lastSuppressionButtonState READ lastSuppressionButtonState WRITE setLastSuppressionButtonState)
 
 public:
     using QObject::QObject;
-
-    /// The suppression check box of the alert that ended last: 1 checked, 0 not.
-    qint64 lastSuppressionButtonState() const { return m_lastSuppressionButtonState; }
-    void setLastSuppressionButtonState(qint64 state) { m_lastSuppressionButtonState = state; }
 
     /// Event 1001. Whether the callback showed help: what it left in the dialog event's boolean.
     Q_INVOKABLE virtual bool alertShowHelp(tetrad::Alert *alert);
@@ -37,8 +32,8 @@ public:
     /// Event 1000 for a sheet. `contextInfo` is the caller's own and not looked at.
     virtual void alertDidEnd(Alert *alert, qint64 returnCode, void *contextInfo);
 
-private:
-    qint64 m_lastSuppressionButtonState = 0;
+    /// The suppression check box of the alert that ended last: 1 checked, 0 not.
+    qint64 lastSuppressionButtonState = 0;
 };
 
 /// The shared delegate of every alert that CUI_Alert makes; it lives to the end of the program.
@@ -54,12 +49,13 @@ class Alert : public QMessageBox
 
 public:
     explicit Alert(QWidget *parent = nullptr);
+    ~Alert() override;
 
     /// An alert that shows the error's description, or its domain and code when it has none.
     static Alert *withError(const ErrorObject &error);
 
-    Tag tag() const;
-    void setTag(Tag tag);
+    Tag tag() const { return objectTag(this); }
+    void setTag(Tag tag) { setObjectTag(this, tag); }
 
     /// Whether the alert is to be shown as a sheet (dynamic property "sheetNumber").
     bool sheet() const;
@@ -84,7 +80,7 @@ public:
     void setKeyEquivalent(quint64 index, const QString &key);
 
     /// The check box "Do not show this message again"; its state is 1 while checked, else 0.
-    bool showsSuppressionButton() const;
+    bool showsSuppressionButton() const { return checkBox(); }
     void setShowsSuppressionButton(bool shows);
     qint64 suppressionButtonState() const;
 
@@ -93,8 +89,8 @@ public:
     void setShowsHelp(bool shows);
 
     /// Not owned.
-    CUI_AlertDelegate *delegate() const;
-    void setDelegate(CUI_AlertDelegate *delegate);
+    CUI_AlertDelegate *delegate() const { return m_delegate; }
+    void setDelegate(CUI_AlertDelegate *delegate) { m_delegate = delegate; }
 
     /// Whether the alert statement deletes the alert when it has ended; false for a program's own alert.
     bool isReleasedWhenEnded() const { return m_releasedWhenEnded; }

@@ -27,7 +27,7 @@ public:
     Popover(Tag tag, const QSize &contentSize);
     ~Popover() override;
 
-    Tag tag() const;
+    Tag tag() const { return objectTag(this); }
     ContentViewSC *contentView() const { return m_contentView; }
 
     PopoverBehavior behavior() const { return m_behavior; }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/app/windows/window.cpp and window_controller.cpp
+// Implemented in runtime/app/windows/window.cpp and window_geometry.cpp
 
 #include <tetrad/events/tag.h>
 
@@ -44,8 +44,8 @@ public:
     explicit Window(const QRectF &contentRect);
     ~Window() override;
 
-    Tag tag() const;
-    void setTag(Tag tag);
+    Tag tag() const { return objectTag(this); }
+    void setTag(Tag tag) { setObjectTag(this, tag); }
 
     WindowCallback cuiWindowCallback() const;
     void setCuiWindowCallback(WindowCallback callback);
@@ -64,7 +64,7 @@ public:
     void holdContentSize(const QSizeF &size);
 
     /// WindowStyle bits.
-    qint64 styleMask() const;
+    qint64 styleMask() const { return m_styleMask; }
     void setStyleMask(qint64 mask);
 
     /// Centres the window, frame included, on its screen.
@@ -78,8 +78,8 @@ public:
 
     /// Whether closing forgets the window and deletes it, as soon as control is back in an event loop;
     /// true at first. Otherwise closing only hides it.
-    bool isReleasedWhenClosed() const;
-    void setReleasedWhenClosed(bool released);
+    bool isReleasedWhenClosed() const { return testAttribute(Qt::WA_DeleteOnClose); }
+    void setReleasedWhenClosed(bool released) { setAttribute(Qt::WA_DeleteOnClose, released); }
 
     /// Whether Tab goes through the controls by position, row by row, instead of in the order in
     /// which they were made; false at first.
@@ -153,8 +153,12 @@ class CUI_WindowController : public QObject
     Q_OBJECT
 
 public:
-    Window *window() const;
-    void setWindow(Window *window);
+    Window *window() const { return m_window; }
+    void setWindow(Window *window)
+    {
+        m_window = window;
+        setParent(window);
+    }
 
 private:
     QPointer<Window> m_window;

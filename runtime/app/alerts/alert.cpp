@@ -3,16 +3,14 @@
 #include "runtime/app/alerts/alert_text.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/app/window.h>
-#include <tetrad/app/window_delegate.h>
+#include <tetrad/events/dialog_event.h>
+#include <tetrad/events/event_codes.h>
 #include <tetrad/strings/error_object.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -38,14 +36,27 @@ constexpr Qt::WindowModality sheetModality = Qt::WindowModal;
 constexpr Qt::WindowModality sheetModality = Qt::NonModal;
 #endif
 
-// The application's own icon, or none if it has none; only a critical alert has an icon of its own.
-QPixmap iconOf(const Alert &alert)
+} // namespace
+
+bool CUI_AlertDelegate::alertShowHelp(Alert *alert)
 {
-    const int size = alert.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &alert);
-    return QApplication::windowIcon().pixmap(QSize(size, size), alert.devicePixelRatio());
+    const Tag tag = alert->tag();
+    CUI_DialogEventObj()->boolVal = false;
+    CallUserDefinedOnDialogFunction(alertHelpEvent, tag, tag, 0);
+    return CUI_DialogEventObj()->boolVal;
 }
 
-} // namespace
+void CUI_AlertDelegate::alertDidEnd(Alert *alert, qint64 returnCode, void * /*contextInfo*/)
+{
+    lastSuppressionButtonState = alert->suppressionButtonState();
+    CallUserDefinedOnDialogFunction(alertEndedEvent, returnCode, alert->tag(), 0);
+}
+
+CUI_AlertDelegate *CUI_AlertDelegateObj()
+{
+    static auto *const delegate = new CUI_AlertDelegate;
+    return delegate;
+}
 
 Alert::Alert(QWidget *parent) : QMessageBox(parent)
 {
@@ -59,6 +70,11 @@ Alert::Alert(QWidget *parent) : QMessageBox(parent)
     connect(this, &QDialog::finished, this, &Alert::onFinished);
 }
 
+Alert::~Alert()
+{
+    CUI_AlertRemove(this);
+}
+
 Alert *Alert::withError(const ErrorObject &error)
 {
     auto *const alert = new Alert;
@@ -67,16 +83,6 @@ Alert *Alert::withError(const ErrorObject &error)
             ? tr("The operation could not be completed. (%1 error %2.)").arg(error.domain, QString::number(error.code))
             : error.description);
     return alert;
-}
-
-Tag Alert::tag() const
-{
-    return objectTag(this);
-}
-
-void Alert::setTag(Tag tag)
-{
-    setObjectTag(this, tag);
 }
 
 bool Alert::sheet() const
@@ -100,7 +106,8 @@ void Alert::updateIcon()
     if (m_style == alertStyleCritical) {
         setIcon(QMessageBox::Critical);
     } else {
-        setIconPixmap(iconOf(*this));
+        const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+        setIconPixmap(QApplication::windowIcon().pixmap(QSize(size, size), devicePixelRatio()));
     }
 }
 
@@ -145,11 +152,6 @@ QString Alert::buttonTitle(quint64 index) const
                                              : QString();
 }
 
-bool Alert::showsSuppressionButton() const
-{
-    return checkBox();
-}
-
 void Alert::setShowsSuppressionButton(bool shows)
 {
     if (shows != showsSuppressionButton()) {
@@ -181,16 +183,6 @@ void Alert::setShowsHelp(bool shows)
             m_delegate->alertShowHelp(this);
         }
     });
-}
-
-CUI_AlertDelegate *Alert::delegate() const
-{
-    return m_delegate;
-}
-
-void Alert::setDelegate(CUI_AlertDelegate *delegate)
-{
-    m_delegate = delegate;
 }
 
 qint64 Alert::runModal(QWidget *over)

@@ -1,5 +1,6 @@
 #include <tetrad/app/alerts.h>
 
+#include "runtime/app/process/tag_registry.h"
 #include <tetrad/app/alert.h>
 #include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
@@ -9,17 +10,9 @@
 
 #include <QPointer>
 
-#include <utility>
-
 namespace tetrad {
 
 namespace {
-
-QList<QPointer<Alert>> &registry()
-{
-    static QList<QPointer<Alert>> alerts;
-    return alerts;
-}
 
 bool isError(const QVariant &message)
 {
@@ -29,17 +22,11 @@ bool isError(const QVariant &message)
 // Every ";" separates two titles, so that "A;;B" has an untitled button in the middle.
 QStringList buttonTitles(const QVariant &buttons)
 {
-    switch (buttons.typeId()) {
-    case QMetaType::QString: {
-        const QString text = buttons.toString();
-        return text.isNull() ? QStringList() : text.split(u';');
-    }
-    case QMetaType::QStringList:
-    case QMetaType::QVariantList:
+    if (buttons.typeId() != QMetaType::QString) {
         return buttons.toStringList();
-    default:
-        return {};
     }
+    const QString text = buttons.toString();
+    return text.isNull() ? QStringList() : text.split(u';');
 }
 
 Alert *newAlert(Tag tag, qint64 style, const QVariant &message, const QVariant &buttons)
@@ -75,7 +62,7 @@ qint64 runAlert(Alert *alert, Tag tag, QWidget *target)
     const QPointer<Alert> running(alert);
     const qint64 result = alert->runModal(target);
     if (running) {
-        CUI_AlertDelegateObj()->setLastSuppressionButtonState(running->suppressionButtonState());
+        CUI_AlertDelegateObj()->lastSuppressionButtonState = running->suppressionButtonState();
         forget(running);
     }
     CallUserDefinedOnDialogFunction(alertEndedEvent, result, tag, 0);
@@ -108,7 +95,7 @@ qint64 showAlert(Alert *alert, Tag tag)
 // deliberate: every dismissal reports, and so does every run.
 void dismissAlert(Alert *alert, Tag tag)
 {
-    CUI_AlertDelegateObj()->setLastSuppressionButtonState(alert->suppressionButtonState());
+    CUI_AlertDelegateObj()->lastSuppressionButtonState = alert->suppressionButtonState();
     const QPointer<Alert> closing(alert);
     alert->dismiss();
     if (closing) {
@@ -158,22 +145,17 @@ Alert *CUI_AlertWithTag(Tag tag)
     if (isObjectAddress(tag)) {
         return qobject_cast<Alert *>(objectFromTag(tag));
     }
-    for (const QPointer<Alert> &alert : std::as_const(registry())) {
-        if (alert && alert->tag() == tag) {
-            return alert;
-        }
-    }
-    return nullptr;
+    return TagRegistry<Alert>::instance().withTag(tag);
 }
 
 void CUI_AlertAdd(Alert *alert)
 {
-    registry().append(alert);
+    TagRegistry<Alert>::instance().add(alert);
 }
 
 void CUI_AlertRemove(Alert *alert)
 {
-    registry().removeIf([alert](const QPointer<Alert> &each) { return !each || each == alert; });
+    TagRegistry<Alert>::instance().remove(alert);
 }
 
 void AlertButtonSetKeyEquivalent(Tag tag, quint64 index, const QString &key)

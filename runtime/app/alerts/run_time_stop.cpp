@@ -1,10 +1,9 @@
 #include <tetrad/app/run_time_stop.h>
 
+#include "runtime/app/alerts/show_alert.h"
 #include "runtime/app/process/strings_table.h"
-#include <tetrad/app/alert.h>
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
-#include <tetrad/app/windows.h>
 #include <tetrad/strings/mac_roman.h>
 #include <tetrad/strings/text_format.h>
 
@@ -48,28 +47,14 @@ void writeRangeError(const QString &message)
     std::abort();
 }
 
-void addStopButtons(Alert *alert, bool isFatal)
+QStringList stopButtons(bool isFatal)
 {
+    const QString crash = runtimeText(QT_TRANSLATE_NOOP("Runtime", "Crash"));
     if (isFatal) {
-        alert->addAlertButton(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Quit")));
-    } else {
-        alert->addAlertButton(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Stop")));
-        alert->addAlertButton(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Continue")));
+        return {runtimeText(QT_TRANSLATE_NOOP("Runtime", "Quit")), crash};
     }
-    alert->addAlertButton(runtimeText(QT_TRANSLATE_NOOP("Runtime", "Crash")));
-}
-
-qint64 runStopAlert(const QString &message, const QString &informative, bool isFatal)
-{
-    const QPointer<Alert> alert = new Alert;
-    alert->setMessageText(message);
-    alert->setInformative(informative);
-    alert->setAlertStyle(isFatal ? alertStyleCritical : alertStyleWarning);
-    addStopButtons(alert, isFatal);
-    Tag targetTag = 0;
-    const qint64 result = alert->runModal(CUI_TargetWindow(&targetTag));
-    delete alert.data();
-    return result;
+    return {runtimeText(QT_TRANSLATE_NOOP("Runtime", "Stop")), runtimeText(QT_TRANSLATE_NOOP("Runtime", "Continue")),
+            crash};
 }
 
 } // namespace
@@ -105,7 +90,8 @@ void ZRFullStop(const QString &message, const QString &informative, qint32 fatal
         stopWithoutApplication(message, informative);
     }
     const bool isFatal = (fatal & 0xff) != 0;
-    const qint64 result = runStopAlert(message, informative, isFatal);
+    const qint64 style = isFatal ? alertStyleCritical : alertStyleWarning;
+    const qint64 result = runAlertWithoutTag(style, message, informative, stopButtons(isFatal));
     if (result == alertFirstButton) {
         AppTerminate();
     }

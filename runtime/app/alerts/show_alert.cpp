@@ -1,3 +1,5 @@
+#include "runtime/app/alerts/show_alert.h"
+
 #include "runtime/app/process/termination.h"
 #include <tetrad/app/alert.h>
 #include <tetrad/app/alerts.h>
@@ -27,22 +29,6 @@ QQueue<Warning> &waitingWarnings()
     return warnings;
 }
 
-void showWarning(const Warning &warning)
-{
-    const QPointer<Alert> alert = new Alert;
-    alert->setAlertStyle(warning.style);
-    alert->setMessageText(warning.message);
-    alert->setInformative(warning.informative);
-    alert->addAlertButton(Alert::tr("OK"));
-    alert->addAlertButton(Alert::tr("Quit"));
-    Tag targetTag = 0;
-    const bool quit = alert->runModal(CUI_TargetWindow(&targetTag)) == alertSecondButton;
-    delete alert.data();
-    if (quit) {
-        quitByUser();
-    }
-}
-
 // A warning's own modal loop serves the queue too: what arrives meanwhile waits for its turn.
 void enqueue(const Warning &warning)
 {
@@ -53,11 +39,30 @@ void enqueue(const Warning &warning)
     }
     const QScopedValueRollback guard(isShowing, true);
     while (!waitingWarnings().isEmpty()) {
-        showWarning(waitingWarnings().dequeue());
+        const auto [style, message, informative] = waitingWarnings().dequeue();
+        if (runAlertWithoutTag(style, message, informative, {Alert::tr("OK"), Alert::tr("Quit")}) ==
+            alertSecondButton) {
+            quitByUser();
+        }
     }
 }
 
 } // namespace
+
+qint64 runAlertWithoutTag(qint64 style, const QString &message, const QString &informative, const QStringList &titles)
+{
+    const QPointer<Alert> alert = new Alert;
+    alert->setAlertStyle(style);
+    alert->setMessageText(message);
+    alert->setInformative(informative);
+    for (const QString &title : titles) {
+        alert->addAlertButton(title);
+    }
+    Tag targetTag = 0;
+    const qint64 code = alert->runModal(CUI_TargetWindow(&targetTag));
+    delete alert.data();
+    return code;
+}
 
 void CUI_ShowAlert(qint64 style, const QString &message, const QString &informative)
 {

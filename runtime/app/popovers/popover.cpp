@@ -1,5 +1,6 @@
 #include <tetrad/app/popover.h>
 
+#include "runtime/app/process/tag_registry.h"
 #include <tetrad/app/content_view.h>
 #include <tetrad/app/modal.h>
 
@@ -9,18 +10,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace tetrad {
 
 namespace {
-
-// The one shown last comes first.
-QList<Popover *> &popovers()
-{
-    static auto *const list = new QList<Popover *>;
-    return *list;
-}
 
 QPoint positionAtEdge(const QRect &anchor, const QSize &size, Qt::Edge edge)
 {
@@ -70,17 +62,12 @@ Popover::Popover(Tag tag, const QSize &contentSize) : QWidget(nullptr, Qt::Tool 
     m_contentView->setFixedSize(contentSize);
     setObjectTag(this, tag);
     setWorksWhenModal(this, true);
-    popovers().append(this);
+    TagRegistry<Popover>::instance().add(this);
 }
 
 Popover::~Popover()
 {
-    popovers().removeOne(this);
-}
-
-Tag Popover::tag() const
-{
-    return objectTag(this);
+    TagRegistry<Popover>::instance().remove(this);
 }
 
 void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferredEdge)
@@ -101,8 +88,7 @@ void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferre
     if (!guard) {
         return;
     }
-    popovers().removeOne(this);
-    popovers().prepend(this);
+    TagRegistry<Popover>::instance().bringToFront(this);
     move(position);
     show();
     Q_EMIT didShow();
@@ -135,17 +121,12 @@ void Popover::keyPressEvent(QKeyEvent *event)
 
 Popover *CUI_PopoverWithTag(Tag tag)
 {
-    const Tag identity = tagIdentity(tag);
-    const auto hasTag = [identity](const Popover *popover) { return popover->tag() == identity; };
-    const auto found = std::find_if(popovers().begin(), popovers().end(), hasTag);
-    return identity == 0 || found == popovers().end() ? nullptr : *found;
+    return tag == 0 ? nullptr : TagRegistry<Popover>::instance().withTag(tagIdentity(tag));
 }
 
 Popover *CUI_PopoverShown()
 {
-    const auto found =
-        std::find_if(popovers().begin(), popovers().end(), [](const Popover *p) { return p->isVisible(); });
-    return found == popovers().end() ? nullptr : *found;
+    return TagRegistry<Popover>::instance().frontVisible();
 }
 
 } // namespace tetrad

@@ -1,7 +1,7 @@
 #include <tetrad/app/window.h>
 
+#include "runtime/app/process/tag_registry.h"
 #include "runtime/app/process/termination.h"
-#include "runtime/app/windows/window_order.h"
 #include "runtime/app/windows/window_translator.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
@@ -12,11 +12,7 @@
 #include <tetrad/app/windows.h>
 
 #include <QCloseEvent>
-#include <QGuiApplication>
-#include <QLayout>
 #include <QMenuBar>
-#include <QScreen>
-#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -51,16 +47,6 @@ public:
 
 constexpr char callbackKey[] = "callbackValue";
 constexpr char userDataKey[] = "userDataValue";
-constexpr Qt::WindowStates spreadOut = Qt::WindowMaximized | Qt::WindowFullScreen;
-
-// The user cannot drag a window to less: an input panel still has room in it.
-constexpr QSize smallestUsable(140, 80);
-
-QPoint mainScreenOrigin()
-{
-    const QScreen *const screen = QGuiApplication::primaryScreen();
-    return screen ? screen->geometry().topLeft() : QPoint();
-}
 
 Qt::WindowFlags hintsForStyle(qint64 mask)
 {
@@ -78,7 +64,7 @@ Qt::WindowFlags hintsForStyle(qint64 mask)
 
 Window::Window(const QRectF &contentRect) : m_translator(std::make_unique<WindowTranslator>(this))
 {
-    // Not before all members stand: the new child is an event of this window.
+    // Only after every member is initialised: the new child is an event of this window.
     m_contentView = new ContentViewSC(this);
     setAttribute(Qt::WA_DeleteOnClose);
     // Menus follow the language's direction; the positions of its output and its prompts do not.
@@ -88,23 +74,13 @@ Window::Window(const QRectF &contentRect) : m_translator(std::make_unique<Window
     showMainMenuIn(menuBar());
     setStyleMask(windowStyleDefault);
     setContentRect(contentRect);
-    WindowOrder::instance().add(this);
+    TagRegistry<Window>::instance().add(this);
 }
 
 Window::~Window()
 {
-    WindowOrder::instance().remove(this);
+    TagRegistry<Window>::instance().remove(this);
     CUI_AppDelegateRemoveWindow(this);
-}
-
-Tag Window::tag() const
-{
-    return objectTag(this);
-}
-
-void Window::setTag(Tag tag)
-{
-    setObjectTag(this, tag);
 }
 
 WindowCallback Window::cuiWindowCallback() const
@@ -127,40 +103,6 @@ void Window::setCuiWindowUserData(void *userData)
     setProperty(userDataKey, QVariant::fromValue(userData));
 }
 
-QRectF Window::contentRect() const
-{
-    const QPoint topLeft = m_contentView->mapToGlobal(QPoint()) - mainScreenOrigin();
-    return QRectF(topLeft, m_contentView->size());
-}
-
-void Window::setContentRect(const QRectF &rect)
-{
-    setWindowState(windowState() & ~spreadOut);
-    setMinimumSize(0, 0);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    m_chrome = measuredChrome();
-    const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - QPoint(0, m_chrome.height());
-    setGeometry(QRect(belowScreenTop(origin), rect.size().toSize() + m_chrome));
-    keepContentPosition();
-    limitDrags();
-}
-
-void Window::holdContentSize(const QSizeF &size)
-{
-    setMinimumSize(0, 0);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    if (size.isValid()) {
-        setFixedSize(size.toSize() + m_chrome);
-    } else {
-        limitDrags();
-    }
-}
-
-qint64 Window::styleMask() const
-{
-    return m_styleMask;
-}
-
 void Window::setStyleMask(qint64 mask)
 {
     m_styleMask = mask;
@@ -174,18 +116,6 @@ void Window::setStyleMask(qint64 mask)
     if (!(windowState() & spreadOut)) {
         setContentRect(content);
     }
-}
-
-void Window::center()
-{
-    const QRect available = screen()->availableGeometry();
-    const QMargins frame = frameMargins();
-    QRect framed = geometry() + frame;
-    framed.moveCenter(available.center());
-    // A window larger than the screen keeps its title bar where the pointer can reach it.
-    framed.moveLeft(std::max(framed.left(), available.left()));
-    framed.moveTop(std::max(framed.top(), available.top()));
-    setGeometry(framed - frame);
 }
 
 void Window::setBackgroundColor(const QColor &color)
@@ -203,16 +133,6 @@ QWidget *Window::contentView() const
     return m_contentView;
 }
 
-bool Window::isReleasedWhenClosed() const
-{
-    return testAttribute(Qt::WA_DeleteOnClose);
-}
-
-void Window::setReleasedWhenClosed(bool released)
-{
-    setAttribute(Qt::WA_DeleteOnClose, released);
-}
-
 CUI_WindowController *Window::windowController() const
 {
     return findChild<CUI_WindowController *>(QString(), Qt::FindDirectChildrenOnly);
@@ -225,7 +145,7 @@ void Window::makeKeyAndOrderFront()
     show();
     raise();
     activateWindow();
-    WindowOrder::instance().bringToFront(this);
+    TagRegistry<Window>::instance().bringToFront(this);
 }
 
 QString Window::dump() const
@@ -250,7 +170,7 @@ bool Window::event(QEvent *event)
         keepContentPosition();
     }
     if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate) {
-        WindowOrder::instance().bringToFront(this);
+        TagRegistry<Window>::instance().bringToFront(this);
     }
     const bool closes = event->type() == QEvent::Close && event->isAccepted();
     const bool isLast = closes && isVisible() && isLastVisible(this);
@@ -260,7 +180,7 @@ bool Window::event(QEvent *event)
         // The report may have kept it.
         m_closed = isReleasedWhenClosed();
         if (m_closed) {
-            WindowOrder::instance().remove(this);
+            TagRegistry<Window>::instance().remove(this);
         }
     }
     if (isLast && CUI_AppDelegateObj()->applicationShouldTerminateAfterLastWindowClosed()) {
@@ -315,64 +235,6 @@ bool Window::focusNextPrevChild(bool next)
 QMenu *Window::createPopupMenu()
 {
     return nullptr;
-}
-
-// A window manager adds its frame some time after the window was shown. Until then the title bar that
-// a titled window will have is taken to be as high as the style's.
-QMargins Window::frameMargins() const
-{
-    const QMargins known = isVisible() && windowHandle() ? windowHandle()->frameMargins() : QMargins();
-    if (!known.isNull() || !(m_styleMask & windowStyleTitled)) {
-        return known;
-    }
-    return {0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0};
-}
-
-QSize Window::measuredChrome()
-{
-    if (!isVisible()) {
-        // A hidden window does not update its layout when its size changes.
-        layout()->invalidate();
-    }
-    layout()->activate();
-    // The layout of a window too small for any content puts it out of sight, at the size it had.
-    return rect().contains(m_contentView->pos()) ? size() - m_contentView->size() : m_chrome;
-}
-
-// The menu bar's height is known for certain only once it is shown, and bars may come and go later: a
-// desktop may take the menu bar out of the window, menus or a tool bar may be added.
-void Window::keepContentPosition()
-{
-    const QSize grown = measuredChrome() - m_chrome;
-    if (grown.isNull()) {
-        return;
-    }
-    m_chrome += grown;
-    if (windowState() & spreadOut) {
-        return;
-    }
-    setMinimumSize(0, 0);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    setGeometry(QRect(belowScreenTop(geometry().topLeft() - QPoint(0, grown.height())), size() + grown));
-    limitDrags();
-}
-
-// What the program made smaller than the smallest window that can be used stays so.
-void Window::limitDrags()
-{
-    if (m_styleMask & windowStyleResizable) {
-        setMinimumSize(size().boundedTo(smallestUsable));
-    } else {
-        setFixedSize(size());
-    }
-}
-
-QPoint Window::belowScreenTop(QPoint origin) const
-{
-    const QScreen *const there = QGuiApplication::screenAt(origin + QPoint(0, m_chrome.height()));
-    const QRect available = (there ? there : screen())->availableGeometry();
-    origin.setY(std::max(origin.y(), available.top() + frameMargins().top()));
-    return origin;
 }
 
 void Window::recalculateKeyViewLoop()

@@ -15,8 +15,6 @@ namespace tetrad {
 
 namespace {
 
-constexpr Qt::WindowStates spreadOut = Qt::WindowMaximized | Qt::WindowFullScreen;
-
 // How many geometries that the program requested may still be echoed.
 constexpr qsizetype mostRequested = 6;
 

@@ -13,6 +13,9 @@ namespace tetrad {
 
 class Window;
 
+/// The states in which the window system decides the size.
+inline constexpr Qt::WindowStates spreadOut = Qt::WindowMaximized | Qt::WindowFullScreen;
+
 /// Turns the window system's events for one window into calls of the window's delegate; nothing else
 /// looks at event types for that purpose.
 ///

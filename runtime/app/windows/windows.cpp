@@ -1,6 +1,6 @@
 #include <tetrad/app/windows.h>
 
-#include "runtime/app/windows/window_order.h"
+#include "runtime/app/process/tag_registry.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/modal.h>
 #include <tetrad/app/window.h>
@@ -8,7 +8,6 @@
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/strings/not_given.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace tetrad {
@@ -81,10 +80,7 @@ Window *CUI_WindowWithTag(Tag tag)
         // Deliberately unchecked: the caller passed a window where a tag is expected.
         return static_cast<Window *>(objectFromTag(wndTag));
     }
-    const QList<Window *> &windows = WindowOrder::instance().byCreation();
-    const auto found = std::find_if(windows.begin(), windows.end(),
-                                    [wndTag](const Window *window) { return window->tag() == wndTag; });
-    return found == windows.end() ? nullptr : *found;
+    return TagRegistry<Window>::instance().withTag(wndTag);
 }
 
 void WindowSetBackgroundColor(Tag tag, const QColor &color)
@@ -110,14 +106,12 @@ void WindowSetWorksWhenModal(Tag tag, bool works)
 
 QList<Window *> orderedWindows()
 {
-    return WindowOrder::instance().frontToBack();
+    return TagRegistry<Window>::instance().frontToBack();
 }
 
 Window *CUI_FrontWindow()
 {
-    const QList<Window *> &windows = WindowOrder::instance().frontToBack();
-    const auto found = std::find_if(windows.begin(), windows.end(), [](const Window *w) { return w->isVisible(); });
-    return found == windows.end() ? nullptr : *found;
+    return TagRegistry<Window>::instance().frontVisible();
 }
 
 void CUI_SetSubclassFlag(bool flag)
