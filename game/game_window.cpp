@@ -26,6 +26,11 @@ int BuildWindow()
     return 0;
 }
 
+void EraseErrorText()
+{
+    CUI_DrawToWindowRectStatement(ColorBlack(), true, QRectF(10, 200, 400, 15));
+}
+
 int QuitOrPlayAlert(const QString &verdict)
 {
     CUI_Alert(-quitOrPlayTag, notGiven, verdict, u"You won!"_s, u"Quit;Play Again"_s, notGiven);

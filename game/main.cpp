@@ -1,4 +1,3 @@
-#include "game/error_line.h"
 #include "game/game_window.h"
 #include "game/rules/answer.h"
 #include "game/rules/puzzle_history.h"

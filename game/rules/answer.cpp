@@ -69,7 +69,7 @@ QString withDecimalPoints(const QString &text)
         const TextRange range = TextCheckingResultRange(match);
         const QString number = StringSubstringWithRange(text, range.location, range.length);
         decimals += QStringView(text).mid(copiedTo, range.location - copiedTo);
-        decimals += StringContainsString(number, u"."_s) ? number : StringWithFormat(u"%@.0"_s, number);
+        decimals += StringContainsString(number, u"."_s) ? number : number + u".0";
         copiedTo = range.location + range.length;
     }
     return decimals + QStringView(text).mid(copiedTo);

@@ -1,15 +1,22 @@
 #include "game/rules/expression.h"
 
+#include <tetrad/strings/numbers.h>
+
 #include <QVarLengthArray>
 
-#include <algorithm>
 #include <charconv>
-#include <limits>
 #include <optional>
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+bool isNumberCharacter(QChar c)
+{
+    return (c >= u'0' && c <= u'9') || c == u'.';
+}
 
 // The state inside one pair of parentheses: "2+3*" is the sum 2 and the product 3. The sign of a term is kept in its
 // product. The first sum is -0, since adding that changes no number, not even -0.
@@ -56,7 +63,9 @@ public:
     }
 
 private:
-    void fail(ExpressionFailure::Kind kind, qsizetype index) { m_failure = {kind, m_text, index}; }
+    void fail(const QString &fault, qsizetype index) { m_failure = {fault, index}; }
+
+    QString quoted(qsizetype index, qsizetype length = 1) const { return u'\'' + m_text.mid(index, length) + u'\''; }
 
     bool skipBlanks()
     {
@@ -89,7 +98,7 @@ private:
             failForOperand();
             break;
         default:
-            fail(ExpressionFailure::unexpectedCharacter, m_at);
+            failForCharacter();
         }
         m_before = m_at++;
     }
@@ -122,7 +131,7 @@ private:
     void closeParenthesis()
     {
         if (m_outer.isEmpty()) {
-            fail(ExpressionFailure::notOpened, m_at);
+            fail(u"')' without '('"_s, m_at);
             return;
         }
         const double value = m_frame.sum + m_frame.product;
@@ -137,7 +146,7 @@ private:
         if (m_wantsOperand) {
             failForOperand();
         } else if (!m_outer.isEmpty()) {
-            fail(ExpressionFailure::notClosed, m_frame.openedAt);
+            fail(u"'(' without ')'"_s, m_frame.openedAt);
         }
     }
 
@@ -151,44 +160,37 @@ private:
         double value = 0.0;
         const auto [end, error] = std::from_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
         if (end != digits.end()) {
-            fail(ExpressionFailure::malformedNumber, start);
+            fail(u"malformed number "_s + quoted(start, m_at - start), start);
             return;
         }
-        m_frame.take(error == std::errc::result_out_of_range ? outOfRange(digits) : value);
+        // from_chars reports too large and too small alike.
+        m_frame.take(error == std::errc() ? value : StringDoubleValue(m_text.mid(start, m_at - start)));
         m_wantsOperand = false;
-    }
-
-    // from_chars reports too large and too small alike; only the too large have digits before the point.
-    template <typename Digits>
-    static double outOfRange(const Digits &digits)
-    {
-        const auto point = std::find(digits.begin(), digits.end(), '.');
-        const bool isLarge = std::any_of(digits.begin(), point, [](char digit) { return digit != '0'; });
-        return isLarge ? std::numeric_limits<double>::infinity() : 0.0;
     }
 
     void failForOperand()
     {
-        const bool atEnd = m_at >= m_text.size();
         if (m_before < 0) {
-            fail(atEnd ? ExpressionFailure::empty : ExpressionFailure::missingOperandBefore, m_at);
-        } else if (m_text[m_before] == u'(' && !atEnd && m_text[m_at] == u')') {
-            fail(ExpressionFailure::emptyParentheses, m_before);
+            fail(u"missing operand"_s, m_at);
+        } else if (m_text[m_before] == u'(' && m_at < m_text.size() && m_text[m_at] == u')') {
+            fail(u"empty parentheses"_s, m_before);
         } else {
-            fail(ExpressionFailure::missingOperandAfter, m_before);
+            fail(u"missing operand after "_s + quoted(m_before), m_before);
         }
     }
 
     void failAfterOperand(QChar c)
     {
         if (isNumberCharacter(c)) {
-            fail(ExpressionFailure::numbersSideBySide, m_at);
+            fail(u"two numbers side by side"_s, m_at);
         } else if (c == u'(') {
-            fail(ExpressionFailure::missingOperator, m_at);
+            fail(u"missing operator before '('"_s, m_at);
         } else {
-            fail(ExpressionFailure::unexpectedCharacter, m_at);
+            failForCharacter();
         }
     }
+
+    void failForCharacter() { fail(u"unexpected "_s + quoted(m_at, m_text[m_at].isHighSurrogate() ? 2 : 1), m_at); }
 
     const QString m_text;
     qsizetype m_at = 0;
@@ -200,6 +202,11 @@ private:
 };
 
 } // namespace
+
+QString ExpressionFailure::description() const
+{
+    return fault + u" at position "_s + QString::number(index + 1);
+}
 
 ExpressionValue ExpressionValueWithObject(const Expression &expression, const QVariant &, const QVariant &)
 {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "game/rules/expression_failure.h"
 #include <tetrad/strings/text_format.h>
 
 #include <QVariant>
@@ -25,6 +24,16 @@ Expression ExpressionWithFormat(const QString &format, const Args &...args)
         return {StringWithFormat(format, args...)};
     }
 }
+
+/// Why a text is no arithmetic expression, and where.
+struct ExpressionFailure
+{
+    QString fault;       ///< "missing operand after '+'"
+    qsizetype index = 0; ///< in UTF-16 units from 0
+
+    /// With the position counted from 1: "missing operand after '+' at position 3". It never starts with a number.
+    QString description() const;
+};
 
 /// A number, or why there is none.
 using ExpressionValue = std::variant<double, ExpressionFailure>;

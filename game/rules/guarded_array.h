@@ -1,18 +1,32 @@
 #pragma once
 
-#include "game/rules/source_lines.h"
-
 #include <QString>
 
 #include <array>
 
 namespace tetrad {
 
+/// The file and the lines that a range error of the game names, one line for each place that accesses an array.
+namespace source {
+
+inline constexpr char16_t file[] = u"Tetrad Game.zr";
+
+inline constexpr quint32 historyEmptiedAtStart = 128;
+inline constexpr quint32 historyEmptiedWhenFull = 166;
+inline constexpr quint32 historyCompared = 172;
+inline constexpr quint32 historyReadAfterRepeat = 173;
+inline constexpr quint32 historyStored = 179;
+inline constexpr quint32 firstNumberStored = 181; ///< the others follow
+inline constexpr quint32 numberPrinted = 215;
+inline constexpr quint32 numberChecked = 272;
+
+} // namespace source
+
 /// Returns the index, or stops the program when it is above the bound (ChkBounds). The program supplies it, so that the
 /// rules need neither an alert nor a window.
 using BoundsCheck = quint32 (*)(quint32 index, quint32 bound, quint32 line, const QString &file);
 
-/// An array with the indices 0 to `bound` inclusive whose every access is checked. line: of source_lines.h.
+/// An array with the indices 0 to `bound` inclusive whose every access is checked. line: one of those above.
 template <typename T, qint16 bound>
 class GuardedArray
 {
