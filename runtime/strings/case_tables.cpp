@@ -9,36 +9,15 @@ namespace tetrad {
 unsigned char gZRUpperChar[256] = {};
 unsigned char gZRLowerChar[256] = {};
 
-namespace {
-
-constexpr int asciiEnd = 128;
-constexpr int caseDistance = 'a' - 'A';
-
-// By hand, because under a Turkish locale the library's 'i' and 'I' are not each other's forms.
-void fillAscii()
-{
-    for (int value = 0; value < asciiEnd; ++value) {
-        const bool lower = value >= 'a' && value <= 'z';
-        const bool upper = value >= 'A' && value <= 'Z';
-        gZRUpperChar[value] = static_cast<unsigned char>(lower ? value - caseDistance : value);
-        gZRLowerChar[value] = static_cast<unsigned char>(upper ? value + caseDistance : value);
-    }
-}
-
-void fillAboveAscii()
-{
-    for (int value = asciiEnd; value < 256; ++value) {
-        gZRUpperChar[value] = static_cast<unsigned char>(std::toupper(value));
-        gZRLowerChar[value] = static_cast<unsigned char>(std::tolower(value));
-    }
-}
-
-} // namespace
-
 int InitZRGlobals()
 {
-    fillAscii();
-    fillAboveAscii();
+    for (char32_t value = 0; value < 256; ++value) {
+        // Under a Turkish locale the library's 'i' and 'I' are not each other's forms.
+        const bool ascii = value < 0x80;
+        const int code = static_cast<int>(value);
+        gZRUpperChar[value] = static_cast<unsigned char>(ascii ? QChar::toUpper(value) : std::toupper(code));
+        gZRLowerChar[value] = static_cast<unsigned char>(ascii ? QChar::toLower(value) : std::tolower(code));
+    }
     std::srand(std::random_device{}());
     return 0;
 }

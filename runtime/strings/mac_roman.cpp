@@ -29,42 +29,19 @@ constexpr std::array<char16_t, 128> upperHalf = {
     0x00AF, 0x02D8, 0x02D9, 0x02DA, 0x00B8, 0x02DD, 0x02DB, 0x02C7, // F8
 };
 
-struct Encoding
+std::optional<QByteArray> encoded(const QString &text)
 {
-    char16_t character = 0;
-    unsigned char byte = 0;
-};
-
-constexpr auto encodings = [] {
-    std::array<Encoding, upperHalf.size()> table{};
-    for (std::size_t index = 0; index < table.size(); ++index) {
-        table[index] = {upperHalf[index], static_cast<unsigned char>(asciiEnd + index)};
-    }
-    std::ranges::sort(table, {}, &Encoding::character);
-    return table;
-}();
-
-// The character's byte, or 0, which no character above ASCII has, if Mac Roman lacks it.
-unsigned char upperByte(char16_t character)
-{
-    const auto found = std::ranges::lower_bound(encodings, character, {}, &Encoding::character);
-    return found != encodings.end() && found->character == character ? found->byte : 0;
-}
-
-std::optional<qsizetype> encodeAsWritten(QStringView text, std::span<unsigned char> buffer)
-{
-    if (text.size() > static_cast<qsizetype>(buffer.size())) {
-        return std::nullopt;
-    }
-    auto out = buffer.begin();
+    QByteArray bytes;
+    bytes.reserve(text.size());
     for (const QChar character : text) {
-        const char16_t unit = character.unicode();
-        *out = unit < asciiEnd ? static_cast<unsigned char>(unit) : upperByte(unit);
-        if (*out++ == 0 && unit != 0) {
+        const auto upper = std::ranges::find(upperHalf, character.unicode());
+        if (upper == upperHalf.end() && character.unicode() >= asciiEnd) {
             return std::nullopt;
         }
+        const auto code = character.unicode() < asciiEnd ? character.unicode() : asciiEnd + (upper - upperHalf.begin());
+        bytes += static_cast<char>(code);
     }
-    return text.size();
+    return bytes;
 }
 
 } // namespace
@@ -79,26 +56,13 @@ QString fromMacRoman(QByteArrayView bytes)
     return text;
 }
 
-std::optional<qsizetype> encodeMacRoman(const QString &text, std::span<unsigned char> buffer)
-{
-    if (const auto length = encodeAsWritten(text, buffer)) {
-        return length;
-    }
-    // A letter and its accent as two characters are one in Mac Roman.
-    const QString composed = text.normalized(QString::NormalizationForm_C);
-    return composed == text ? std::nullopt : encodeAsWritten(composed, buffer);
-}
-
 std::optional<QByteArray> toMacRoman(const QString &text)
 {
-    QByteArray bytes(text.size(), Qt::Uninitialized);
-    const auto length =
-        encodeMacRoman(text, {reinterpret_cast<unsigned char *>(bytes.data()), static_cast<std::size_t>(bytes.size())});
-    if (!length) {
-        return std::nullopt;
+    if (auto bytes = encoded(text)) {
+        return bytes;
     }
-    bytes.truncate(*length);
-    return bytes;
+    // A letter and its accent as two characters are one in Mac Roman.
+    return encoded(text.normalized(QString::NormalizationForm_C));
 }
 
 } // namespace tetrad

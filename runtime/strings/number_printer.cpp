@@ -1,8 +1,9 @@
 #include <tetrad/strings/numbers.h>
 
-#include "runtime/strings/format_number.h"
 #include "runtime/strings/saturate.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace tetrad {
@@ -16,8 +17,11 @@ constexpr float smallestFraction = 1e-6F;
 
 // The digits of a fraction, as in "25" of "-0.2500000000". Deliberately drops leading zeros with the sign and the
 // point: programs rely on this form, in which 2.05 prints like 2.5. A fraction that rounds up to one leaves "1.".
-QStringView fractionDigits(QStringView printed)
+QString fractionDigits(double fraction)
 {
+    std::array<char, 300> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), fraction, std::chars_format::fixed, gZRFloatMaxDigits);
+    QLatin1StringView printed(digits.data(), end.ptr);
     while (printed.endsWith(u'0')) {
         printed.chop(1);
     }
@@ -36,8 +40,7 @@ QString CopyDblToString(double number)
     QString printed = QString::number(saturatedTo<qint64>(integerPart));
     // NaN falls through to the fraction branch and prints as "nan".
     if (!(std::abs(fraction) < double(smallestFraction))) {
-        const QString fractionText = printNumber("%*.*f", 0, gZRFloatMaxDigits, fraction);
-        printed += u'.' + fractionDigits(fractionText);
+        printed += u'.' + fractionDigits(fraction);
     }
     return printed.startsWith(u'-') ? printed : u' ' + printed;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/strings/pascal_strings.cpp and string_stack.cpp
+// Implemented in runtime/strings/pascal_strings.cpp
 
 #include <QString>
 
