@@ -86,11 +86,25 @@ QString screen()
            QString(items).remove(u" size 12 color #ffffff"_s).remove(fraction);
 }
 
+// Deliberately not beyond x 410, where the eraser ends: the longest message's full stop stays.
+bool showsRed()
+{
+    const QImage seen = CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->grab(QRect(0, 198, 410, 20)).toImage();
+    for (int i = 0; i < seen.width() * seen.height(); ++i) {
+        const QColor color = seen.pixelColor(i % seen.width(), i / seen.width());
+        if (color.red() > color.green() + 20) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void atQuestion(std::size_t number)
 {
     whenRuns<ZRInputWindow>([number](ZRInputWindow *panel) {
         const auto &[answer, shown, place] = questions[number];
         EXPECT_EQ(screen(), shown) << number;
+        EXPECT_EQ(showsRed(), shown.endsWith(message)) << number << ", where messages stand";
         EXPECT_EQ(QString::asprintf("%lld %lld ", panel->xPos(), panel->yPos()) + panel->prompt(), place);
         QTest::keyClicks(panel->field(), answer);
         QTest::keyClick(panel->field(), Qt::Key_Return);
