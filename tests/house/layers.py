@@ -2,9 +2,10 @@
 
     python3 layers.py ROOT
 """
-import os
 import re
 import sys
+from graphlib import CycleError, TopologicalSorter
+from pathlib import Path
 
 # Each layer and what it may include besides itself. A public header has the rank of its folder in include/tetrad.
 BELOW = {
@@ -40,9 +41,7 @@ def faults_of(path, text):
     for bracket, name in INCLUDE.findall(text):
         target = "include/" + name if bracket == "<" else name
         below = layer_of(target)
-        if below is None:
-            continue
-        if target == "include/tetrad/fwd.h":
+        if below is None or target == "include/tetrad/fwd.h":
             continue
         if below not in allowed:
             yield f"{path} includes {target}: {layer} lies below {below}, or beside it"
@@ -50,42 +49,17 @@ def faults_of(path, text):
             yield f"{path} includes {target}: a public header includes public headers only"
 
 
-def circles(includes):
-    """The first circle of files that include each other, as a list of paths; empty when there is none."""
-    done, path = set(), []
-
-    def visit(file):
-        if file in path:
-            return path[path.index(file):] + [file]
-        if file not in done:
-            path.append(file)
-            for below in includes.get(file, []):
-                if found := visit(below):
-                    return found
-            path.pop()
-            done.add(file)
-        return []
-
-    for file in includes:
-        if found := visit(file):
-            return found
-    return []
-
-
 def main(root):
     faults, includes = [], {}
-    for top in ("include", "runtime", "game"):
-        for folder, _, names in os.walk(os.path.join(root, top)):
-            for name in sorted(names):
-                if name.endswith((".h", ".cpp", ".mm")):
-                    path = os.path.relpath(os.path.join(folder, name), root)
-                    with open(os.path.join(root, path), encoding="utf-8") as file:
-                        text = file.read()
-                    faults += faults_of(path, text)
-                    includes[path] = ["include/" + name if bracket == "<" else name
-                                      for bracket, name in INCLUDE.findall(text)]
-    if circle := circles(includes):
-        faults.append("in a circle: " + " includes ".join(circle))
+    for file in sorted(file for top in ("include", "runtime", "game") for file in Path(root, top).rglob("*.*")):
+        path, text = file.relative_to(root).as_posix(), file.read_text(encoding="utf-8")
+        if file.suffix in (".h", ".cpp", ".mm"):
+            faults += faults_of(path, text)
+            includes[path] = ["include/" + name if bracket == "<" else name for bracket, name in INCLUDE.findall(text)]
+    try:
+        TopologicalSorter(includes).prepare()
+    except CycleError as error:
+        faults.append("in a circle: " + " is included by ".join(error.args[1]))
     print(*faults, sep="\n")
     print(f"{len(includes)} files read, {len(faults)} faults")
     sys.exit(bool(faults) or len(includes) < 100)

@@ -4,38 +4,27 @@
     python3 vocabulary.py check ROOT       fails unless the index in docs/runtime.md is that of the headers
     python3 vocabulary.py write ROOT       writes the index
 """
-import os
 import re
 import sys
+from pathlib import Path
 
-LIST = "tests/house/vocabulary.txt"
 BEGIN, END = "<!-- index: tests/house/vocabulary.py write -->\n", "<!-- end of the index -->\n"
 
 
-def read(path):
-    with open(path, encoding="utf-8") as file:
-        return file.read()
-
-
-def vocabulary(path):
+def vocabulary(root):
     """{heading: [names]} and {class: [members]}, from logical lines that go on indented."""
     names, members = {}, {}
-    text = re.sub(r"^#.*\n", "", read(path), flags=re.MULTILINE)
+    text = re.sub(r"^#.*\n", "", Path(root, "tests/house/vocabulary.txt").read_text(encoding="utf-8"), flags=re.MULTILINE)
     for line in re.sub(r"\n\s+", " ", text).splitlines():
-        if "::" in line:
-            name, rest = line.split("::", 1)
-            members[name] = rest.split()
-        else:
-            name, rest = line.split(":", 1)
-            names[name] = rest.split()
+        name, separator, rest = re.split(r"(::?)", line, maxsplit=1)
+        (members if separator == "::" else names)[name] = rest.split()
     return names, members
 
 
 def source(root):
-    names, members = vocabulary(os.path.join(root, LIST))
-    game = [os.path.join(folder, name) for folder in ("game", "game/rules")
-            for name in sorted(os.listdir(os.path.join(root, folder))) if name.endswith(".h")]
-    lines = ["#include <tetrad/tetrad.h>", *(f'#include "{header}"' for header in game)]
+    names, members = vocabulary(root)
+    lines = ["#include <tetrad/tetrad.h>"]
+    lines += [f'#include "{header.relative_to(root).as_posix()}"' for header in sorted(Path(root, "game").rglob("*.h"))]
     lines += [f"using tetrad::{name};" for heading in names.values() for name in heading]
     for name, own in members.items():
         lines += [f"struct {name}Names : tetrad::{name}", "{"]
@@ -53,14 +42,12 @@ def header_of(name, headers):
 
 
 def index(root):
-    headers = {}
-    for folder, _, files in os.walk(os.path.join(root, "include", "tetrad")):
-        for file in files:
-            path = os.path.relpath(os.path.join(folder, file), os.path.join(root, "include"))
-            if file not in ("fwd.h", "tetrad.h"):
-                headers[path] = re.sub(r"^(class|struct) \w+;$", "", read(os.path.join(root, "include", path)),
-                                       flags=re.MULTILINE)
-    names, _ = vocabulary(os.path.join(root, LIST))
+    folder = Path(root, "include")
+    # Without what is only declared for the rest of the header.
+    headers = {header.relative_to(folder).as_posix():
+               re.sub(r"^(class|struct) \w+;$", "", header.read_text(encoding="utf-8"), flags=re.MULTILINE)
+               for header in folder.rglob("*.h") if header.name not in ("fwd.h", "tetrad.h")}
+    names, _ = vocabulary(root)
     where = {}
     for heading, own in names.items():
         if heading != "Game":
@@ -75,13 +62,12 @@ def main(command, path):
     if command == "source":
         source(path)
         return
-    document = os.path.join(path, "docs", "runtime.md")
-    text = read(document)
+    document = Path(path, "docs", "runtime.md")
+    text = document.read_text(encoding="utf-8")
     before, rest = text.split(BEGIN)
     wanted = before + BEGIN + index(path) + END + rest.split(END)[1]
     if command == "write":
-        with open(document, "w", encoding="utf-8") as file:
-            file.write(wanted)
+        document.write_text(wanted, encoding="utf-8")
     elif wanted != text:
         sys.exit("The index in docs/runtime.md is out of date: python3 tests/house/vocabulary.py write .")
 
