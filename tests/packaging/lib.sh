@@ -18,16 +18,6 @@ check() {
     fi
 }
 
-# check_silent SENTENCE COMMAND...: the command must succeed and say nothing.
-check_silent() {
-    local sentence=$1 output
-    shift
-    if ! output=$("$@" 2>&1) || [ -n "$output" ]; then
-        printf 'FAILED: %s\n%s\n' "$sentence" "$output"
-        failures=$((failures + 1))
-    fi
-}
-
 # check_equal SENTENCE EXPECTED FOUND
 check_equal() {
     if [ "$2" != "$3" ]; then
@@ -39,12 +29,10 @@ check_equal() {
 
 # What the build failed to do ends the script: nothing after it would mean anything.
 must() {
-    local log=$work/must.log
-    "$@" >"$log" 2>&1 || {
-        echo "FAILED: $*"
-        cat "$log"
-        exit 1
-    }
+    "$@" >"$work/must.log" 2>&1 && return
+    echo "FAILED: $*"
+    cat "$work/must.log"
+    exit 1
 }
 
 files_under() {
