@@ -1,25 +1,24 @@
 """Takes pictures of the running examples; run by tools/screenshots. One argument: the folder to put them in."""
 
 import contextlib
+import os
 import sys
 
 from desktop import Desktop
-from examples import Example
+from playing import REPOSITORY, Game
 from screenshots import Camera
+
+EXAMPLES = os.environ.get("TETRAD_EXAMPLES", str(REPOSITORY / "build" / "examples"))
 
 
 @contextlib.contextmanager
 def running(desktop, name):
-    example = Example(desktop, name)
+    example = Game(desktop, command=[f"{EXAMPLES}/{name}"])
     try:
         example.wait_for_start()
         yield example
     finally:
         example.end()
-
-
-def take(camera, example):
-    camera.take(example, f"example-{example.title.lower()}", example.title)
 
 
 def main(folder):
@@ -28,21 +27,21 @@ def main(folder):
     with running(desktop, "hello") as hello:
         hello.answer("Ada", "What is your name?")
         hello.wait_for_line("Hello, Ada!")
-        take(camera, hello)
+        camera.take(hello, "example-hello", "Hello")
     with running(desktop, "sketch") as sketch:
-        sketch.wait_for_key_prompt("Any key ends the program:")
-        take(camera, sketch)
+        sketch.wait_for("filler", "Any key ends the program:", "focused")
+        camera.take(sketch, "example-sketch", "Sketch")
     with running(desktop, "keys") as keys:
-        keys.wait_for_key_prompt("W A S D move the dot, Escape ends:")
+        keys.wait_for("filler", "W A S D move the dot, Escape ends:", "focused")
         desktop.press("d", "d", "d", "w")
         keys.wait_for_line("column 13, row 3")
-        take(camera, keys)
+        camera.take(keys, "example-keys", "Keys")
     with running(desktop, "controls") as controls:
         controls.wait_for("table cell", "cell 1, 1")
         for role, name in [("push button", "Press me"), ("check box", "Check me"), ("table cell", "cell 1, 0")]:
-            desktop.click(*controls.wait_for(role, name).centre)
+            controls.click(role, name)
         controls.wait_for_line(r"event 1707, tag 21, window 1: .*")
-        take(camera, controls)
+        camera.take(controls, "example-controls", "Controls")
 
 
 if __name__ == "__main__":

@@ -96,9 +96,6 @@ class Node:
     def character_rectangle(self, offset):
         return _sides(Atspi.Text.get_character_extents(self._accessible, offset, Atspi.CoordType.SCREEN))
 
-    def offset_at(self, x, y):
-        return Atspi.Text.get_offset_at_point(self._accessible, x, y, Atspi.CoordType.SCREEN)
-
     def grab_focus(self):
         return Atspi.Component.grab_focus(self._accessible)
 
@@ -109,41 +106,26 @@ class Node:
         return Atspi.Action.do_action(self._accessible, names.index("Press"))
 
 
-class Events:
-    """The events of the named kinds, in the order of their arrival: kind, number, text and object."""
+class TextEvents:
+    """The events of one text while it changes: kind, number and text, in the order of their arrival."""
 
-    def __init__(self, *names):
-        self._names = names
+    def __init__(self, node):
         self.events = []
+        self._node = node
         self._listener = Atspi.EventListener.new(self._heard)
 
     def __enter__(self):
-        for name in self._names:
+        for name in TEXT_EVENTS:
             self._listener.register(name)
         return self
 
     def __exit__(self, *_):
-        for name in self._names:
+        for name in TEXT_EVENTS:
             self._listener.deregister(name)
 
     def _heard(self, event):
         # GObject's boxed event is only lent.
-        self.events.append((event.type.removeprefix("object:"), event.detail1, event.any_data, Node(event.source)))
-
-    def of(self, node):
-        """The kinds of the events of one object."""
-        return [kind for kind, _, _, source in self.events if node.is_the_same_as(source)]
-
-
-class TextEvents(Events):
-    """The events of one text while it changes."""
-
-    def __init__(self, node):
-        super().__init__(*TEXT_EVENTS)
-        self._node = node
-
-    def _heard(self, event):
-        if self._node.is_the_same_as(Node(event.source)):
+        if event.source == self._node._accessible:
             self.events.append((event.type.removeprefix("object:"), event.detail1, event.any_data))
 
     def named(self, name):

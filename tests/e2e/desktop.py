@@ -60,11 +60,9 @@ class Desktop:
         runtime = os.path.join(self.folder, "runtime")
         os.mkdir(runtime, 0o700)
         # The fonts that Debian installs with the game. Others move the panel's field.
-        fonts = os.path.join(self.folder, "fonts.conf")
-        with open(fonts, "w", encoding="utf-8") as file:
-            file.write("<fontconfig><include>/etc/fonts/fonts.conf</include><selectfont>"
-                       "<acceptfont><glob>*/NotoColorEmoji*</glob></acceptfont>"
-                       "<rejectfont><glob>*/Noto*</glob></rejectfont></selectfont></fontconfig>")
+        fonts = self.write("fonts.conf", "<fontconfig><include>/etc/fonts/fonts.conf</include><selectfont>"
+                           "<acceptfont><glob>*/NotoColorEmoji*</glob></acceptfont>"
+                           "<rejectfont><glob>*/Noto*</glob></rejectfont></selectfont></fontconfig>")
         self.environment = {
             "FONTCONFIG_FILE": fonts,
             "PATH": os.environ["PATH"],
@@ -77,10 +75,19 @@ class Desktop:
             "QT_LOGGING_RULES": "qt.accessibility.atspi.warning=false",
         }
         self.start_display(os.environ.get("TETRAD_E2E_SCREEN", "1280x800x24"))
-        self._start_session_bus()
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.start_answering(
+            "dbus-daemon", "--session", "--nofork", "--print-address")[1]
+        os.environ.pop("AT_SPI_BUS_ADDRESS", None)
         os.environ.update({name: self.environment[name] for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS")})
         self._start_accessibility()
         self.start_window_manager()
+
+    def write(self, name, text):
+        """Writes a file of the desktop's own; returns its path."""
+        path = os.path.join(self.folder, name)
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(text)
+        return path
 
     def stop(self):
         for child in reversed(self._children):
@@ -98,15 +105,20 @@ class Desktop:
         child = subprocess.Popen(
             command,
             env={name: value for name, value in child_environment.items() if value is not None},
-            stdin=subprocess.DEVNULL,
             preexec_fn=lambda: _libc.prctl(PR_SET_PDEATHSIG, signal.SIGTERM),
-            **options,
+            **{**dict.fromkeys(("stdin", "stdout", "stderr"), subprocess.DEVNULL), **options},
         )
         self._children.append(child)
         return child
 
-    def start_quietly(self, *command, **options):
-        return self.start(*command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+    def start_answering(self, *command):
+        """Starts what prints a line when it is ready; returns the child and the line."""
+        child = self.start(*command, stdout=subprocess.PIPE, text=True)
+        with child.stdout as output:
+            answer = output.readline().strip()
+        if not answer:
+            raise RuntimeError(f"{command[0]} did not start")
+        return child, answer
 
     def run(self, *command, binary=False, check=True, **options):
         """Runs a command to its end and returns what it printed."""
@@ -125,6 +137,13 @@ class Desktop:
     def click(self, x, y):
         self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 
+    def drag(self, start, end):
+        (x, y), (to_x, to_y) = [map(str, place) for place in (start, end)]
+        self.run("xdotool", "mousemove", x, y, "mousedown", "1", "mousemove", to_x, to_y, "mouseup", "1")
+
+    def resize(self, window, width, height):
+        self.run("xdotool", "windowsize", "--sync", window, str(width), str(height))
+
     def set_clipboard(self, text):
         """Replaces the clipboard; xclip stays in the background to serve it until the display ends."""
         subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), env=self.environment, check=True,
@@ -134,8 +153,10 @@ class Desktop:
         """The text in the clipboard; empty when nobody owns it, for which xclip fails."""
         return self.run("xclip", "-selection", "clipboard", "-out", check=False)
 
-    def screenshot(self, path):
-        self.run("import", "-window", "root", path)
+    def colours(self, x, y, width, height):
+        """Red, green and blue of every pixel in a rectangle of the screen, row after row."""
+        data = self.run("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "-depth", "8", "rgb:-", binary=True)
+        return list(zip(data[0::3], data[1::3], data[2::3]))
 
     # -- windows
 
@@ -170,14 +191,7 @@ class Desktop:
 
     def start_display(self, size):
         """Makes a new display the one that whatever is started next is shown on; returns its server."""
-        read_end, write_end = os.pipe()
-        server = self.start("Xvfb", "-displayfd", str(write_end), "-screen", "0", size, "-nolisten", "tcp", "-noreset",
-                            pass_fds=[write_end], stderr=subprocess.DEVNULL)
-        os.close(write_end)
-        with os.fdopen(read_end) as answer:
-            number = answer.readline().strip()
-        if not number:
-            raise RuntimeError("Xvfb did not start")
+        server, number = self.start_answering("Xvfb", "-displayfd", "1", "-screen", "0", size, "-nolisten", "tcp", "-noreset")
         self.environment["DISPLAY"] = f":{number}"
         return server
 
@@ -185,22 +199,9 @@ class Desktop:
         # No icon in the title bars: a click on it would open the manager's own menu, which takes the keyboard away.
         with open("/etc/xdg/openbox/rc.xml", encoding="utf-8") as default:
             settings = default.read().replace("<titleLayout>NLIMC", "<titleLayout>LIMC")
-        own = os.path.join(self.folder, "rc.xml")
-        with open(own, "w", encoding="utf-8") as file:
-            file.write(settings)
-        manager = self.start_quietly("openbox", "--sm-disable", "--config-file", own)
+        manager = self.start("openbox", "--sm-disable", "--config-file", self.write("rc.xml", settings))
         until(lambda: "=" in self.run("xprop", "-root", "_NET_SUPPORTED"), "the window manager")
         return manager
-
-    def _start_session_bus(self):
-        daemon = self.start("dbus-daemon", "--session", "--nofork", "--print-address", stdout=subprocess.PIPE,
-                            stderr=subprocess.DEVNULL, text=True)
-        with daemon.stdout as answer:
-            address = answer.readline().strip()
-        if not address:
-            raise RuntimeError("dbus-daemon did not start")
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
-        os.environ.pop("AT_SPI_BUS_ADDRESS", None)
 
     def _start_accessibility(self):
         bus = Gio.bus_get_sync(Gio.BusType.SESSION)

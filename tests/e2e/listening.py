@@ -32,8 +32,7 @@ class Listener:
         tty.setraw(terminal)
         threading.Thread(target=self._read, args=(reading,), daemon=True).start()
         # It looks for a voice and finds none, which changes nothing in what it says.
-        desktop.start_quietly("orca", "--debug-file", os.ttyname(terminal),
-                              environment={"SPEECHD_ADDRESS": "unix_socket:/nonexistent"})
+        desktop.start("orca", "--debug-file", os.ttyname(terminal), environment={"SPEECHD_ADDRESS": "unix_socket:/nonexistent"})
         self.wait_for("Screen reader on.")
 
     def _read(self, reading):
@@ -49,10 +48,7 @@ class Listener:
 
     def wait_for(self, end):
         """What was said since the last call, keys left out, once something ends with `end`."""
-        def said():
-            new = self._spoken()[self._heard:]
-            return any(text.endswith(end) for text in new) and new
-
-        new = until(said, f"{end!r} to be said")
+        new = until(lambda: (new := self._spoken()[self._heard:]) and any(text.endswith(end) for text in new) and new,
+                    f"{end!r} to be said")
         self._heard += len(new)
         return new

@@ -1,9 +1,8 @@
-"""The game as a player meets it: started as a program, read through accessibility, played by keys."""
+"""A program as its user meets it: started on the desktop, read through accessibility, played by keys."""
 
 import contextlib
 import os
 import re
-import subprocess
 import tempfile
 import traceback
 import unittest
@@ -15,7 +14,7 @@ from desktop import Desktop, until
 from solver import solve
 
 REPOSITORY = Path(__file__).resolve().parents[2]
-PROGRAM = Path(os.environ.get("TETRAD_GAME", REPOSITORY / "build" / "tetrad-game"))
+PROGRAM = os.environ.get("TETRAD_GAME", str(REPOSITORY / "build" / "tetrad-game"))
 ARTIFACTS = Path(os.environ.get("TETRAD_E2E_ARTIFACTS", REPOSITORY / "build" / "e2e-artifacts"))
 
 PROMPT = "Enter math expression:"
@@ -24,21 +23,17 @@ PUZZLE = re.compile(r"difficulty level (?P<level>[^\n]*?)\n\s*(?P<numbers>[1-9](
 Puzzle = namedtuple("Puzzle", "level numbers")
 
 
-def console_of(node):
-    return next((text for text in node.find_all("text", "entry") if "multi-line" in text.states), None)
-
-
 def prompt_after(answer):
     return f"Enter math expression: [ '{answer}' was incorrect ]"
 
 
 class Game:
-    """One run of the program. What waits returns what it waited for."""
+    """One run of the game, or of another program of the runtime. What waits returns what it waited for."""
 
-    def __init__(self, desktop, command=None, environment=None):
+    def __init__(self, desktop, command=(PROGRAM,), environment=None, **options):
         self.desktop = desktop
         self._errors = tempfile.TemporaryFile()
-        self.process = desktop.start(*(command or [str(PROGRAM)]), environment=environment, stderr=self._errors)
+        self.process = desktop.start(*command, environment=environment, stderr=self._errors, **options)
         self.application = None
 
     def wait_for_start(self):
@@ -58,15 +53,16 @@ class Game:
 
     # -- what is on the screen
 
-    def window(self):
-        return self.application.find("frame", "window")
+    def window(self, name=None):
+        return self.application.find("frame", "window", name=name)
 
     def identifier(self, name="Tetrad Game"):
         """Of its window with this name, as the display has it."""
         return self.desktop.window_of(self.process.pid, name)
 
-    def console(self):
-        return console_of(self.application)
+    def console(self, window=None):
+        texts = (self.window(window) if window else self.application).find_all("text", "entry")
+        return next((text for text in texts if "multi-line" in text.states), None)
 
     def screen(self):
         """The text of the console since it was last cleared."""
@@ -80,10 +76,6 @@ class Game:
 
     def alert(self):
         return self.application.find("alert", "dialog")
-
-    def button(self, name):
-        alert = self.alert()
-        return alert and alert.find("push button", name=name)
 
     def puzzle(self):
         """The puzzle on the screen, or None."""
@@ -104,14 +96,23 @@ class Game:
 
         return until(alive, what)
 
+    def wait_for(self, role, name=None, state="showing"):
+        """Waits for an object with this role, name and state."""
+        return self.wait(lambda: (node := self.application.find(role, name=name)) and state in node.states and node,
+                         f"a {role} {name!r} that is {state}")
+
+    def wait_for_line(self, pattern):
+        """Waits until the console has a line that the regular expression describes in full."""
+        whole_line = re.compile(f"^{pattern}$", re.MULTILINE)
+        self.wait(lambda: whole_line.search(self.screen()), f"a line {pattern!r}")
+
     def wait_for_prompt(self, prompt=PROMPT):
         """Waits for an empty field with this prompt."""
         return self.wait(lambda: (field := self.field()) and field.name == prompt and field.text == "" and field,
                          f"an empty field named {prompt!r}")
 
     def wait_for_field_text(self, text):
-        shown = text if len(text) < 60 else f"{text[:60]}…"
-        self.wait(lambda: (field := self.field()) and field.text == text, f"{shown!r} in the field")
+        self.wait(lambda: (field := self.field()) and field.text == text, f"{text:.60} in the field")
 
     def wait_for_puzzle(self, other_than=None):
         """Waits until a puzzle is asked for; the puzzles of a cycle all differ, so one before it tells when it is new."""
@@ -120,19 +121,15 @@ class Game:
         self.wait_for_prompt()
         return self.puzzle()
 
-    def wait_for_alert(self):
-        return self.wait(self.alert, "the alert")
-
-    def wait_for_focus_on(self, button):
-        return self.wait(lambda: (node := self.button(button)) and "focused" in node.states and node,
-                         f"the focus on {button!r}")
-
     # -- playing
 
     def type(self, text, result=None):
         """Types and waits until the field shows exactly that, or the result."""
         self.desktop.type(text)
         self.wait_for_field_text(result or text)
+
+    def click(self, role, name=None):
+        self.desktop.click(*self.wait_for(role, name).centre)
 
     def open_menu(self, menu):
         """Opens a menu of the window by mouse and waits for its items."""
@@ -150,9 +147,9 @@ class Game:
         items = (popup.find("menu item", name=name) for popup in self.application.find_all("popup menu", "menu"))
         return next((item for item in items if item and item.rectangle[2] > 0), None)
 
-    def activate(self):
-        """Brings the window to the front as a click on its title bar does."""
-        self.desktop.run("xdotool", "windowactivate", "--sync", self.identifier())
+    def activate(self, name="Tetrad Game"):
+        """Brings a window to the front as a click on its title bar does."""
+        self.desktop.run("xdotool", "windowactivate", "--sync", self.identifier(name))
 
     def answer(self, text, prompt=PROMPT):
         """Waits to be asked with this prompt, types the answer and presses Return."""
@@ -160,16 +157,17 @@ class Game:
         self.type(text)
         self.desktop.press("Return")
 
-    def win(self):
+    def win(self, prompt=PROMPT):
         """Solves the puzzle that is asked for; leaves the alert open. Returns the puzzle."""
-        puzzle = self.wait_for_puzzle()
-        self.answer(solve(puzzle.numbers))
-        self.wait_for_focus_on("Quit")
+        self.wait_for_prompt(prompt)
+        puzzle = self.wait(self.puzzle, "a puzzle")
+        self.answer(solve(puzzle.numbers), prompt)
+        self.wait_for("push button", "Quit", "focused")
         return puzzle
 
     def play_again(self):
         self.desktop.press("Tab")
-        self.wait_for_focus_on("Play Again")
+        self.wait_for("push button", "Play Again", "focused")
         self.desktop.press("space")
         self.wait(lambda: not self.alert(), "the end of the alert")
 
@@ -206,10 +204,6 @@ class PlayingTest(unittest.TestCase):
         self.desktop = Desktop.shared()
         self.games = []
 
-    def tearDown(self):
-        for game in self.games:
-            game.end()
-
     def start(self, **options):
         game = self.start_blind(**options)
         game.wait_for_start()
@@ -217,31 +211,27 @@ class PlayingTest(unittest.TestCase):
 
     def start_blind(self, **options):
         """Starts it without waiting until it can be seen."""
-        return self.keep(Game(self.desktop, **options))
-
-    def keep(self, game):
-        """Takes care that it ends with the test."""
+        game = Game(self.desktop, **options)
+        self.addCleanup(game.end)
         self.games.append(game)
         return game
 
     def assert_clean_end(self, game):
         self.assertEqual(game.wait_for_end(), (0, ""))
 
+    def assert_inside(self, node, left, top, room, depth):
+        x, y, width, height = node.rectangle
+        self.assertTrue(left <= x and x + width <= left + room and top <= y and y + height <= top + depth, node.rectangle)
+
     @contextlib.contextmanager
     def _keeping_evidence(self):
         try:
             yield
         except Exception:
-            self._keep_evidence()
-            raise
-
-    def _keep_evidence(self):
-        ARTIFACTS.mkdir(parents=True, exist_ok=True)
-        stem = ARTIFACTS / self.id().split(".", 1)[-1]
-        try:
-            self.desktop.screenshot(f"{stem}.png")
+            ARTIFACTS.mkdir(parents=True, exist_ok=True)
+            stem = ARTIFACTS / self.id().split(".", 1)[-1]
             trees = "\n".join(game.application.tree() for game in self.games if game.application)
             Path(f"{stem}.txt").write_text(f"{traceback.format_exc()}\n{trees}")
             print(f"What to do next: look at {stem}.png (the screen) and {stem}.txt (what the program told about it)")
-        except (OSError, subprocess.CalledProcessError) as error:
-            print(f"The evidence could not be kept: {error}")
+            self.desktop.run("import", "-window", "root", f"{stem}.png")
+            raise

@@ -27,7 +27,7 @@ def _solutions(terms, target):
 
 def solutions(numbers, target=24):
     """With full parentheses; a sum or product is made in one order only."""
-    return _solutions([(Fraction(number), str(number)) for number in numbers], target)
+    return _solutions([(Fraction(number), str(number)) for number in numbers], Fraction(target))
 
 
 def solve(numbers, target=24):

@@ -1,64 +1,46 @@
-// A program as somebody else would write it, in one scene of many; what happens to it goes to standard output.
+// A program as somebody else would write it: carries out its arguments one by one, then asks for lines for ever. An
+// answer may be a command as well, and so may a line of standard input, which is read in whatever modal run there is.
+// What happens to it goes to standard output.
+//   stranger COMMAND...        each in one argument, as in "open 1 100 100"
 
 #include <tetrad/tetrad.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QSocketNotifier>
 #include <QTimer>
 
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <iostream>
 #include <map>
+#include <span>
 #include <string>
 #include <thread>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
+using namespace std::string_literals;
 
-static void say(const QString &line)
+namespace {
+
+void say(const QString &line)
 {
     std::printf("%s\n", qUtf8Printable(line));
     std::fflush(stdout);
 }
 
-static void open(Tag tag, const QRectF &rect, qint64 style = notGiven)
+Window *window()
 {
-    CUI_Window(tag, u"Window %1"_s.arg(tag), style, rect);
+    return CUI_WindowWithTag(1);
 }
 
-static void ask()
-{
-    for (;;) {
-        const QString answer = ZRInput(10, 60, u"Which?"_s, QString(), notGiven, notGiven, notGiven);
-        say(u"answer "_s + (answer.isNull() ? u"none"_s : answer));
-        CUI_PrintToWindowPrintStatement({answer});
-        if (answer == u"other"_s) {
-            CUI_Window(1, QString(), notGiven, QRectF());
-        } else if (answer == u"quit"_s) {
-            AppTerminate();
-        }
-    }
-}
+// What a window may be made: no smaller, and whole steps.
+QSizeF least;
+double step = 0;
 
-static std::function<void()> action;
-static volatile std::sig_atomic_t isSignalled = 0;
-
-// Inside a modal run, each time the test sends SIGUSR1.
-static void whenSignalled(const std::function<void()> &given)
-{
-    action = given;
-}
-
-static void addButton(Tag tag, const QString &title)
-{
-    CUI_Button(tag, title, QRectF(20, 20, 120, 40));
-}
-
-static QSizeF (*sizeFor)(QSizeF) = nullptr;
-
-static qint64 onEvent(qint64 event, Tag tag, Tag, qint64)
+qint64 onEvent(qint64 event, Tag tag, Tag, qint64)
 {
     if (event == windowEventDidUpdate) {
         return 0;
@@ -69,140 +51,116 @@ static qint64 onEvent(qint64 event, Tag tag, Tag, qint64)
         const bool closes =
             CUI_Alert(5, notGiven, u"Close?"_s, QString(), u"Stay;Close"_s, notGiven) == alertSecondButton;
         record.boolVal = closes;
-    } else if (event == windowEventWillResize && sizeFor) {
-        record.sizeVal = sizeFor(record.sizeVal);
+    } else if (event == windowEventWillResize) {
+        record.sizeVal = step > 0 ? (record.sizeVal / step).toSize() * step : record.sizeVal.expandedTo(least);
     }
     return 0;
 }
 
-static const QRectF left(100, 100, 400, 150);
-static const QRectF right(600, 300, 400, 150);
-
-static Window *window()
+// Ends the program with a signal if anything of it still runs after its end was reported.
+void watchTheEnd()
 {
-    return CUI_WindowWithTag(1);
+    static bool isOver = false;
+    CUI_SetOnAppEventFunction([](qint64 event, const QVariant &) {
+        isOver = isOver || event == appEventWillTerminate;
+        return QVariant();
+    });
+    auto *const timer = new QTimer(qApp);
+    timer->callOnTimeout([] { isOver ? std::abort() : void(); });
+    timer->start(0);
 }
 
-static const std::map<std::string, std::function<void()>> scenes = {
-    {"one", [] { open(1, left); }},
-    {"two",
-     [] {
-         open(2, right);
-         addButton(7, u"Press"_s);
-         WindowSetWorksWhenModal(2, true);
-         open(1, left);
+using Numbers = std::function<qint64(qsizetype)>;
+
+const std::map<QString, std::function<void(const Numbers &)>> commands = {
+    {u"open"_s,
+     [](const Numbers &at) { // tag, x, y and perhaps style
+         CUI_Window(at(1), u"Window %1"_s.arg(at(1)), at(4), QRectF(double(at(2)), double(at(3)), 400, 150));
      }},
-    {"later",
-     [] {
-         open(1, left);
-         whenSignalled([] { open(2, left.translated(60, 60)); });
+    {u"button"_s, [](const Numbers &) { CUI_Button(7, u"Press"_s, QRectF(20, 20, 120, 40)); }},
+    {u"works"_s, [](const Numbers &at) { WindowSetWorksWhenModal(at(1), true); }},
+    {u"silent"_s, [](const Numbers &) { CUI_SetOnDialogFunction(nullptr); }},
+    {u"front"_s, [](const Numbers &at) { CUI_Window(at(1), QString(), notGiven, QRectF()); }},
+    {u"run"_s, [](const Numbers &at) { say(u"run %1"_s.arg(runModalForWindow(CUI_WindowWithTag(at(1))))); }},
+    {u"sleep"_s, [](const Numbers &at) { std::this_thread::sleep_for(std::chrono::seconds(at(1))); }},
+    {u"popover"_s, [](const Numbers &) { CUI_Popover(3, QSizeF(160, 80), popoverTransient); }},
+    {u"show"_s, [](const Numbers &) { PopoverShow(3, contentViewTag, QRectF(), Qt::BottomEdge); }},
+    {u"toolbar"_s,
+     [](const Numbers &) {
+         CUI_Toolbar(4);
+         CUI_ToolbarAddItem(4, 41, u"Item"_s);
      }},
-    {"equal",
-     [] {
-         open(1, left);
-         open(2, right);
-         CUI_SetOnDialogFunction(nullptr);
+    {u"least"_s,
+     [](const Numbers &) {
+         least = {380, 120};
      }},
-    {"nested",
-     [] {
-         open(2, right);
-         open(1, left);
-         whenSignalled([] { say(u"run %1"_s.arg(runModalForWindow(CUI_WindowWithTag(2)))); });
+    {u"step"_s, [](const Numbers &) { step = 50; }},
+    {u"restyle"_s, [](const Numbers &) { window()->setStyleMask(window()->styleMask() ^ windowStyleDefault); }},
+    {u"sheet"_s, [](const Numbers &) { CUI_Alert(5, notGiven, u"Save?"_s, QString(), u"Save;Don't"_s, 1); }},
+    {u"copy"_s, [](const Numbers &) { QGuiApplication::clipboard()->setText(u"kept"_s); }},
+    {u"watch"_s, [](const Numbers &) { watchTheEnd(); }},
+    {u"report"_s,
+     [](const Numbers &) {
+         static int none = 0;
+         new QCoreApplication(none, nullptr);
+         CUI_ShowAlert(alertStyleWarning, u"Full"_s, u"100 %"_s);
      }},
-    {"early",
-     [] {
-         open(1, left);
-         std::this_thread::sleep_for(std::chrono::seconds(2));
-     }},
-    {"high", [] { open(1, QRectF(10, 10, 400, 150)); }},
-    {"untouchable", [] { open(1, left, windowStyleTitled); }},
-    {"popover",
-     [] {
-         open(1, left);
-         CUI_Popover(3, QSizeF(160, 80), popoverTransient);
-         addButton(7, u"Press"_s);
-         whenSignalled([] { PopoverShow(3, contentViewTag, QRectF(), Qt::BottomEdge); });
-     }},
-    {"tool bar",
-     [] {
-         open(1, left);
-         whenSignalled([] {
-             CUI_Toolbar(4);
-             CUI_ToolbarAddItem(4, 41, u"Item"_s);
-         });
-     }},
-    {"least",
-     [] {
-         sizeFor = [](QSizeF size) { return size.expandedTo(QSizeF(380, 120)); };
-         open(1, left);
-     }},
-    {"steps",
-     [] {
-         sizeFor = [](QSizeF size) { return QSizeF(50 * qRound(size.width() / 50), 50 * qRound(size.height() / 50)); };
-         open(1, left);
-     }},
-    {"styles",
-     [] {
-         open(1, left);
-         whenSignalled([] { window()->setStyleMask(window()->styleMask() ^ windowStyleDefault); });
-     }},
-    {"copied",
-     [] {
-         open(1, left);
-         QGuiApplication::clipboard()->setText(u"kept"_s);
-         static bool isOver = false;
-         CUI_SetOnAppEventFunction([](qint64 event, const QVariant &) {
-             isOver = isOver || event == appEventWillTerminate;
-             return QVariant();
-         });
-         auto *const timer = new QTimer(qApp);
-         QObject::connect(timer, &QTimer::timeout, [] { isOver ? std::abort() : void(); });
-         timer->start(0);
-     }},
-    {"sheet",
-     [] {
-         open(1, left);
-         whenSignalled([] { CUI_Alert(5, notGiven, u"Save?"_s, QString(), u"Save;Don't"_s, 1); });
-     }},
+    {u"quit"_s, [](const Numbers &) { AppTerminate(); }},
 };
+
+void carryOut(const QString &line)
+{
+    const QStringList words = line.split(u' ');
+    if (const auto command = commands.find(words.first()); command != commands.end()) {
+        command->second([&](qsizetype index) { return index < words.size() ? words[index].toLongLong() : notGiven; });
+    }
+}
+
+// Also what window 1 is like, whenever that changed.
+void watch()
+{
+    static QString last;
+    QString line = u"gone"_s;
+    if (window()) {
+        const QRect frame = window()->frameGeometry();
+        line = u"%1 frame %2 %3 %4 %5 chrome %6"_s.arg(window()->dump()).arg(frame.x()).arg(frame.y());
+        line = line.arg(frame.width()).arg(frame.height()).arg(window()->height() - window()->contentView()->height());
+    }
+    if (line != std::exchange(last, line)) {
+        say(line);
+    }
+}
+
+} // namespace
 
 int main(int count, char **arguments)
 {
-    const std::string name = arguments[1];
-    if (name == "nothing") {
-        AppTerminate();
-    } else if (name == "without windows") {
-        const QCoreApplication application(count, arguments);
-        CUI_ShowAlert(alertStyleWarning, u"Full"_s, u"100 %"_s);
-        AppTerminate();
+    const std::span<char *> given = std::span(arguments, std::size_t(count)).subspan(1);
+    const bool isBare = given.front() == "bare"s;
+    if (!isBare) {
+        QCoreApplication::setApplicationName(u"Stranger"_s);
+        CocoaInit();
+        CUI_EditMenu(1);
+        CUI_SetOnDialogFunction(onEvent);
     }
-    std::signal(SIGUSR1, [](int) { isSignalled = 1; });
-    QCoreApplication::setApplicationName(u"Stranger"_s);
-    CocoaInit();
-    CUI_EditMenu(1);
-    CUI_SetOnDialogFunction(onEvent);
-    const auto scene = scenes.find(name);
-    if (scene == scenes.end()) {
-        return 2;
+    for (const char *command : given) {
+        carryOut(QString::fromUtf8(command));
     }
-    scene->second();
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, [] {
-        if (std::exchange(isSignalled, 0) && action) {
-            QTimer::singleShot(0, qApp, action);
+    QTimer timer;
+    timer.callOnTimeout(watch);
+    timer.start(20);
+    QSocketNotifier input(0, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, [] {
+        std::string line;
+        if (!std::getline(std::cin, line)) {
+            std::_Exit(3);
         }
-        static QString last;
-        QString line = u"gone"_s;
-        if (window()) {
-            const QRect frame = window()->frameGeometry();
-            line = u"%1 frame %2 %3 %4 %5 chrome %6"_s.arg(window()->dump()).arg(frame.x()).arg(frame.y());
-            line =
-                line.arg(frame.width()).arg(frame.height()).arg(window()->height() - window()->contentView()->height());
-        }
-        if (line != std::exchange(last, line)) {
-            say(line);
-        }
+        QTimer::singleShot(0, qApp, [line] { carryOut(QString::fromStdString(line)); });
     });
-    watch.start(20);
-    ask();
+    for (;;) {
+        const QString answer = ZRInput(10, 60, u"Which?"_s, QString(), notGiven, notGiven, notGiven);
+        say(u"answer "_s + (answer.isNull() ? u"none"_s : answer));
+        CUI_PrintToWindowPrintStatement({answer});
+        carryOut(answer);
+    }
 }

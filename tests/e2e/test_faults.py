@@ -1,19 +1,11 @@
 """Faults from outside, each as docs/robustness.md lists it: the program plays on or says why it ends."""
 
-import contextlib
-import os
 import signal
 
 from desktop import until
 from playing import PROGRAM, REPOSITORY, PlayingTest
 
-NO_DISPLAY = r"(?m)^Tetrad Game cannot open the display \(.*\)[;:] "
 ONE_SENTENCE = r"\A[^\n]*display[^\n]*\.\n\Z"
-
-
-def shell(script):
-    """The program as the last command of a shell script, in the same process."""
-    return ["sh", "-c", f'{script}exec "$0"', str(PROGRAM)]
 
 
 class FaultTest(PlayingTest):
@@ -39,19 +31,12 @@ class FaultTest(PlayingTest):
     def to_alert(self, game):
         game.win()
 
-    def press_until_the_end(self, game, *keys):
-        until(lambda: self.desktop.press(*keys) or game.has_ended(), "the end of the program")
-
 
 class TestSignals(FaultTest):
     def test_term_and_hangup_end_it_in_order(self):
-        for number, name, reach in [
-            (signal.SIGHUP, "prompt", lambda game: game.wait_for_prompt()),
-            (signal.SIGTERM, "half-typed answer", self.to_half_typed_answer),
-            (signal.SIGTERM, "open menu", self.to_menu),
-            (signal.SIGHUP, "alert", self.to_alert),
-        ]:
-            with self.subTest(signal=number.name, during=name):
+        for number, reach in [(signal.SIGTERM, self.to_half_typed_answer), (signal.SIGTERM, self.to_menu),
+                              (signal.SIGHUP, self.to_alert)]:
+            with self.subTest(signal=number.name, during=reach.__name__):
                 game = self.start()
                 reach(game)
                 game.process.send_signal(number)
@@ -59,22 +44,13 @@ class TestSignals(FaultTest):
 
 
 class TestDisplay(FaultTest):
-    @contextlib.contextmanager
-    def another_display(self):
-        """A display that can be taken away without the desktop's other programs."""
-        usual = self.desktop.environment["DISPLAY"]
-        children = [self.desktop.start_display("800x600x24"), self.desktop.start_window_manager()]
-        try:
-            yield children[0]
-        finally:
-            self.desktop.environment["DISPLAY"] = usual
-            for child in children:
-                child.kill()
-                child.wait()
-
     def test_a_display_that_closes_ends_it_with_status_1(self):
-        for name, reach in [("prompt", self.to_half_typed_answer), ("alert", self.to_alert)]:
-            with self.subTest(during=name), self.another_display() as server:
+        usual = self.desktop.environment["DISPLAY"]
+        self.addCleanup(self.desktop.environment.update, DISPLAY=usual)
+        for reach in (self.to_half_typed_answer, self.to_alert):
+            with self.subTest(during=reach.__name__):
+                server = self.desktop.start_display("800x600x24")
+                self.desktop.start_window_manager()
                 game = self.start()
                 reach(game)
                 server.kill()
@@ -84,14 +60,14 @@ class TestDisplay(FaultTest):
 
     def test_none_that_can_be_opened_is_said_in_one_sentence(self):
         nowhere = {"DISPLAY": None}
-        for name, command, environment in [
-            ("program", None, nowhere),
-            ("program, display gone", None, {"DISPLAY": ":4711"}),
-            ("program, Wayland gone", None, {**nowhere, "WAYLAND_DISPLAY": "nowhere"}),
-            ("play", [str(REPOSITORY / "play")], nowhere),
+        for name, program, environment in [
+            ("program", PROGRAM, nowhere),
+            ("program, display gone", PROGRAM, {"DISPLAY": ":4711"}),
+            ("program, Wayland gone", PROGRAM, {**nowhere, "WAYLAND_DISPLAY": "nowhere"}),
+            ("play", str(REPOSITORY / "play"), nowhere),
         ]:
             with self.subTest(name):
-                status, errors = self.start_blind(command=command, environment=environment).wait_for_end()
+                status, errors = self.start_blind(command=[program], environment=environment).wait_for_end()
                 self.assertEqual(status, 1)
                 self.assertRegex(errors, ONE_SENTENCE)
 
@@ -101,18 +77,13 @@ class TestDisplay(FaultTest):
                 game = self.start_blind(environment={"QT_QPA_PLATFORM": platform})
                 status, errors = game.wait_for_end()
                 self.assertEqual(status, 1)
-                self.assertRegex(errors, NO_DISPLAY)
+                self.assertRegex(errors, r"(?m)^Tetrad Game cannot open the display \(.*\)[;:] ")
                 self.assertIn(f"QT_QPA_PLATFORM={platform}", errors)
                 self.assertEqual(f'"{platform}" is not installed' in errors, platform != "linuxfb")
 
-    def test_a_platform_with_unknown_options_plays(self):
-        for platform in ("xcb:nonsense=1:%n", "nonsense;xcb", ""):
-            with self.subTest(platform=platform):
-                self.assertEqual(self.assert_plays(environment={"QT_QPA_PLATFORM": platform}), "")
-
 
 class TestSurroundings(FaultTest):
-    def test_what_is_missing_does_not_keep_it_from_playing(self):
+    def test_what_is_missing_or_odd_does_not_keep_it_from_playing(self):
         # Nobody can make a file there, not even root.
         homes = ("HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME")
         for name, environment in [
@@ -120,15 +91,15 @@ class TestSurroundings(FaultTest):
             ("fonts, no emoji", self.with_fonts("/usr/share/fonts/truetype/dejavu")),
             ("fonts, emoji only", self.with_fonts("/usr/share/fonts/truetype/noto")),
             ("a home that can be written", dict.fromkeys(homes, "/proc")),
+            ("a platform's unknown option", {"QT_QPA_PLATFORM": "xcb:nonsense=1:%n"}),
+            ("a second platform", {"QT_QPA_PLATFORM": "nonsense;xcb"}),
         ]:
             with self.subTest(name):
                 self.assertEqual(self.assert_plays(environment=environment), "")
 
     def with_fonts(self, folder):
-        path = os.path.join(self.desktop.folder, f"{os.path.basename(folder)}.conf")
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(f"<fontconfig><dir>{folder}</dir></fontconfig>")
-        return {"FONTCONFIG_FILE": path}
+        name = folder.replace("/", "-") + ".conf"
+        return {"FONTCONFIG_FILE": self.desktop.write(name, f"<fontconfig><dir>{folder}</dir></fontconfig>")}
 
     def test_without_a_session_bus_it_takes_keys_and_quits(self):
         for address in ("unix:path=/nowhere", "nonsense", None):
@@ -136,7 +107,7 @@ class TestSurroundings(FaultTest):
                 game = self.start_blind(environment={"DBUS_SESSION_BUS_ADDRESS": address})
                 game.wait(game.has_keyboard, "a window with the keyboard")
                 # What is typed before the first question is nobody's, and nothing but the end tells that it came.
-                self.press_until_the_end(game, "ctrl+a", "q", "Return")
+                until(lambda: self.desktop.press("ctrl+a", "q", "Return") or game.has_ended(), "the end of the program")
                 self.assert_clean_end(game)
 
     def test_standard_streams_that_are_closed_are_not_written_to(self):
@@ -146,22 +117,20 @@ class TestSurroundings(FaultTest):
                               'exec 2>"$HOME/pipe"; rm "$HOME/pipe"; kill $!; wait;'),
                              ("error, a full disk", "exec 2>/dev/full;")]:
             with self.subTest(closed=name):
-                self.assert_plays(command=shell(script), environment={"TETRAD_DUMP": "1"})
+                self.assert_plays(command=["sh", "-c", f'{script}exec "$0"', PROGRAM], environment={"TETRAD_DUMP": "1"})
 
     def test_a_clipboard_owner_that_never_answers_delays_it_only(self):
-        owner = self.desktop.start_quietly("xclip", "-quiet", "-selection", "clipboard", "-in", __file__)
+        owner = self.desktop.start("xclip", "-quiet", "-selection", "clipboard", "-in", __file__)
+        self.addCleanup(owner.wait)
+        self.addCleanup(owner.kill)
         until(lambda: "xclip" in self.desktop.clipboard(), "the clipboard's owner")
         game = self.start()
         self.to_half_typed_answer(game)
         owner.send_signal(signal.SIGSTOP)
-        try:
-            self.desktop.press("ctrl+v")
-            game.type("+3)", "1+(2+3)")
-            game.open_menu("Edit")
-            self.desktop.press("Escape")
-            game.type("*4", "1+(2+3)*4")
-            game.process.send_signal(signal.SIGTERM)
-            self.assert_clean_end(game)
-        finally:
-            owner.kill()
-            owner.wait()
+        self.desktop.press("ctrl+v")
+        game.type("+3)", "1+(2+3)")
+        game.open_menu("Edit")
+        self.desktop.press("Escape")
+        game.type("*4", "1+(2+3)*4")
+        game.process.send_signal(signal.SIGTERM)
+        self.assert_clean_end(game)

@@ -1,79 +1,14 @@
-"""The game in a desktop: from the first screen to the alert, every way out, and the whole deck."""
+"""The game in a desktop: what stands between it and other programs, every way out, small screens and languages."""
 
+import os
+import re
+
+from desktop import until
 from playing import PROMPT, PlayingTest, prompt_after
-from solver import solve
-
-EXTRA_NUMBERS = "Error! Extra numbers not allowed"
-MISSING_NUMBER = "ERROR! Must use all your numbers and only those numbers."
-DECK = {"⚪ Easy": 33, "🔴 🔴 Medium": 32, "🟡 🟡 🟡 Hard": 31}
-
-SCREEN = """
-Given four numbers and using just the +, -, *, and / operators; and the
-possible use of parenthesis (), enter an expression that equates to 24.
-You must use all your numbers and only those numbers.
-Examples: 9618 Solution 9 + 6 + 1 + 8 or 3173 Solution ((3 * 1) * 7) + 3
-
-Enter Q to quit or S to skip to the next number.
-
-These are your numbers, difficulty level {level}
- {numbers[0]}  {numbers[1]}  {numbers[2]}  {numbers[3]}"""
 
 
-class TestAnswers(PlayingTest):
-    def assert_screen(self, game, puzzle, message=""):
-        """The rules, the puzzle and the message stand on the console and nothing else, whatever comes between lines."""
-        lines = [line.strip() for line in game.screen().splitlines() if line.strip()]
-        expected = SCREEN.format(level=puzzle.level, numbers=puzzle.numbers) + f"\n{message}"
-        self.assertEqual(lines, [line.strip() for line in expected.splitlines() if line.strip()])
-
-    def test_rejections_name_the_reason_and_the_next_prompt_the_answer(self):
-        game = self.start()
-        puzzle = game.wait_for_puzzle()
-        self.assert_screen(game, puzzle)
-        numbers = puzzle.numbers
-        absent = next(n for n in range(1, 10) if n not in numbers)
-        # The last number may be there twice, and the check is for presence only.
-        missing = "+".join(str(absent if n == numbers[-1] else n) for n in numbers)
-        wrong = next(found for target in (1, 2, 3, 5, 7) if (found := solve(numbers, target)))
-        prompt = PROMPT
-        for answer, message in [
-            ("1+2+3+4+5", EXTRA_NUMBERS),
-            (missing, MISSING_NUMBER),
-            ("9", MISSING_NUMBER),
-            (wrong, ""),
-            (f"({wrong}", ""),
-        ]:
-            with self.subTest(answer=answer):
-                before = game.screen()
-                game.answer(answer, prompt)
-                prompt = prompt_after(answer)
-                game.wait_for_prompt(prompt)
-                self.assertEqual(game.screen().removeprefix(before).strip(), message)
-                self.assertIsNone(game.alert())
-
-    def test_no_answer_is_asked_again(self):
-        game = self.start()
-        puzzle = game.wait_for_puzzle()
-        for typed, key in [("", "Return"), ("", "Escape"), ("", "KP_Enter"), ("", "Tab"), ("1+1", "Escape")]:
-            with self.subTest(typed=typed, key=key):
-                asked = game.wait_for_prompt()
-                game.type(typed)
-                self.desktop.press(key)
-                # A question of its own: the field that asked is gone.
-                game.wait(lambda: (field := game.field()) and not field.is_the_same_as(asked), "another field")
-                game.wait_for_prompt()
-                self.assert_screen(game, puzzle)
-
-    def test_skipping_brings_another_puzzle_and_forgets_the_answers(self):
-        game = self.start()
-        puzzle = game.wait_for_puzzle()
-        game.answer("9")
-        for letter, prompt in [("s", prompt_after("9")), ("S", PROMPT)]:
-            game.answer(letter, prompt)
-            puzzle = game.wait_for_puzzle(other_than=puzzle)
-            self.assert_screen(game, puzzle)
-
-    def test_a_click_elsewhere_does_not_end_the_input(self):
+class TestPlaying(PlayingTest):
+    def test_neither_a_click_elsewhere_nor_another_program_ends_the_input(self):
         game = self.start()
         field = game.wait_for_prompt()
         game.type("1+2")
@@ -93,21 +28,50 @@ class TestAnswers(PlayingTest):
         self.assertTrue(game.field().is_the_same_as(field))
         self.assertEqual((game.field().name, other.application.find("text").text), (PROMPT, "9"))
 
+    def test_each_item_of_the_edit_menu_by_mouse_and_by_shortcut(self):
+        game = self.start()
+        game.wait_for_prompt()
+        ways = {
+            "mouse": lambda item, shortcut: game.choose("Edit", item),
+            "shortcut": lambda item, shortcut: self.desktop.press(shortcut),
+        }
+        for way, act in ways.items():
+            # The field's and the clipboard's text after it was done to "1+2", all selected, with "9" in the clipboard.
+            for item, shortcut, text, clipboard in [
+                ("Cut", "ctrl+x", "", "1+2"),
+                ("Copy", "ctrl+c", "1+2", "1+2"),
+                ("Paste", "ctrl+v", "9", "9"),
+                ("Delete", "Delete", "", "9"),
+            ]:
+                with self.subTest(way, item=item):
+                    self.desktop.set_clipboard("9")
+                    game.type("1+2")
+                    act("Select All", "ctrl+a")
+                    until(lambda: game.field() and game.field().selection == (0, 3), "everything selected")
+                    act(item, shortcut)
+                    game.wait_for_field_text(text)
+                    until(lambda: self.desktop.clipboard() == clipboard, f"{clipboard!r} in the clipboard")
+                    if text != "1+2":
+                        act("Undo", "ctrl+z")
+                        game.wait_for_field_text("1+2")
+                        act("Redo", "ctrl+shift+z")
+                        game.wait_for_field_text(text)
+                    self.desktop.press("ctrl+a", "BackSpace")
+                    game.wait_for_field_text("")
+
 
 class TestLeaving(PlayingTest):
     """Every way out ends the program with status 0 and not a word on standard error."""
 
     def test_each_way_out(self):
         for name, reach, leave in [
-            ("Q", lambda game: game.wait_for_prompt(), lambda game: game.answer("Q")),
             ("q after a rejected answer", lambda game: game.answer("9"), lambda game: game.answer("q", prompt_after("9"))),
             ("quit item with a half-typed answer", lambda game: (game.wait_for_prompt(), game.type("1+(2")),
              lambda game: self.desktop.press("ctrl+q")),
             ("close box", lambda game: game.wait_for_prompt(),
              lambda game: self.desktop.click_close_box(game.identifier())),
             ("quit item at the alert", lambda game: game.win(), lambda game: self.desktop.press("ctrl+q")),
-            ("mouse at the alert", lambda game: game.win(),
-             lambda game: self.desktop.click(*game.button("Quit").centre)),
+            ("mouse at the alert", lambda game: game.win(), lambda game: game.click("push button", "Quit")),
         ]:
             with self.subTest(name):
                 game = self.start()
@@ -121,22 +85,75 @@ class TestLeaving(PlayingTest):
         # Keys arrive in order: when Tab has moved the focus, the two before it have been handled; a button that one of
         # them chose shows itself pressed before it acts.
         self.desktop.press("Escape", "alt+F4", "Tab")
-        states = game.wait(lambda: (button := game.button("Play Again")) and "focused" in (now := button.states) and now,
-                           "the focus on the other button")
-        self.assertNotIn("pressed", states)
+        self.assertNotIn("pressed", game.wait_for("push button", "Play Again", "focused").states)
 
 
-class TestCycle(PlayingTest):
-    def test_96_different_puzzles_come_before_the_first_repeat(self):
+class TestScreens(PlayingTest):
+    def test_the_panel_is_usable_in_every_size_of_window(self):
         game = self.start()
-        played = [game.win()]
-        while len(played) < sum(DECK.values()) + 1:
-            game.play_again()
-            played.append(game.win())
-        *cycle, repeated = played
-        self.assertEqual(len({puzzle.numbers for puzzle in cycle}), len(cycle))
-        self.assertIn(repeated, cycle)
-        levels = [puzzle.level for puzzle in cycle]
-        self.assertEqual({level: levels.count(level) for level in levels}, DECK)
+        game.wait_for_prompt()
+        # Width and height of the window, then left and top of the panel's field from the console's corner.
+        for width, height, *place in [(140, 80), (300, 120, 176, 75), (1260, 740, 176, 164), (580, 269, 176, 164)]:
+            with self.subTest(width=width, height=height):
+                self.desktop.resize(game.identifier(), width, height)
+                until(lambda: game.window().rectangle[2:] == (width, height), "the new size")
+                # The panel has moved before a key makes it measure itself anew.
+                self.assert_inside(game.field(), *game.window().rectangle)
+                self.desktop.press("ctrl+a", "BackSpace")
+                game.type("1+2")
+                self.assert_inside(game.field(), *game.window().rectangle)
+                left, top, field_width, _ = game.field().rectangle
+                self.assertGreater(field_width, 20)
+                x, y, *_ = game.console().rectangle
+                self.assertIn(place, ([], [left - x, top - y]))
+
+
+class TestSmallScreen(PlayingTest):
+    def setUp(self):
+        os.environ["TETRAD_E2E_SCREEN"] = "440x180x24"
+        super().setUp()
+
+    def test_the_game_is_played_on_a_screen_smaller_than_its_window(self):
+        game = self.start()
+        game.win()
+        for name in ("Quit", "Play Again"):
+            self.assert_inside(game.application.find("push button", name=name), 0, 0, 440, 180)
+        x, y, *_ = self.desktop.framed_rectangle(game.identifier())
+        self.assertTrue(x >= -1 and y >= 0, f"the title bar is out of reach: {x}, {y}")
         self.desktop.press("Return")
         self.assert_clean_end(game)
+
+
+class TestLanguages(PlayingTest):
+    def test_places_and_answers_are_the_same_everywhere(self):
+        expected = None
+        for language, menus_begin in [("C", "left"), ("de_DE", "left"), ("tr_TR", "left"), ("ar_EG", "right")]:
+            with self.subTest(language):
+                game = self.start(environment=self.environment_of(language))
+                game.win()
+                game.play_again()
+                game.wait_for_prompt()
+                seen = self.places(game)
+                expected = expected or seen
+                self.assertEqual(seen, expected)
+                x, _, width, _ = game.window().rectangle
+                is_left = game.window().find("menu item", name="Tetrad Game").centre[0] < x + width // 2
+                self.assertEqual("left" if is_left else "right", menus_begin)
+                game.answer("Q")
+                status, said = game.wait_for_end()
+                # In the locale C newer versions of Qt say that they use C.UTF-8.
+                self.assertEqual((status, re.sub(r'\ADetected locale "C"(.*\n){4}\Z', "", said)), (0, ""))
+
+    def environment_of(self, language):
+        if language == "C":
+            return {"LC_ALL": "C"}
+        name = f"{language}.UTF-8"
+        self.desktop.run("localedef", "-i", language, "-f", "UTF-8", f"{self.desktop.folder}/{name}")
+        return {"LOCPATH": self.desktop.folder, "LC_ALL": name, "LANG": name}
+
+    def places(self, game):
+        """Console, first letter and field, from the console's corner."""
+        console = game.console()
+        x, y, width, height = console.rectangle
+        letter = console.character_rectangle(console.text.index("Given"))
+        return (width, height), *((left - x, top - y, *size) for left, top, *size in (letter, game.field().rectangle))

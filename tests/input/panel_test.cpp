@@ -97,16 +97,19 @@ TEST_F(Panel, takesTheApplicationsColoursWhateverTheContentHas)
     QPalette odd;
     odd.setColor(QPalette::WindowText, Qt::magenta);
     host->contentView()->setPalette(odd);
-    const ZRInputWindow panel(u"Enter:"_s, 10, 190);
+    ZRInputWindow panel(u"Enter:"_s, 10, 190);
     const QPalette before = QApplication::palette();
     EXPECT_EQ(panel.label()->palette().color(QPalette::WindowText), before.color(QPalette::WindowText));
 
     QPalette dark = before;
     dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Window, Qt::black);
     QApplication::setPalette(dark);
     QCoreApplication::processEvents();
     EXPECT_EQ(panel.label()->palette().color(QPalette::WindowText), QColor(Qt::white));
     EXPECT_EQ(panel.field()->palette().color(QPalette::Text), QColor(Qt::white));
+    const QImage seen = panel.grab().toImage();
+    EXPECT_LT(seen.pixelColor(seen.rect().center() + QPoint(0, 14)).lightness(), 40) << "the body";
     QApplication::setPalette(before);
 }
 
