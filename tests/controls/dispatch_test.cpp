@@ -1,9 +1,7 @@
 #include "tests/controls/site_helper.h"
 #include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/control_target.h>
-#include <tetrad/controls/outline_view.h>
 #include <tetrad/controls/table_view.h>
-#include <tetrad/controls/token_field.h>
 
 #include <QLineEdit>
 
@@ -223,26 +221,18 @@ qint64 ownDelegateCallback(Tag tag, qint64 event)
 TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
 {
     TableViewSC table;
-    OutlineViewSC outline;
-    TokenFieldSC token;
-    const std::pair<QObject *, std::function<qint64()>> rows[] = {
-        {&table, [&] { return CUI_TableViewDelegate::forwardEvent(&table, 5, 77); }},
-        {&outline, [&] { return CUI_OutlineViewDelegate::forwardEvent(&outline, 5, 77); }},
-        {&token, [&] { return CUI_TokenFieldDelegate::forwardEvent(&token, 5, 77); }},
-    };
-    for (const auto &[view, forward] : rows) {
-        setObjectTag(view, 9);
-        setObjectWindowTag(view, 7);
-        for (const bool own : {false, true}) {
-            takeSiteCalls();
-            CUI_OutputWindowSetTag(0);
-            ViewSetDelegateCallback(tagFromObject(view), own ? ownDelegateCallback : nullptr);
-            EXPECT_EQ(forward(), own ? 9005 : 1) << "the callee's result";
-            EXPECT_EQ(takeSiteCalls(), own ? QString() : u"5 9 7"_s);
-            EXPECT_EQ(CUI_OutputWindowTag(), 7);
-        }
-        EXPECT_EQ(lastObject, 77);
+    setObjectTag(&table, 9);
+    setObjectWindowTag(&table, 7);
+    for (const bool own : {false, true}) {
+        takeSiteCalls();
+        CUI_OutputWindowSetTag(0);
+        ViewSetDelegateCallback(tagFromObject(&table), own ? ownDelegateCallback : nullptr);
+        const qint64 result = CUI_TableViewDelegate::forwardEvent(&table, 5, 77);
+        EXPECT_EQ(result, own ? 9005 : 1) << "the callee's result";
+        EXPECT_EQ(takeSiteCalls(), own ? QString() : u"5 9 7"_s);
+        EXPECT_EQ(CUI_OutputWindowTag(), 7);
     }
+    EXPECT_EQ(lastObject, 77);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 // Implemented in runtime/controls/dispatch/control_target.cpp and event_site.cpp.
-#include <tetrad/controls/control_statements.h>
+#include <tetrad/events/tag.h>
 
 #include <QObject>
 #include <QString>
@@ -61,12 +61,27 @@ void sendControlAction(QWidget *control);
 /// and with the result of the function that was called.
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj);
 
-/// The callback that a table, outline or token field may have in place of the dialog function, called with the view's
-/// tag and the event (dynamic property "delegateCallback"); null when never set.
+/// The callback that a table, outline, split view or token field may have in place of the dialog function, called with
+/// the view's tag and the event (dynamic property "delegateCallback"); null when never set.
 using DelegateCallback = qint64 (*)(Tag tag, qint64 event);
 DelegateCallback delegateCallback(const QObject *view);
 /// Null takes the callback out again. A missing view shows an alert.
 void ViewSetDelegateCallback(Tag tag, DelegateCallback callback);
+
+/// A delegate that reports what happens to a view to the view's delegate callback, else, with |object|, to the dialog
+/// function. Returns the callee's result.
+class ForwardingDelegate
+{
+public:
+    static qint64 forwardEvent(const QObject *view, qint64 event, Tag object);
+};
+
+/// A delegate that always calls the dialog function.
+class DialogFunctionDelegate
+{
+public:
+    static void callUserDefinedOnDialogFunctionWithEvent(const QObject *view, qint64 event, Tag object);
+};
 
 } // namespace tetrad
 

@@ -1,7 +1,7 @@
 #pragma once
 
 // Implemented in runtime/controls/views/outline_view.cpp.
-#include <tetrad/events/tag.h>
+#include <tetrad/controls/control_target.h>
 
 #include <QRectF>
 #include <QStringList>
@@ -9,8 +9,6 @@
 #include <QVariant>
 
 namespace tetrad {
-
-class SelectionGate;
 
 /// An item of an outline: a value of the program's own, which every question about the item carries.
 class OutlineItem : public QTreeWidgetItem
@@ -46,25 +44,16 @@ public:
     QVariant selectedObject() const;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
 private:
     void loadChildren(const QPersistentModelIndex &parent, const QVariant &parentObject);
     bool addChild(const QPersistentModelIndex &parent, const QVariant &object);
     void open(const QPersistentModelIndex &index);
-    void forwardSoon(qint64 event, const QVariant &object);
-
-    SelectionGate *m_gate = nullptr;
 };
 
-/// Reports what happens to outlines and asks for their items: to the view's delegate callback, else to the
-/// dialog function.
-class CUI_OutlineViewDelegate
-{
-public:
-    static qint64 forwardEvent(OutlineViewSC *outlineView, qint64 event, Tag object);
-};
+class CUI_OutlineViewDelegate : public ForwardingDelegate
+{};
 
 /// The outline statement. An empty list leaves the columns there; the items are asked for as soon as control is back
 /// in the event loop.

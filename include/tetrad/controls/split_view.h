@@ -37,17 +37,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    struct Target
-    {
-        int position = 0;
-        // The subview that loses all its room there, or -1.
-        int collapsing = -1;
-    };
-
     void layOut();
-    Target constrained(int position, int divider);
-    Target collapsedOr(int position, int divider, int least, int most);
-    void move(const Target &target, int divider);
+    int constrained(int position, int divider);
     int edgeBefore(int divider) const;
     int edgeAfter(int divider) const;
     void hideDividers();

@@ -1,15 +1,13 @@
 #pragma once
 
 // Implemented in runtime/controls/views/table_view.cpp.
-#include <tetrad/events/tag.h>
+#include <tetrad/controls/control_target.h>
 
 #include <QRectF>
 #include <QStringList>
 #include <QTableWidget>
 
 namespace tetrad {
-
-class SelectionGate;
 
 /// A table whose contents the program answers: reloadData asks (codes 1700 to 1709, and 4200 and 4300 for the
 /// headers) how many rows there are and what each cell contains, and keeps the answers until the next time. The
@@ -29,25 +27,16 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
 private:
     void reloadHeader(int column);
     void reloadRow(int row);
     void reportEdit(int row, int column);
-
-    SelectionGate *m_gate = nullptr;
-    bool m_isReloading = false;
 };
 
-/// Reports what happens to tables and asks for their contents: to the view's delegate callback, else to the
-/// dialog function.
-class CUI_TableViewDelegate
-{
-public:
-    static qint64 forwardEvent(TableViewSC *tableView, qint64 event, Tag object);
-};
+class CUI_TableViewDelegate : public ForwardingDelegate
+{};
 
 /// One row of a table while it draws; its events carry the table's tag.
 class TableRowViewSC

@@ -1,14 +1,13 @@
 #pragma once
 
 // Implemented in runtime/controls/views/token_field.cpp.
-#include <tetrad/events/tag.h>
+#include <tetrad/controls/control_target.h>
 
 #include <QLineEdit>
 #include <QRectF>
 #include <QStringList>
 
 class QCompleter;
-class QStringListModel;
 
 namespace tetrad {
 
@@ -43,16 +42,11 @@ private:
     QString wordBeingTyped() const;
 
     QStringList m_tokens;
-    QStringListModel *m_completions = nullptr;
     QCompleter *m_completer = nullptr;
 };
 
-/// Reports what happens to token fields: to the view's delegate callback, else to the dialog function.
-class CUI_TokenFieldDelegate
-{
-public:
-    static qint64 forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object);
-};
+class CUI_TokenFieldDelegate : public ForwardingDelegate
+{};
 
 /// The token field statement. An empty list leaves the words there.
 void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect);

@@ -3,6 +3,7 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/events/current_event.h"
 #include <tetrad/app/windows.h>
+#include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/event_codes.h>
 
@@ -79,15 +80,9 @@ void ControlSetActionID(Tag tag, qint64 id)
 
 void sendControlAction(QWidget *control)
 {
-    const QString name = controlActionName(control);
-    const QByteArray method = name.endsWith(u':') ? name.chopped(1).toUtf8() : name.toUtf8();
-    const QByteArray signature = method + "(QWidget*)";
-    QObject *const target = CUI_ControlTargetObj();
-    if (target->metaObject()->indexOfMethod(signature.constData()) < 0) {
-        qWarning("control %lld: no action \"%s\"", objectTag(control), qUtf8Printable(name));
-        return;
-    }
-    QMetaObject::invokeMethod(target, method.constData(), Qt::DirectConnection, Q_ARG(QWidget *, control));
+    const QByteArray name = controlActionName(control).toUtf8();
+    const QByteArray method = name.endsWith(':') ? name.chopped(1) : name;
+    QMetaObject::invokeMethod(CUI_ControlTargetObj(), method, Qt::DirectConnection, Q_ARG(QWidget *, control));
 }
 
 ControlCallback cuiControlCallback(const QObject *control)

@@ -7,8 +7,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QVariant>
+#include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tetrad {
 
@@ -63,19 +65,29 @@ void ViewSetDelegateCallback(Tag tag, DelegateCallback callback)
     }
 }
 
-qint64 forwardDelegateEvent(const QObject *view, qint64 event, Tag obj)
+qint64 ForwardingDelegate::forwardEvent(const QObject *view, qint64 event, Tag object)
 {
     const DelegateCallback callback = delegateCallback(view);
     if (!callback) {
-        return sendObjectEvent(view, event, obj);
+        return sendObjectEvent(view, event, object);
     }
     CUI_OutputWindowSetTag(objectWindowTag(view));
     return callback(objectTag(view), event);
 }
 
+void DialogFunctionDelegate::callUserDefinedOnDialogFunctionWithEvent(const QObject *view, qint64 event, Tag object)
+{
+    sendObjectEvent(view, event, object);
+}
+
 int countAnswer(const QObject *object, qint64 event)
 {
     return std::max(0, saturatedTo<int>(answerTo(object, event, &CUI_DialogEvent::longVal, qint64(0))));
+}
+
+int wholePixels(double answer)
+{
+    return std::clamp(saturatedTo<int>(std::round(answer)), -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
 void watchInput()

@@ -24,10 +24,9 @@ inline qint64 sendObjectEvent(const QObject *object, qint64 event)
 }
 
 /// As sendObjectEvent, but to the view's delegate callback when it has one.
-qint64 forwardDelegateEvent(const QObject *view, qint64 event, Tag obj);
 inline qint64 forwardDelegateEvent(const QObject *view, qint64 event)
 {
-    return forwardDelegateEvent(view, event, tagFromObject(view));
+    return ForwardingDelegate::forwardEvent(view, event, tagFromObject(view));
 }
 
 /// Sends a question about the object, to its delegate callback when it has one: presets a field of the record and
@@ -48,6 +47,16 @@ inline bool answersYes(const QObject *object, qint64 event)
 
 /// A number of rows or children that the program answers, preset to 0; a negative one counts as 0.
 int countAnswer(const QObject *object, qint64 event);
+
+/// A position or length in pixels that the program answers, rounded. One farther than any widget reaches, as programs
+/// answer for "anywhere", counts as that far; NaN counts as 0.
+int wholePixels(double answer);
+
+template <typename Real>
+int pixelAnswer(const QObject *object, qint64 event, Real CUI_DialogEvent::*field, int preset)
+{
+    return wholePixels(answerTo(object, event, field, Real(preset)));
+}
 
 /// Begins to keep a copy of the last mouse, wheel or key event delivered to the application, since a control may act
 /// on it later. Only the first call does something.

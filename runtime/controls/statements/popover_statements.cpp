@@ -17,19 +17,6 @@ namespace {
 
 constexpr char asksKey[] = "popoverAsks";
 
-void report(Popover *popover, qint64 event)
-{
-    setObjectWindowTag(popover, popover->tag());
-    sendObjectEvent(popover, event);
-}
-
-bool answersYesTo(Popover *popover, qint64 event)
-{
-    CUI_DialogEventObj()->boolVal = false;
-    report(popover, event);
-    return CUI_DialogEventObj()->boolVal;
-}
-
 bool asks(const Popover *popover)
 {
     return popover->property(asksKey).toBool();
@@ -70,12 +57,12 @@ private:
     void detach(const QPoint &distance)
     {
         const QPointer<Popover> guard(m_popover);
-        if (!asks(m_popover) || !answersYesTo(m_popover, popoverEventShouldDetach) || !guard) {
+        if (!asks(m_popover) || !answersYes(m_popover, popoverEventShouldDetach) || !guard) {
             return;
         }
         const QPoint position = m_popover->pos() + distance;
         CUI_DialogEventObj()->viewObj = nullptr;
-        report(m_popover, popoverEventDetachableWindow);
+        sendObjectEvent(m_popover, popoverEventDetachableWindow);
         if (!guard) {
             return;
         }
@@ -89,7 +76,7 @@ private:
             m_popover->move(position);
             m_popover->show();
         }
-        report(m_popover, popoverEventDidDetach);
+        sendObjectEvent(m_popover, popoverEventDidDetach);
     }
 
     Popover *m_popover = nullptr;
@@ -99,7 +86,7 @@ private:
 void reportPopoverEvents(Popover *popover)
 {
     const auto reports = [popover](auto signal, qint64 event) {
-        QObject::connect(popover, signal, popover, [popover, event] { report(popover, event); });
+        QObject::connect(popover, signal, popover, [popover, event] { sendObjectEvent(popover, event); });
     };
     reports(&Popover::willShow, popoverEventWillShow);
     reports(&Popover::didShow, popoverEventDidShow);
@@ -107,7 +94,7 @@ void reportPopoverEvents(Popover *popover)
     reports(&Popover::didClose, popoverEventDidClose);
     QObject::connect(popover, &Popover::shouldClose, popover, [popover](bool *answer) {
         if (asks(popover)) {
-            *answer = answersYesTo(popover, popoverEventShouldClose);
+            *answer = answersYes(popover, popoverEventShouldClose);
         }
     });
     new PopoverDetacher(popover);
@@ -147,6 +134,7 @@ void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
     Popover *popover = CUI_PopoverWithTag(popoverTag);
     if (!popover) {
         popover = new Popover(popoverTag, contentSize.isEmpty() ? QSize(200, 100) : contentSize.toSize());
+        setObjectWindowTag(popover, popoverTag);
         reportPopoverEvents(popover);
     } else if (!contentSize.isEmpty()) {
         popover->contentView()->setFixedSize(contentSize.toSize());

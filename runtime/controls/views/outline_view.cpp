@@ -38,9 +38,10 @@ QString text(OutlineViewSC *outlineView, const QVariant &item, int column)
     return answerTo(outlineView, outlineViewEventText, &CUI_DialogEvent::stringObj, QString());
 }
 
-void forward(OutlineViewSC *outlineView, qint64 event)
+void report(OutlineViewSC *outlineView, qint64 event, const QVariant &item)
 {
-    CUI_OutlineViewDelegate::forwardEvent(outlineView, event, tagFromObject(outlineView));
+    CUI_DialogEventObj()->object = item;
+    forwardDelegateEvent(outlineView, event);
 }
 
 } // namespace
@@ -48,18 +49,19 @@ void forward(OutlineViewSC *outlineView, qint64 event)
 OutlineViewSC::OutlineViewSC(QWidget *parent) : QTreeWidget(parent)
 {
     header()->setSectionsClickable(true);
-    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        callSoon(this, [this, column] {
-            CUI_DialogEventObj()->tableColumnObj = column;
-            forward(this, outlineViewEventColumnClicked);
-        });
-    });
+    const auto reportClick = [this](int column) {
+        CUI_DialogEventObj()->tableColumnObj = column;
+        forwardDelegateEvent(this, outlineViewEventColumnClicked);
+    };
+    connect(header(), &QHeaderView::sectionClicked, this, reportClick, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) {
         callSoon(this, [this, index = QPersistentModelIndex(indexFromItem(item))] { open(index); });
     });
-    connect(this, &QTreeWidget::itemCollapsed, this,
-            [this](QTreeWidgetItem *item) { forwardSoon(outlineViewEventDidCollapse, outlineItem(item)->object()); });
-    m_gate = new SelectionGate(this, [this](const QModelIndex &item) {
+    connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) {
+        callSoon(this,
+                 [this, object = outlineItem(item)->object()] { report(this, outlineViewEventDidCollapse, object); });
+    });
+    new SelectionGate(this, [this](const QModelIndex &item) {
         CUI_DialogEventObj()->object = outlineItem(itemFromIndex(item))->object();
         return answersYes(this, outlineViewEventRefuseSelectItem);
     });
@@ -77,43 +79,40 @@ QVariant OutlineViewSC::selectedObject() const
     return items.isEmpty() ? QVariant() : outlineItem(items.constFirst())->object();
 }
 
-// A callback may reload the view, which takes the parent away.
+// A callback may delete the view or reload it, which deletes the parent.
 void OutlineViewSC::loadChildren(const QPersistentModelIndex &parent, const QVariant &parentObject)
 {
     const QPointer<OutlineViewSC> guard(this);
-    const bool isRoot = !parent.isValid();
+    const auto parentExists = [&guard, &parent, isRoot = !parent.isValid()] {
+        return isRoot ? !guard.isNull() : parent.isValid();
+    };
     const int count = childCount(this, parentObject);
-    for (int index = 0; guard && index < count && (isRoot || parent.isValid()); ++index) {
+    for (int index = 0; parentExists() && index < count; ++index) {
         const QVariant object = child(this, index, parentObject);
-        if (!guard || (!isRoot && !parent.isValid()) || !addChild(parent, object)) {
+        if (!parentExists() || !addChild(parent, object)) {
             return;
         }
     }
 }
 
-// False when the new item, or the view, did not live through the questions about it.
+// False when a callback deleted the new item.
 bool OutlineViewSC::addChild(const QPersistentModelIndex &parent, const QVariant &object)
 {
     auto *const item = new OutlineItem(object);
-    QTreeWidgetItem *const parentItem = parent.isValid() ? itemFromIndex(parent) : invisibleRootItem();
-    parentItem->addChild(item);
+    (parent.isValid() ? itemFromIndex(parent) : invisibleRootItem())->addChild(item);
     const QPersistentModelIndex index(indexFromItem(item));
-    const QPointer<OutlineViewSC> guard(this);
-    for (int column = 0; guard && index.isValid() && column < columnCount(); ++column) {
+    for (int column = 0; index.isValid() && column < columnCount(); ++column) {
         const QString answer = text(this, object, column);
-        if (guard && index.isValid()) {
+        if (index.isValid()) {
             item->setText(column, answer);
         }
     }
-    if (!guard || !index.isValid()) {
-        return false;
+    const int children = index.isValid() ? childCount(this, object) : 0;
+    if (index.isValid()) {
+        item->setChildIndicatorPolicy(children > 0 ? QTreeWidgetItem::ShowIndicator
+                                                   : QTreeWidgetItem::DontShowIndicator);
     }
-    const int children = childCount(this, object);
-    if (!guard || !index.isValid()) {
-        return false;
-    }
-    item->setChildIndicatorPolicy(children > 0 ? QTreeWidgetItem::ShowIndicator : QTreeWidgetItem::DontShowIndicator);
-    return true;
+    return index.isValid();
 }
 
 void OutlineViewSC::open(const QPersistentModelIndex &index)
@@ -129,38 +128,14 @@ void OutlineViewSC::open(const QPersistentModelIndex &index)
         loadChildren(index, object);
     }
     if (guard) {
-        CUI_DialogEventObj()->object = object;
-        forward(this, outlineViewEventDidExpand);
-    }
-}
-
-void OutlineViewSC::keyPressEvent(QKeyEvent *event)
-{
-    if (m_gate->letsKey(event)) {
-        QTreeWidget::keyPressEvent(event);
+        report(this, outlineViewEventDidExpand, object);
     }
 }
 
 void OutlineViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTreeWidget::selectionChanged(selected, deselected);
-    callSoon(this, [this] {
-        CUI_DialogEventObj()->object = selectedObject();
-        forward(this, outlineViewEventSelectionChanged);
-    });
-}
-
-void OutlineViewSC::forwardSoon(qint64 event, const QVariant &object)
-{
-    callSoon(this, [this, event, object] {
-        CUI_DialogEventObj()->object = object;
-        forward(this, event);
-    });
-}
-
-qint64 CUI_OutlineViewDelegate::forwardEvent(OutlineViewSC *outlineView, qint64 event, Tag object)
-{
-    return forwardDelegateEvent(outlineView, event, object);
+    callSoon(this, [this] { report(this, outlineViewEventSelectionChanged, selectedObject()); });
 }
 
 void CUI_OutlineView(Tag tag, const QStringList &columns, const QRectF &rect)

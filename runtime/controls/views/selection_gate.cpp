@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTreeView>
 
+#include <algorithm>
 #include <utility>
 
 namespace tetrad {
@@ -31,10 +32,10 @@ struct Lender : QAbstractItemView
     }
 };
 
-bool edits(const QKeyEvent &event)
+bool editsOrLeaves(const QKeyEvent &event)
 {
-    return event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
-           event.modifiers() & Qt::ControlModifier;
+    static constexpr Qt::Key keys[] = {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab};
+    return std::ranges::count(keys, event.key()) > 0 || event.modifiers() & Qt::ControlModifier;
 }
 
 // In an outline Left and Right first of all open and close.
@@ -50,14 +51,16 @@ bool opensOrCloses(const QAbstractItemView *view, const QKeyEvent &event)
 SelectionGate::SelectionGate(QAbstractItemView *view, Refuses refuses)
     : QObject(view), m_view(view), m_refuses(std::move(refuses))
 {
+    view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
 }
 
+// A key that moves the selection, if the program lets it, and those that select nothing.
 bool SelectionGate::letsKey(QKeyEvent *event)
 {
     const auto [moves, target] = Lender::target(m_view, *event);
     if (!moves) {
-        event->setAccepted(edits(*event));
+        event->setAccepted(editsOrLeaves(*event));
         return event->isAccepted();
     }
     return opensOrCloses(m_view, *event) || lets(target);
@@ -67,6 +70,8 @@ bool SelectionGate::eventFilter(QObject *watched, QEvent *event)
 {
     const auto position = [event] { return static_cast<QMouseEvent *>(event)->position().toPoint(); };
     switch (event->type()) {
+    case QEvent::KeyPress:
+        return !letsKey(static_cast<QKeyEvent *>(event));
     case QEvent::MouseButtonPress:
         return !letsPress(position());
     case QEvent::MouseMove:

@@ -19,14 +19,12 @@ public:
 
     SelectionGate(QAbstractItemView *view, Refuses refuses);
 
-    /// Whether the view may handle the key: one that moves the selection, if the program lets it, and those that edit.
-    bool letsKey(QKeyEvent *event);
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     bool lets(const QModelIndex &item);
+    bool letsKey(QKeyEvent *event);
     bool letsPress(const QPoint &position);
     bool letsDrag(const QPoint &position);
 

@@ -3,10 +3,11 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include "runtime/controls/views/pixel_answer.h"
-#include "runtime/controls/views/split_divider.h"
+#include "runtime/strings/saturate.h"
 #include <tetrad/events/event_codes.h>
 
+#include <QMouseEvent>
+#include <QPainter>
 #include <QResizeEvent>
 
 #include <algorithm>
@@ -19,7 +20,7 @@ namespace {
 int askCoordinate(const SplitViewSC *view, qint64 event, int divider, int proposal)
 {
     CUI_DialogEventObj()->longVal = divider;
-    return wholePixels(answerTo(view, event, &CUI_DialogEvent::floatVal, float(proposal)));
+    return pixelAnswer(view, event, &CUI_DialogEvent::floatVal, proposal);
 }
 
 bool askAboutIndex(const SplitViewSC *view, qint64 event, int index)
@@ -27,6 +28,70 @@ bool askAboutIndex(const SplitViewSC *view, qint64 event, int index)
     CUI_DialogEventObj()->longVal = index;
     return answersYes(view, event);
 }
+
+int along(Qt::Orientation orientation, const QPoint &point)
+{
+    return orientation == Qt::Horizontal ? point.x() : point.y();
+}
+
+// The bar between two subviews, which drags through SplitViewSC::setPosition and draws what the program asks for.
+class SplitDivider : public QSplitterHandle
+{
+public:
+    SplitDivider(Qt::Orientation orientation, SplitViewSC *splitView)
+        : QSplitterHandle(orientation, splitView), m_splitView(splitView)
+    {}
+
+    // A hidden divider draws nothing and cannot be dragged.
+    void setHiddenByProgram(bool hidden)
+    {
+        m_isHiddenByProgram = hidden;
+        setAttribute(Qt::WA_TransparentForMouseEvents, hidden);
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (m_isHiddenByProgram) {
+            return;
+        }
+        CUI_DialogEventObj()->rectVal = rect();
+        CUI_DialogEventObj()->viewObj = this;
+        CUI_DialogEventObj()->longVal = index();
+        if (answersYes(m_splitView, splitViewEventDrawDivider)) {
+            return;
+        }
+        if (m_splitView->dividerColor().isValid()) {
+            QPainter(this).fillRect(event->rect(), m_splitView->dividerColor());
+        } else {
+            QSplitterHandle::paintEvent(event);
+        }
+    }
+
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        m_grip = along(orientation(), event->position().toPoint());
+        QSplitterHandle::mousePressEvent(event);
+    }
+
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        if (event->buttons() & Qt::LeftButton) {
+            const QPoint position = m_splitView->mapFromGlobal(event->globalPosition().toPoint());
+            m_splitView->setPosition(along(orientation(), position) - m_grip, index());
+        }
+    }
+
+private:
+    // The platform also counts one before the first subview, which is never seen.
+    int index() { return m_splitView->indexOf(this) - 1; }
+
+    SplitViewSC *m_splitView = nullptr;
+    // Where in the divider it was taken hold of.
+    int m_grip = 0;
+    bool m_isHiddenByProgram = false;
+};
 
 } // namespace
 
@@ -40,7 +105,7 @@ SplitViewSC::SplitViewSC(QWidget *parent) : QSplitter(parent)
 int SplitViewSC::position(int divider) const
 {
     const QWidget *const bar = divider >= 0 && divider < count() - 1 ? handle(divider + 1) : nullptr;
-    return !bar ? 0 : orientation() == Qt::Horizontal ? bar->x() : bar->y();
+    return bar ? along(orientation(), bar->pos()) : 0;
 }
 
 void SplitViewSC::setPosition(int position, int divider)
@@ -49,63 +114,48 @@ void SplitViewSC::setPosition(int position, int divider)
         return;
     }
     const QPointer<SplitViewSC> guard(this);
-    const Target target = constrained(position, divider);
-    if (!guard || target.position == this->position(divider)) {
+    position = constrained(position, divider);
+    if (!guard || position == this->position(divider)) {
         return;
     }
     forwardDelegateEvent(this, splitViewEventWillResizeSubviews);
     if (!guard || divider + 1 >= count()) {
         return;
     }
-    move(target, divider);
+    // At an edge, a subview that can collapse does.
+    setChildrenCollapsible(true);
+    moveSplitter(position, divider + 1);
+    setChildrenCollapsible(false);
     forwardDelegateEvent(this, splitViewEventDidResizeSubviews);
     if (guard) {
         hideDividers();
     }
 }
 
-void SplitViewSC::move(const Target &target, int divider)
-{
-    if (target.collapsing >= 0) {
-        setCollapsible(target.collapsing, true);
-    }
-    moveSplitter(target.position, divider + 1);
-    if (target.collapsing >= 0) {
-        setCollapsible(target.collapsing, false);
-    }
-}
-
-// Where the program lets the divider go; any answer when the view is gone.
-SplitViewSC::Target SplitViewSC::constrained(int position, int divider)
+// Where the program lets the divider go; any answer when the view is gone. Only a subview that can collapse loses more
+// room than its smallest size allows.
+int SplitViewSC::constrained(int position, int divider)
 {
     const QPointer<SplitViewSC> guard(this);
-    int least = 0;
-    int most = 0;
-    getRange(divider + 1, &least, &most);
-    least = askCoordinate(this, splitViewEventConstrainMinCoordinate, divider, least);
-    if (guard) {
-        most = askCoordinate(this, splitViewEventConstrainMaxCoordinate, divider, most);
+    int smallest = 0;
+    int largest = 0;
+    getRange(divider + 1, &smallest, &largest);
+    const int least = askCoordinate(this, splitViewEventConstrainMinCoordinate, divider, smallest);
+    const int most = guard ? askCoordinate(this, splitViewEventConstrainMaxCoordinate, divider, largest) : 0;
+    position = guard ? askCoordinate(this, splitViewEventConstrainSplitPosition, divider, position) : 0;
+    if (!guard) {
+        return 0;
     }
-    if (guard) {
-        position = askCoordinate(this, splitViewEventConstrainSplitPosition, divider, position);
-    }
-    return guard ? collapsedOr(position, divider, least, most) : Target{};
-}
-
-SplitViewSC::Target SplitViewSC::collapsedOr(int position, int divider, int least, int most)
-{
-    const QPointer<SplitViewSC> guard(this);
     const int before = edgeBefore(divider);
     const int after = edgeAfter(divider);
     const bool leading = position < (before + least) / 2;
     const bool trailing = !leading && position > (after + most) / 2;
-    if (leading || trailing) {
-        const int subview = leading ? divider : divider + 1;
-        if (askAboutIndex(this, splitViewEventCanCollapseSubview, subview) && guard && subview < count()) {
-            return {leading ? before : after, subview};
-        }
+    const int subview = leading ? divider : divider + 1;
+    if ((leading || trailing) && askAboutIndex(this, splitViewEventCanCollapseSubview, subview) && guard &&
+        subview < count()) {
+        return leading ? before : after;
     }
-    return {std::max(least, std::min(position, most))};
+    return std::max({least, smallest, std::min({position, most, largest})});
 }
 
 // Where the subview before a divider begins, and where the divider stands when the one behind it has no room.
@@ -116,7 +166,7 @@ int SplitViewSC::edgeBefore(int divider) const
 
 int SplitViewSC::edgeAfter(int divider) const
 {
-    const int length = orientation() == Qt::Horizontal ? width() : height();
+    const int length = along(orientation(), QPoint(width(), height()));
     return (divider + 2 < count() ? position(divider + 1) : length) - handleWidth();
 }
 
@@ -128,11 +178,9 @@ void SplitViewSC::askAboutDividers()
         return;
     }
     m_dividerColor = color;
-    const auto width = float(handleWidth());
-    const int thickness =
-        wholePixels(answerTo(this, splitViewEventDividerThickness, &CUI_DialogEvent::floatVal, width));
+    const int thickness = pixelAnswer(this, splitViewEventDividerThickness, &CUI_DialogEvent::floatVal, handleWidth());
     if (guard) {
-        if (thickness >= 0 && thickness != handleWidth()) {
+        if (thickness >= 0) {
             setHandleWidth(thickness);
         }
         update();

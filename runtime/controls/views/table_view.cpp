@@ -3,8 +3,8 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include "runtime/controls/views/pixel_answer.h"
 #include "runtime/controls/views/selection_gate.h"
+#include "runtime/strings/saturate.h"
 #include <tetrad/events/event_codes.h>
 
 #include <QHeaderView>
@@ -32,9 +32,11 @@ void setCell(int row, int column)
     setColumn(column);
 }
 
-void forward(TableViewSC *tableView, qint64 event)
+template <typename Field>
+Field cellAnswer(const TableViewSC *view, qint64 event, int row, int column, Field CUI_DialogEvent::*field)
 {
-    CUI_TableViewDelegate::forwardEvent(tableView, event, tagFromObject(tableView));
+    setCell(row, column);
+    return answerTo(view, event, field, Field());
 }
 
 } // namespace
@@ -45,14 +47,13 @@ TableViewSC::TableViewSC(QWidget *parent) : QTableWidget(parent)
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
-        callSoon(this, [this, column] {
-            setColumn(column);
-            forward(this, tableViewEventColumnClicked);
-        });
-    });
+    const auto reportClick = [this](int column) {
+        setColumn(column);
+        forwardDelegateEvent(this, tableViewEventColumnClicked);
+    };
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, reportClick, Qt::QueuedConnection);
     connect(this, &QTableWidget::cellChanged, this, &TableViewSC::reportEdit);
-    m_gate = new SelectionGate(this, [this](const QModelIndex &item) {
+    new SelectionGate(this, [this](const QModelIndex &item) {
         setRow(item.row());
         return answersYes(this, tableViewEventRefuseSelectRow);
     });
@@ -99,23 +100,19 @@ void TableViewSC::reloadRow(int row)
 {
     const QPointer<TableViewSC> guard(this);
     setRow(row);
-    const double preset = rowHeight(row);
-    const double height = answerTo(this, tableViewEventRowHeight, &CUI_DialogEvent::doubleVal, preset);
+    const int height = pixelAnswer(this, tableViewEventRowHeight, &CUI_DialogEvent::doubleVal, rowHeight(row));
     if (guard) {
-        setRowHeight(row, wholePixels(height));
+        setRowHeight(row, height);
     }
     for (int column = 0; guard && column < columnCount(); ++column) {
-        setCell(row, column);
-        const QVariant value = answerTo(this, tableViewEventValue, &CUI_DialogEvent::object, QVariant());
-        setCell(row, column);
-        const bool edits = guard && answersYes(this, tableViewEventShouldEdit);
-        setCell(row, column);
-        const QPointer<QObject> none;
-        const auto view = guard ? answerTo(this, tableViewEventViewForCell, &CUI_DialogEvent::viewObj, none) : none;
+        const auto value = cellAnswer(this, tableViewEventValue, row, column, &CUI_DialogEvent::object);
+        const auto edits = guard && cellAnswer(this, tableViewEventShouldEdit, row, column, &CUI_DialogEvent::boolVal);
+        const auto view =
+            guard ? cellAnswer(this, tableViewEventViewForCell, row, column, &CUI_DialogEvent::viewObj) : nullptr;
         if (!guard || row >= rowCount()) {
             return;
         }
-        m_isReloading = true;
+        const QSignalBlocker blocker(this);
         auto *const item = new QTableWidgetItem;
         item->setData(Qt::EditRole, value);
         item->setFlags(item->flags().setFlag(Qt::ItemIsEditable, edits));
@@ -123,7 +120,6 @@ void TableViewSC::reloadRow(int row)
         if (view != cellWidget(row, column)) {
             setCellWidget(row, column, qobject_cast<QWidget *>(view));
         }
-        m_isReloading = false;
     }
 }
 
@@ -135,43 +131,28 @@ void TableViewSC::paintEvent(QPaintEvent *event)
     QTableWidget::paintEvent(event);
 }
 
-void TableViewSC::keyPressEvent(QKeyEvent *event)
-{
-    if (m_gate->letsKey(event)) {
-        QTableWidget::keyPressEvent(event);
-    }
-}
-
 void TableViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTableWidget::selectionChanged(selected, deselected);
     callSoon(this, [this] {
         setRow(selectedRow());
-        forward(this, tableViewEventSelectionChanged);
+        forwardDelegateEvent(this, tableViewEventSelectionChanged);
     });
 }
 
 void TableViewSC::reportEdit(int row, int column)
 {
-    if (m_isReloading) {
-        return;
-    }
     const QVariant value = item(row, column)->data(Qt::EditRole);
     callSoon(this, [this, value, row, column] {
         setCell(row, column);
         CUI_DialogEventObj()->object = value;
-        forward(this, tableViewEventDidEdit);
+        forwardDelegateEvent(this, tableViewEventDidEdit);
     });
-}
-
-qint64 CUI_TableViewDelegate::forwardEvent(TableViewSC *tableView, qint64 event, Tag object)
-{
-    return forwardDelegateEvent(tableView, event, object);
 }
 
 qint64 TableRowViewSC::forwardEvent(qint64 event)
 {
-    return CUI_TableViewDelegate::forwardEvent(m_tableView, event, tagFromObject(m_tableView));
+    return forwardDelegateEvent(m_tableView, event);
 }
 
 void TableRowViewSC::drawBackground()

@@ -5,7 +5,6 @@
 #include "runtime/controls/statements/view_statement.h"
 #include <tetrad/events/event_codes.h>
 
-#include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>
 #include <QStringListModel>
@@ -15,12 +14,6 @@ namespace tetrad {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString &separator()
-{
-    static const QString text = u", "_s;
-    return text;
-}
 
 QStringList wordsOf(const QString &text)
 {
@@ -43,20 +36,19 @@ QStringList answeredWords(TokenFieldSC *tokenField, qint64 event, const QStringL
 
 TokenFieldSC::TokenFieldSC(QWidget *parent) : QLineEdit(parent)
 {
-    m_completions = new QStringListModel(this);
-    m_completer = new QCompleter(m_completions, this);
+    m_completer = new QCompleter(QStringList(), this);
     // The program's list is shown as it is.
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setWidget(this);
     connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this, &TokenFieldSC::complete);
-    connect(this, &QLineEdit::textEdited, this, [this] { callSoon(this, [this] { textWasEdited(); }); });
-    connect(this, &QLineEdit::returnPressed, this, [this] { callSoon(this, [this] { finishEditing(); }); });
+    connect(this, &QLineEdit::textEdited, this, &TokenFieldSC::textWasEdited, Qt::QueuedConnection);
+    connect(this, &QLineEdit::returnPressed, this, &TokenFieldSC::finishEditing, Qt::QueuedConnection);
 }
 
 void TokenFieldSC::setTokens(const QStringList &tokens)
 {
     m_tokens = tokens;
-    setText(tokens.isEmpty() ? QString() : QString(tokens.join(separator()) + separator()));
+    setText(tokens.isEmpty() ? QString() : QString(tokens.join(u", "_s) + u", "_s));
 }
 
 void TokenFieldSC::setTokenText(const QString &text)
@@ -125,12 +117,9 @@ void TokenFieldSC::offerCompletions()
     if (!guard) {
         return;
     }
-    m_completions->setStringList(offers);
-    if (offers.isEmpty()) {
-        m_completer->popup()->hide();
-    } else {
-        m_completer->complete();
-    }
+    qobject_cast<QStringListModel *>(m_completer->model())->setStringList(offers);
+    // Without offers this hides the list.
+    m_completer->complete();
 }
 
 void TokenFieldSC::complete(const QString &completion)
@@ -143,11 +132,6 @@ QString TokenFieldSC::wordBeingTyped() const
 {
     const QString word = text().section(u',', -1);
     return word.startsWith(u' ') ? word.mid(1) : word;
-}
-
-qint64 CUI_TokenFieldDelegate::forwardEvent(TokenFieldSC *tokenField, qint64 event, Tag object)
-{
-    return forwardDelegateEvent(tokenField, event, object);
 }
 
 void CUI_TokenField(Tag tag, const QStringList &tokens, const QRectF &rect)
