@@ -1,6 +1,7 @@
 #include "tests/controls/site_helper.h"
 #include <tetrad/controls/tab_view.h>
 
+#include <QTabBar>
 #include <QWheelEvent>
 
 using namespace tetrad;

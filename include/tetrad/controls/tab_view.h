@@ -1,11 +1,10 @@
 #pragma once
 
 // Implemented in runtime/controls/views/tab_view.cpp.
-#include <tetrad/events/tag.h>
+#include <tetrad/controls/control_target.h>
 
 #include <QRectF>
 #include <QStringList>
-#include <QTabBar>
 #include <QTabWidget>
 
 namespace tetrad {
@@ -35,31 +34,8 @@ private:
     void forwardItem(qint64 event, int index);
 };
 
-/// The tabs of a tab view, where the user selects.
-class TabViewBar : public QTabBar
-{
-    Q_OBJECT
-
-public:
-    explicit TabViewBar(TabViewSC *tabView);
-
-protected:
-    void mousePressEvent(QMouseEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-
-private:
-    int nextEnabled(int step) const;
-
-    TabViewSC *m_tabView = nullptr;
-};
-
-/// Reports what happens to tab views, always to the dialog function.
-class CUI_TabViewDelegate
-{
-public:
-    static void callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object);
-};
+class CUI_TabViewDelegate : public DialogFunctionDelegate
+{};
 
 /// The tab view statement. Tabs beyond those there are added, tabs there get the labels; a null list leaves them.
 void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect);

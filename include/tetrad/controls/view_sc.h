@@ -1,7 +1,6 @@
 #pragma once
 
-// Implemented in runtime/controls/views/view_sc.cpp and visual_effect_view.cpp.
-
+// Implemented in runtime/controls/views/view_sc.cpp.
 #include <tetrad/app/content_view.h>
 #include <tetrad/events/tag.h>
 
@@ -50,7 +49,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    void confirmFocus(bool forward);
+    void confirmFocus(const QPointer<ViewSC> &start, bool forward);
 
     QPointer<QMenu> m_menu;
     QStringList m_draggedTypes;

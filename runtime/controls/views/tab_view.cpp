@@ -8,11 +8,80 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTabBar>
 #include <QWheelEvent>
 
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A shortcut taken from an ampersand would select without asking.
+QString plainLabel(QString label)
+{
+    return label.replace(u'&', u"&&"_s);
+}
+
+void insertTab(TabViewSC *tabView, int index, const QString &label)
+{
+    auto *const page = new QWidget;
+    setObjectWindowTag(page, objectWindowTag(tabView));
+    tabView->insertTab(index, page, plainLabel(label));
+}
+
+// The tabs of a tab view, where the user selects.
+class TabViewBar : public QTabBar
+{
+public:
+    explicit TabViewBar(TabViewSC *tabView) : QTabBar(tabView), m_tabView(tabView) {}
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        const int index = tabAt(event->position().toPoint());
+        const QPointer<TabViewBar> guard(this);
+        if (event->button() == Qt::LeftButton && isTabEnabled(index)) {
+            m_tabView->selectIfAllowed(index);
+        }
+        // The press itself selects: only a tab that is selected by now may have it.
+        if (guard && index == currentIndex()) {
+            QTabBar::mousePressEvent(event);
+        }
+    }
+
+    void wheelEvent(QWheelEvent *event) override
+    {
+        if (event->angleDelta().y() != 0) {
+            m_tabView->selectIfAllowed(nextEnabled(event->angleDelta().y() > 0 ? -1 : 1));
+        }
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const bool back = event->key() == (isRightToLeft() ? Qt::Key_Right : Qt::Key_Left);
+        if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+            m_tabView->selectIfAllowed(nextEnabled(back ? -1 : 1));
+        } else {
+            event->ignore();
+        }
+    }
+
+private:
+    // -1 when there is none.
+    int nextEnabled(int step) const
+    {
+        int index = currentIndex() + step;
+        while (index >= 0 && index < count() && !isTabEnabled(index)) {
+            index += step;
+        }
+        return index < count() ? index : -1;
+    }
+
+    TabViewSC *m_tabView = nullptr;
+};
+
+} // namespace
 
 TabViewSC::TabViewSC(QWidget *parent) : QTabWidget(parent)
 {
@@ -51,8 +120,7 @@ void TabViewSC::tabInserted(int /*index*/)
 {
     callSoon(this, [this] {
         CUI_DialogEventObj()->longVal = count();
-        CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(this, tabViewEventDidChangeCount,
-                                                                      tagFromObject(this));
+        sendObjectEvent(this, tabViewEventDidChangeCount);
     });
 }
 
@@ -77,72 +145,8 @@ void TabViewSC::forwardItem(qint64 event, int index)
     CUI_DialogEventObj()->longVal = index;
     CUI_DialogEventObj()->viewObj = widget(index);
     CUI_DialogEventObj()->stringObj = tabText(index).replace(u"&&"_s, u"&"_s);
-    CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(this, event, tagFromObject(this));
+    sendObjectEvent(this, event);
 }
-
-TabViewBar::TabViewBar(TabViewSC *tabView) : QTabBar(tabView), m_tabView(tabView) {}
-
-void TabViewBar::mousePressEvent(QMouseEvent *event)
-{
-    const int index = tabAt(event->position().toPoint());
-    const QPointer<TabViewBar> guard(this);
-    if (event->button() == Qt::LeftButton && isTabEnabled(index)) {
-        m_tabView->selectIfAllowed(index);
-    }
-    // The press itself selects: only a tab that is selected by now may have it.
-    if (guard && index == currentIndex()) {
-        QTabBar::mousePressEvent(event);
-    }
-}
-
-void TabViewBar::wheelEvent(QWheelEvent *event)
-{
-    if (event->angleDelta().y() != 0) {
-        m_tabView->selectIfAllowed(nextEnabled(event->angleDelta().y() > 0 ? -1 : 1));
-    }
-}
-
-void TabViewBar::keyPressEvent(QKeyEvent *event)
-{
-    const bool back = event->key() == (isRightToLeft() ? Qt::Key_Right : Qt::Key_Left);
-    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
-        m_tabView->selectIfAllowed(nextEnabled(back ? -1 : 1));
-    } else {
-        event->ignore();
-    }
-}
-
-// -1 when there is none.
-int TabViewBar::nextEnabled(int step) const
-{
-    int index = currentIndex() + step;
-    while (index >= 0 && index < count() && !isTabEnabled(index)) {
-        index += step;
-    }
-    return index < count() ? index : -1;
-}
-
-void CUI_TabViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TabViewSC *tabView, qint64 event, Tag object)
-{
-    sendObjectEvent(tabView, event, object);
-}
-
-namespace {
-
-// A shortcut taken from an ampersand would select without asking.
-QString plainLabel(QString label)
-{
-    return label.replace(u'&', u"&&"_s);
-}
-
-void insertTab(TabViewSC *tabView, int index, const QString &label)
-{
-    auto *const page = new QWidget;
-    setObjectWindowTag(page, objectWindowTag(tabView));
-    tabView->insertTab(index, page, plainLabel(label));
-}
-
-} // namespace
 
 void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
 {

@@ -8,6 +8,8 @@
 #include <QFocusEvent>
 #include <QMimeData>
 #include <QPaintEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -15,10 +17,8 @@ namespace tetrad {
 
 namespace {
 
-// While Tab looks for a view that accepts the keyboard: where the search began, and whether a view that
-// refused is passing it on.
+// While a view that refused the keyboard passes it on: where the search for one that takes it began.
 QPointer<ViewSC> searchStart;
-bool isPassingOn = false;
 
 // Whether the platform chose the view: by Tab, or as the first of a window that became active.
 bool isPlatformsChoice(Qt::FocusReason reason)
@@ -105,28 +105,39 @@ void ViewSC::focusInEvent(QFocusEvent *event)
     if (!isPlatformsChoice(event->reason())) {
         return;
     }
-    if (isPassingOn && searchStart == this) {
+    if (searchStart == this) {
         callSoon(this, [this] { clearFocus(); });
         return;
     }
-    if (!isPassingOn) {
-        searchStart = this;
-    }
-    callSoon(this, [this, forward = event->reason() != Qt::BacktabFocusReason] { confirmFocus(forward); });
+    const QPointer<ViewSC> start = searchStart ? searchStart.data() : this;
+    const bool forward = event->reason() != Qt::BacktabFocusReason;
+    callSoon(this, [this, start, forward] { confirmFocus(start, forward); });
 }
 
-void ViewSC::confirmFocus(bool forward)
+void ViewSC::confirmFocus(const QPointer<ViewSC> &start, bool forward)
 {
     const QPointer<ViewSC> guard(this);
     if (!hasFocus() || CUI_ViewSubclassAcceptsFirstResponder(source()) || !guard || !hasFocus()) {
         return;
     }
-    isPassingOn = true;
+    const QScopedValueRollback passingOn(searchStart, start);
     focusNextPrevChild(forward);
-    isPassingOn = false;
     if (hasFocus()) {
         clearFocus();
     }
+}
+
+void VisualEffectView::setCoverage(qreal coverage)
+{
+    m_coverage = std::clamp(coverage, 0.0, 1.0);
+    update();
+}
+
+void VisualEffectView::paintEvent(QPaintEvent *event)
+{
+    QColor veil = palette().color(QPalette::Window);
+    veil.setAlphaF(float(m_coverage));
+    QPainter(this).fillRect(event->rect(), veil);
 }
 
 void CUI_ViewSubclass(Tag tag, const QRectF &rect)
