@@ -2,6 +2,8 @@
 #include <tetrad/controls/text_view.h>
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
@@ -46,6 +48,14 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
         return [code, modifiers](TextViewSC *view) { QTest::keyClick(view, code, modifiers); };
     };
     const Act typing = [](TextViewSC *view) { QTest::keyClicks(view, u"x"_s); };
+    const Act menuCut = [](TextViewSC *view) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+        QApplication::sendEvent(view->viewport(), &event);
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        menu->actions().at(3)->trigger();
+        menu->close();
+        view->activateWindow();
+    };
     QGuiApplication::clipboard()->setText(u"ab"_s);
     const Table<int, int, Act, QString, QString> rows = {
         {"typing", 3, 3, typing, u"3+0=x"_s, u"onex two"_s},
@@ -56,6 +66,7 @@ TEST_F(TextSite, EveryChangeByTheUserIsAskedAbout)
         {"Delete of a selection", 0, 4, key(Qt::Key_Delete), u"0+4="_s, u"two"_s},
         {"word before", 3, 3, key(Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_s, u" two"_s},
         {"Paste", 3, 3, key(Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_s, u"oneab two"_s},
+        {"Cut in the menu", 0, 3, menuCut, u"0+3="_s, u" two"_s},
         {"Cut key", 0, 3, key(Qt::Key_X, Qt::ControlModifier), u"0+3="_s, u" two"_s},
     };
     for (const auto &[name, from, to, act, question, result] : rows) {

@@ -1,7 +1,7 @@
 #pragma once
 
 // Implemented in runtime/controls/views/text_view.cpp.
-#include <tetrad/events/tag.h>
+#include <tetrad/controls/control_target.h>
 
 #include <QPlainTextEdit>
 #include <QRectF>
@@ -16,8 +16,21 @@ class TextViewSC : public QPlainTextEdit
 {
     Q_OBJECT
 
+    Q_PROPERTY(bool canUndo READ canUndo)
+    Q_PROPERTY(bool canRedo READ canRedo)
+    Q_PROPERTY(bool canCut READ canDelete)
+    Q_PROPERTY(bool canCopy READ canCopy)
+    Q_PROPERTY(bool canPaste READ canPaste)
+    Q_PROPERTY(bool canDelete READ canDelete)
+
 public:
     explicit TextViewSC(QWidget *parent = nullptr);
+
+    /// What the Edit menu enables.
+    bool canUndo() const { return document()->isUndoAvailable(); }
+    bool canRedo() const { return document()->isRedoAvailable(); }
+    bool canCopy() const { return textCursor().hasSelection(); }
+    bool canDelete() const { return canCopy() && !isReadOnly(); }
 
 public Q_SLOTS:
     /// Named as the base's own, so that the Edit menu, which goes by name, asks too.
@@ -34,15 +47,10 @@ protected:
 
 private:
     bool mayReplace(const QTextCursor &replaced, const QString &text);
-    void reportSoon(qint64 event);
 };
 
-/// Reports what happens to text views, always to the dialog function.
-class CUI_TextViewDelegate
-{
-public:
-    static void callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object);
-};
+class CUI_TextViewDelegate : public DialogFunctionDelegate
+{};
 
 /// The text view statement. A null text leaves the text there.
 void CUI_TextView(Tag tag, const QString &text, const QRectF &rect);

@@ -1,11 +1,11 @@
 #include <tetrad/controls/text_view.h>
 
+#include "runtime/app/menus/edit_actions.h"
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include <tetrad/events/event_codes.h>
 
-#include <QAction>
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -70,17 +70,18 @@ EventRange selectionOf(const QTextCursor &cursor)
     return {quint64(cursor.selectionStart()), quint64(cursor.selectionEnd() - cursor.selectionStart())};
 }
 
-void forward(TextViewSC *textView, qint64 event)
-{
-    CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(textView, event, tagFromObject(textView));
-}
-
 } // namespace
 
 TextViewSC::TextViewSC(QWidget *parent) : QPlainTextEdit(parent)
 {
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { reportSoon(textViewEventDidChange); });
-    connect(this, &QPlainTextEdit::selectionChanged, this, [this] { reportSoon(textViewEventSelectionChanged); });
+    connect(
+        this, &QPlainTextEdit::textChanged, this, [this] { sendObjectEvent(this, textViewEventDidChange); },
+        Qt::QueuedConnection);
+    const auto reportSelection = [this] {
+        CUI_DialogEventObj()->rangeVal = selectionOf(textCursor());
+        sendObjectEvent(this, textViewEventSelectionChanged);
+    };
+    connect(this, &QPlainTextEdit::selectionChanged, this, reportSelection, Qt::QueuedConnection);
 }
 
 void TextViewSC::cut()
@@ -134,30 +135,24 @@ void TextViewSC::insertFromMimeData(const QMimeData *source)
 
 void TextViewSC::contextMenuEvent(QContextMenuEvent *event)
 {
-    QMenu *const menu = createStandardContextMenu(event->pos());
+    // The base's own menu would cut and delete without asking.
+    setFocus(Qt::OtherFocusReason);
+    QMenu *const menu = makeEditMenu();
+    menu->setParent(this, menu->windowFlags());
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // The menu's own cutting and deleting would not ask.
-    const auto redirect = [this, menu](const QString &name, void (TextViewSC::*slot)()) {
-        if (auto *const action = menu->findChild<QAction *>(name)) {
-            action->disconnect(SIGNAL(triggered(bool)));
-            connect(action, &QAction::triggered, this, slot);
-        }
-    };
-    redirect(u"edit-cut"_s, &TextViewSC::cut);
-    redirect(u"edit-delete"_s, &TextViewSC::del);
     menu->popup(event->globalPos());
 }
 
 void TextViewSC::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    reportSoon(textViewEventDidBeginEditing);
+    callSoon(this, [this] { sendObjectEvent(this, textViewEventDidBeginEditing); });
 }
 
 void TextViewSC::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    reportSoon(textViewEventDidEndEditing);
+    callSoon(this, [this] { sendObjectEvent(this, textViewEventDidEndEditing); });
 }
 
 // False also when the question was answered by deleting the view.
@@ -167,23 +162,8 @@ bool TextViewSC::mayReplace(const QTextCursor &replaced, const QString &text)
     CUI_DialogEventObj()->boolVal = false;
     CUI_DialogEventObj()->rangeVal = selectionOf(replaced);
     CUI_DialogEventObj()->stringObj = text;
-    forward(this, textViewEventRefuseChange);
+    sendObjectEvent(this, textViewEventRefuseChange);
     return !CUI_DialogEventObj()->boolVal && guard;
-}
-
-void TextViewSC::reportSoon(qint64 event)
-{
-    callSoon(this, [this, event] {
-        if (event == textViewEventSelectionChanged) {
-            CUI_DialogEventObj()->rangeVal = selectionOf(textCursor());
-        }
-        forward(this, event);
-    });
-}
-
-void CUI_TextViewDelegate::callUserDefinedOnDialogFunctionWithEvent(TextViewSC *textView, qint64 event, Tag object)
-{
-    sendObjectEvent(textView, event, object);
 }
 
 void CUI_TextView(Tag tag, const QString &text, const QRectF &rect)
