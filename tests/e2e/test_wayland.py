@@ -68,4 +68,6 @@ class TestWayland(PlayingTest):
         game.wait_for_puzzle(other_than=puzzle)
         game.type("1+2")
         keys.press("ctrl+q")
-        self.assert_clean_end(game)
+        status, errors = game.wait_for_end()
+        # Newer versions of Qt say this each time the virtual keyboard is unplugged.
+        self.assertEqual((status, errors.replace("qt.qpa.wayland: unknown keymap format: 0\n", "")), (0, ""))

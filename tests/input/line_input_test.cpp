@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
+#include <QWindow>
 
 using namespace tetrad;
 using namespace Qt::Literals::StringLiterals;
@@ -86,6 +87,8 @@ TEST_F(LineInput, theContextMenuWorksDuringTheRun)
 {
     QGuiApplication::clipboard()->setText(u"1+x"_s);
     const QString answer = ask(answerKeys, [](ZRInputWindow &panel) {
+        // Qt 6.8 measures from where the pointer was when the menu opened, so it must have been somewhere.
+        QTest::mouseMove(panel.window()->windowHandle(), QPoint(1, 1));
         QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(1, 8), panel.field()->mapToGlobal(QPoint(1, 8)));
         QCoreApplication::sendEvent(panel.field(), &request);
         auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
