@@ -183,18 +183,18 @@ TEST_F(WindowDelegate, IsKnownUntilItHasToldThatItCloses)
     EXPECT_EQ(takeCodes().count(u"10032"), 1);
 }
 
-// Each callback closes or deletes the window whose event it is told, or gives it another tag. Only where
-// no event of the window system is being delivered may it be deleted at once.
+// Each callback closes or deletes the window whose event it is told, or gives it another tag.
 TEST_F(WindowDelegate, SurvivesWhatCallbacksDo)
 {
     const Happening closes = [this] { m_window->close(); };
     const Happening deletes = [this] { delete m_window.data(); };
     const Happening retags = [this] { m_window->setTag(70); };
     const std::tuple<Happening, QList<qint64>, QList<Happening>> rows[] = {
-        {[this] { userResizes(9); }, {10003, 10004, 10005, 10006}, {closes, retags}},
+        {[this] { userResizes(9); }, {10003, 10004, 10005, 10006}, {closes, retags, deletes}},
+        {[] { CUI_Window(7, u"New"_s, 0, QRectF(90, 90, 99, 99)); }, {10004, 10027}, {closes, retags, deletes}},
         {[this] { m_window->showMinimized(); }, {10007}, {closes, retags}},
         {[this] { m_window->setWindowState(Qt::WindowMaximized); }, {10010, 10011}, {closes, retags}},
-        {[this] { userMoves(9); }, {10026, 10027}, {closes, retags}},
+        {[this] { userMoves(9); }, {10026, 10027}, {closes, retags, deletes}},
         {closes, {10031, 10032}, {deletes, retags}},
     };
     for (const auto &[happening, codes, harms] : rows) {

@@ -113,7 +113,7 @@ private:
     QSize measuredChrome();
     void keepContentPosition();
     void limitDrags();
-    QPoint belowScreenTop(QPoint origin) const;
+    void moveBelowScreenTop(QRect geometry);
     void recalculateKeyViewLoop();
 
     ContentViewSC *m_contentView = nullptr;
@@ -122,7 +122,6 @@ private:
     qint64 m_styleMask = windowStyleDefault;
     // The size that the menu bar and other bars add to the content.
     QSize m_chrome;
-    bool m_closed = false;
     bool m_closedByProgram = false;
     bool m_autorecalculatesKeyViewLoop = false;
 };

@@ -16,8 +16,8 @@ namespace tetrad {
 /// translator, by the code that shows sheets, or by a program. Each hands its code to forwardEvent
 /// and, for a question event, returns the answer. Sizes and rectangles are those of the content, in
 /// device-independent pixels. A callback may close the window, give it another
-/// tag or delete it; deleting at once, not with deleteLater, only where the platform is not just then
-/// delivering the event. The window may be gone when a method returns.
+/// tag or delete it: at once in the events of moving, resizing and closing, with deleteLater in the others, during
+/// which the platform goes on working with it. The window may be gone when a method returns.
 class CUI_WindowDelegate : public QObject
 {
     Q_OBJECT

@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace tetrad {
 
@@ -158,9 +159,6 @@ QString Window::dump() const
 
 bool Window::event(QEvent *event)
 {
-    if (m_closed && event->type() == QEvent::Close) {
-        return true;
-    }
     const QPointer<Window> guard(this);
     const bool handled = QMainWindow::event(event);
     if (!guard) {
@@ -174,14 +172,10 @@ bool Window::event(QEvent *event)
     }
     const bool closes = event->type() == QEvent::Close && event->isAccepted();
     const bool isLast = closes && isVisible() && isLastVisible(this);
-    m_closed = closes && isReleasedWhenClosed();
     m_translator->translate(event);
-    if (guard && closes) {
-        // The report may have kept it.
-        m_closed = isReleasedWhenClosed();
-        if (m_closed) {
-            TagRegistry<Window>::instance().remove(this);
-        }
+    // The report may have kept it.
+    if (guard && closes && isReleasedWhenClosed()) {
+        TagRegistry<Window>::instance().remove(this);
     }
     if (isLast && CUI_AppDelegateObj()->applicationShouldTerminateAfterLastWindowClosed()) {
         AppTerminate();
@@ -241,11 +235,9 @@ void Window::recalculateKeyViewLoop()
 {
     QList<QWidget *> views = m_contentView->findChildren<QWidget *>();
     views.removeIf([](const QWidget *view) { return !(view->focusPolicy() & Qt::TabFocus) || view->focusProxy(); });
-    const auto position = [this](const QWidget *view) { return view->mapTo(m_contentView, QPoint()); };
-    std::stable_sort(views.begin(), views.end(), [&position](const QWidget *a, const QWidget *b) {
-        const QPoint first = position(a);
-        const QPoint second = position(b);
-        return first.y() != second.y() ? first.y() < second.y() : first.x() < second.x();
+    std::ranges::stable_sort(views, {}, [this](const QWidget *view) {
+        const QPoint position = view->mapTo(m_contentView, QPoint());
+        return std::pair(position.y(), position.x());
     });
     for (qsizetype i = 1; i < views.size(); ++i) {
         QWidget::setTabOrder(views[i - 1], views[i]);

@@ -24,6 +24,12 @@ QPoint mainScreenOrigin()
     return screen ? screen->geometry().topLeft() : QPoint();
 }
 
+void liftSizeLimits(QWidget *window)
+{
+    window->setMinimumSize(0, 0);
+    window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
 } // namespace
 
 QRectF Window::contentRect() const
@@ -35,19 +41,26 @@ QRectF Window::contentRect() const
 void Window::setContentRect(const QRectF &rect)
 {
     setWindowState(windowState() & ~spreadOut);
-    setMinimumSize(0, 0);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     m_chrome = measuredChrome();
     const QPoint origin = rect.topLeft().toPoint() + mainScreenOrigin() - QPoint(0, m_chrome.height());
-    setGeometry(QRect(belowScreenTop(origin), rect.size().toSize() + m_chrome));
+    moveBelowScreenTop(QRect(origin, rect.size().toSize() + m_chrome));
     keepContentPosition();
+    m_translator->reportProgramsChange();
+}
+
+void Window::moveBelowScreenTop(QRect geometry)
+{
+    const QScreen *const there = QGuiApplication::screenAt(geometry.topLeft() + QPoint(0, m_chrome.height()));
+    const QRect available = (there ? there : screen())->availableGeometry();
+    geometry.moveTop(std::max(geometry.top(), available.top() + frameMargins().top()));
+    liftSizeLimits(this);
+    setGeometry(geometry);
     limitDrags();
 }
 
 void Window::holdContentSize(const QSizeF &size)
 {
-    setMinimumSize(0, 0);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    liftSizeLimits(this);
     if (size.isValid()) {
         setFixedSize(size.toSize() + m_chrome);
     } else {
@@ -65,6 +78,7 @@ void Window::center()
     framed.moveLeft(std::max(framed.left(), available.left()));
     framed.moveTop(std::max(framed.top(), available.top()));
     setGeometry(framed - frame);
+    m_translator->reportProgramsChange();
 }
 
 // A window manager adds its frame some time after the window was shown. Until then the title bar that
@@ -98,13 +112,9 @@ void Window::keepContentPosition()
         return;
     }
     m_chrome += grown;
-    if (windowState() & spreadOut) {
-        return;
+    if (!(windowState() & spreadOut)) {
+        moveBelowScreenTop(QRect(geometry().topLeft() - QPoint(0, grown.height()), size() + grown));
     }
-    setMinimumSize(0, 0);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    setGeometry(QRect(belowScreenTop(geometry().topLeft() - QPoint(0, grown.height())), size() + grown));
-    limitDrags();
 }
 
 // What the program made smaller than the smallest window that can be used stays so.
@@ -115,14 +125,6 @@ void Window::limitDrags()
     } else {
         setFixedSize(size());
     }
-}
-
-QPoint Window::belowScreenTop(QPoint origin) const
-{
-    const QScreen *const there = QGuiApplication::screenAt(origin + QPoint(0, m_chrome.height()));
-    const QRect available = (there ? there : screen())->availableGeometry();
-    origin.setY(std::max(origin.y(), available.top() + frameMargins().top()));
-    return origin;
 }
 
 } // namespace tetrad

@@ -111,14 +111,20 @@ void WindowTranslator::changed(bool byWindowSystem)
     if (m_place.isNull()) {
         return;
     }
-    if (byWindowSystem) {
-        if (!m_judge.isActive()) {
-            m_judge.start(judgePause_ms, m_window);
-        }
-        return;
+    if (!byWindowSystem) {
+        m_requested.prepend(m_window->geometry());
+        m_requested.resize(std::min(m_requested.size(), mostRequested));
     }
-    m_requested = (QList{m_window->geometry()} + m_requested).first(std::min(m_requested.size() + 1, mostRequested));
-    report(false, false);
+    if (!m_judge.isActive()) {
+        m_judge.start(judgePause_ms, m_window);
+    }
+}
+
+void WindowTranslator::reportProgramsChange()
+{
+    if (m_window->isVisible()) {
+        report(false, false);
+    }
 }
 
 void WindowTranslator::timedOut(int timer)
@@ -189,6 +195,7 @@ void WindowTranslator::confirmSize(const QSizeF &size)
     if (answer.isValid() && answer != size) {
         m_held = answer;
         window->holdContentSize(answer);
+        reportProgramsChange();
     } else {
         notify(window, {&CUI_WindowDelegate::windowDidResize});
     }

@@ -34,6 +34,10 @@ public:
     /// afterwards.
     void translate(QEvent *event);
 
+    /// Reports what the program did to the position and size without waiting for the event loop. The window may be gone
+    /// afterwards, so this must not be called while Qt is still moving the window.
+    void reportProgramsChange();
+
 private:
     void shown();
     void changed(bool byWindowSystem);

@@ -8,6 +8,8 @@
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/strings/not_given.h>
 
+#include <QPointer>
+
 #include <utility>
 
 namespace tetrad {
@@ -17,16 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool subclassFlag = false;
-
-void applyStyleAndTitle(Window *window, qint64 style, const QString &title)
-{
-    if (style != notGiven) {
-        window->setStyleMask(style);
-    }
-    if (!title.isNull()) {
-        window->setWindowTitle(title);
-    }
-}
 
 } // namespace
 
@@ -52,16 +44,24 @@ void CUI_Window(Tag tag, const QString &title, qint64 style, const QRectF &conte
     if (CUI_ObjectIsPopover(wndTag)) {
         return;
     }
-    Window *window = CUI_WindowWithTag(wndTag);
-    if (window) {
-        CUI_SetSubclassFlag(false);
-        if (!contentRect.isEmpty()) {
-            window->setContentRect(contentRect);
-        }
-    } else {
+    QPointer<Window> window = CUI_WindowWithTag(wndTag);
+    const bool existed = window;
+    if (!existed) {
         window = WindowInit(wndTag, contentRect);
     }
-    applyStyleAndTitle(window, style, title);
+    CUI_SetSubclassFlag(false);
+    if (!title.isNull()) {
+        window->setWindowTitle(title);
+    }
+    if (existed && !contentRect.isEmpty()) {
+        window->setContentRect(contentRect);
+    }
+    if (window && style != notGiven) {
+        window->setStyleMask(style);
+    }
+    if (!window) {
+        return;
+    }
     if (tag < 1) {
         window->hide();
     } else {
