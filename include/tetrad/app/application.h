@@ -9,12 +9,10 @@ namespace tetrad {
 /// Makes the process an application of the window system that is driven from the program's own straight-line main. A
 /// second call changes nothing. What it does to the process:
 /// - It creates the application object unless there is one, and installs the runtime's delegate unless one is
-/// installed.
-///   Without a display the process ends with one sentence on standard error and status 1.
+///   installed. Without a display the process ends with one sentence on standard error and status 1.
 /// - A program that has not named itself gets the runtime's name, version and id.
 /// - The application gets the icon named like its id unless it has one: from the theme "hicolor" of the desktop, or
-/// from
-///   share/icons next to the program or to the program's folder.
+///   from share/icons next to the program or to the program's folder.
 /// - The locale becomes the environment's, and the layout direction that locale's.
 /// - Standard streams that are closed are opened on /dev/null.
 /// - SIGPIPE is ignored. The first SIGTERM or SIGHUP restores the signal's default action and ends the program through

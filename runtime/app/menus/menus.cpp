@@ -1,14 +1,15 @@
 #include <tetrad/app/menus.h>
 
 #include "runtime/app/menus/edit_actions.h"
-#include "runtime/app/menus/menu_keys.h"
 #include "runtime/app/process/termination.h"
 #include <tetrad/app/application.h>
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QShortcut>
 
 #include <utility>
 
@@ -68,6 +69,60 @@ void forEachShortcut(Function function)
     }
 }
 
+void openFirstMenu(QMenuBar *bar)
+{
+    for (QAction *title : bar->actions()) {
+        if (title->isVisible() && title->isEnabled() && title->menu()) {
+            bar->setActiveAction(title);
+            return;
+        }
+    }
+}
+
+QMenuBar *barShowing(const QMenu *menu)
+{
+    for (QObject *each : menu->menuAction()->associatedObjects()) {
+        auto *bar = qobject_cast<QMenuBar *>(each);
+        if (bar && bar->activeAction() == menu->menuAction()) {
+            return bar;
+        }
+    }
+    return nullptr;
+}
+
+// Escape in the open menu of a bar closes it and gives the keyboard back at once, to the widget that had it before the
+// menu. Without this the bar would keep it until a second Escape, and what is typed meanwhile would be lost.
+class EscapeFilter : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel)) {
+            return false;
+        }
+        const QPointer<QMenu> menu = static_cast<QMenu *>(watched);
+        QMenuBar *bar = barShowing(menu);
+        if (!bar) {
+            return false;
+        }
+        // A bar that was entered by key gives the keyboard back to where it came from.
+        QCoreApplication::sendEvent(bar, event);
+        if (menu) {
+            menu->close();
+        }
+        return true;
+    }
+};
+
+// F10 opens the first menu of the bar, as a tapped Alt goes to the bar without opening one.
+void openWithF10(QMenuBar *bar)
+{
+    auto *shortcut = new QShortcut(Qt::Key_F10, bar);
+    QObject::connect(shortcut, &QShortcut::activated, bar, [bar] { openFirstMenu(bar); });
+}
+
 } // namespace
 
 MainMenu *mainMenu()
@@ -120,7 +175,7 @@ void appendMenu(MainMenu *menu, QMenu *added)
         menu = theMainMenu;
     }
     menu->menus.append(added);
-    leaveBarWithEscape(added);
+    added->installEventFilter(new EscapeFilter(added));
     if (menu != theMainMenu) {
         return;
     }

@@ -5,7 +5,6 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScopedValueRollback>
@@ -14,6 +13,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace tetrad {
 
@@ -93,7 +93,7 @@ bool ModalFilter::isWithheldFromWindow(QWindow *window, QEvent *event)
     }
     if (isKey(event->type())) {
         if (!m_focus.widget()) {
-            m_keys.keep(event);
+            keepKey(static_cast<QKeyEvent *>(event));
             return true;
         }
         return false;
@@ -153,6 +153,31 @@ bool ModalFilter::isWithheldFromWidget(QWidget *widget, QEvent *event)
         return !scrolls(widget);
     }
     return isPointer(type) && !isScrollBar(widget);
+}
+
+// A key that repeats because it is held down is not typed ahead, and a release counts only after its press.
+void ModalFilter::keepKey(QKeyEvent *event)
+{
+    const auto samePress = [event](const auto &kept) { return kept->key() == event->key(); };
+    const bool wanted = event->type() == QEvent::KeyPress ||
+                        (event->type() == QEvent::KeyRelease && std::ranges::any_of(m_keptKeys, samePress));
+    if (wanted && !event->isAutoRepeat()) {
+        m_keptKeys.emplace_back(event->clone());
+    }
+    event->setAccepted(event->type() != QEvent::ShortcutOverride);
+}
+
+void ModalFilter::deliverKeptKeys()
+{
+    for (auto &key : std::exchange(m_keptKeys, {})) {
+        QWidget *focus = m_focus.widget() ? m_focus.widget()->window()->focusWidget() : nullptr;
+        if (focus) {
+            QCoreApplication::sendEvent(focus, key.get());
+        } else {
+            // The run was ended by one of the keys: the rest is for the one after it.
+            m_keptKeys.push_back(std::move(key));
+        }
+    }
 }
 
 // With the run ended this can only be the very key that ended it, on its way from the focus outwards: it

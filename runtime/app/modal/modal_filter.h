@@ -1,9 +1,12 @@
 #pragma once
 
-#include "runtime/app/modal/kept_keys.h"
 #include "runtime/app/modal/modal_focus.h"
 
+#include <QKeyEvent>
 #include <QObject>
+
+#include <memory>
+#include <vector>
 
 class QWindow;
 
@@ -21,8 +24,8 @@ public:
 
     ModalFocus &focus() { return m_focus; }
 
-    /// Sends the keys that were kept to the widget.
-    void deliverKeptKeys() { m_keys.deliverTo(m_focus); }
+    /// Sends the keys that were kept to what has the focus in the window of the newest run, as long as that run is on.
+    void deliverKeptKeys();
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
@@ -33,6 +36,7 @@ Q_SIGNALS:
 private:
     bool isWithheldFromWindow(QWindow *window, QEvent *event);
     bool isWithheldFromWidget(QWidget *widget, QEvent *event);
+    void keepKey(QKeyEvent *event);
     bool redirectKey(QEvent *event);
     static bool endHere(QEvent *event);
     bool comesFromInside(const QWidget *widget) const;
@@ -41,7 +45,7 @@ private:
     bool scrolls(const QWidget *widget) const;
 
     ModalFocus m_focus;
-    KeptKeys m_keys;
+    std::vector<std::unique_ptr<QKeyEvent>> m_keptKeys;
     bool m_redirecting = false;
 };
 

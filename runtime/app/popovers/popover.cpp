@@ -16,23 +16,18 @@ namespace {
 
 QPoint positionAtEdge(const QRect &anchor, const QSize &size, Qt::Edge edge)
 {
-    QRect rect(QPoint(), size);
-    rect.moveCenter(anchor.center());
+    const QPoint centred = anchor.center() - QRect(QPoint(), size).center();
     switch (edge) {
     case Qt::TopEdge:
-        rect.moveBottom(anchor.top() - 1);
-        break;
+        return {centred.x(), anchor.top() - size.height()};
     case Qt::LeftEdge:
-        rect.moveRight(anchor.left() - 1);
-        break;
+        return {anchor.left() - size.width(), centred.y()};
     case Qt::RightEdge:
-        rect.moveLeft(anchor.right() + 1);
-        break;
+        return {anchor.right() + 1, centred.y()};
     case Qt::BottomEdge:
-        rect.moveTop(anchor.bottom() + 1);
         break;
     }
-    return rect.topLeft();
+    return {centred.x(), anchor.bottom() + 1};
 }
 
 Qt::Edge oppositeEdge(Qt::Edge edge)

@@ -22,25 +22,15 @@ namespace {
 
 #ifdef TETRAD_HAVE_XCB
 
-template <typename Reply>
-using OwnedReply = std::unique_ptr<Reply, decltype(&std::free)>;
-
 xcb_atom_t atom(xcb_connection_t *connection, const QByteArray &name)
 {
     const auto asked = xcb_intern_atom(connection, false, static_cast<quint16>(name.size()), name.constData());
-    const OwnedReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, asked, nullptr), &std::free);
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+        xcb_intern_atom_reply(connection, asked, nullptr), &std::free);
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-bool isOwned(xcb_connection_t *connection, xcb_atom_t selection)
-{
-    const auto asked = xcb_get_selection_owner(connection, selection);
-    const OwnedReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(connection, asked, nullptr),
-                                                            &std::free);
-    return reply && reply->owner != XCB_NONE;
-}
-
-// Ends a loop when the manager answers that it has taken everything, or cannot.
+// Ends a loop when the manager answers that it has taken everything, or cannot, or the server that there is no manager.
 class AnswerOfManager : public QAbstractNativeEventFilter
 {
 public:
@@ -66,9 +56,6 @@ private:
 void askManagerToSave(xcb_connection_t *connection)
 {
     const xcb_atom_t manager = atom(connection, "CLIPBOARD_MANAGER");
-    if (!isOwned(connection, manager)) {
-        return;
-    }
     QWindow requestor;
     requestor.create();
     QEventLoop loop;

@@ -18,17 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView startElsewhere = u"; start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY to one";
-
-[[noreturn]] void endWithoutDisplay(const QString &trouble)
-{
-    const QString sentence = QCoreApplication::applicationName() + u' ' + trouble + u".\n";
-    std::fputs(qUtf8Printable(sentence), stderr);
-    std::fflush(nullptr);
-    // Not exit: the application object is half made.
-    std::_Exit(1);
-}
-
 QString requestedPlatform()
 {
     QStringList requests;
@@ -38,15 +27,6 @@ QString requestedPlatform()
         }
     }
     return requests.join(u' ');
-}
-
-void requireDisplaySetting()
-{
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    if (requestedPlatform().isEmpty()) {
-        endWithoutDisplay(u"needs a display and there is none" + startElsewhere);
-    }
-#endif
 }
 
 QtMessageHandler handlerBefore = nullptr;
@@ -61,17 +41,26 @@ void findMissingPlugin(const QString &message)
     }
 }
 
-[[noreturn]] void endWithUnopenableDisplay()
+QString whyThereIsNoDisplay()
 {
-    QString trouble = u"cannot open the display (" + requestedPlatform() + u')';
-    if (missingPlugin.isEmpty()) {
-        endWithoutDisplay(trouble + startElsewhere);
+    const QString requested = requestedPlatform();
+    const QString trouble = u"cannot open the display (" + requested + u')';
+    if (!requested.isEmpty() && !missingPlugin.isEmpty()) {
+        const QString package =
+            missingPlugin == u"wayland" ? u"; on Debian the package qt6-wayland has it"_s : QString();
+        return trouble + u": Qt's platform plugin \"" + missingPlugin + u"\" is not installed" + package;
     }
-    trouble += u": Qt's platform plugin \"" + missingPlugin + u"\" is not installed";
-    if (missingPlugin == u"wayland") {
-        trouble += u"; on Debian the package qt6-wayland has it";
-    }
-    endWithoutDisplay(trouble);
+    return (requested.isEmpty() ? u"needs a display and there is none"_s : trouble) +
+           u"; start it from a desktop session, or set DISPLAY or WAYLAND_DISPLAY to one";
+}
+
+[[noreturn]] void endWithoutDisplay()
+{
+    const QString sentence = QCoreApplication::applicationName() + u' ' + whyThereIsNoDisplay() + u".\n";
+    std::fputs(qUtf8Printable(sentence), stderr);
+    std::fflush(nullptr);
+    // Not exit: the application object is half made.
+    std::_Exit(1);
 }
 
 // The Wayland plugin reports a missing compositor without a category.
@@ -85,7 +74,7 @@ bool isAboutAPlatform(const QMessageLogContext &context, const QString &message)
 void readConstructionMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtFatalMsg) {
-        endWithUnopenableDisplay();
+        endWithoutDisplay();
     }
     findMissingPlugin(message);
     if (handlerBefore && !isAboutAPlatform(context, message)) {
@@ -122,7 +111,6 @@ void makeApplication()
     static char *arguments[] = {name.data(), nullptr};
     static int count = 1;
     fillStandardStreams();
-    requireDisplaySetting();
     handlerBefore = qInstallMessageHandler(&readConstructionMessage);
     // Deliberately never deleted: the process ends from the depth of a modal loop, with windows open.
     new QApplication(count, arguments);
@@ -131,7 +119,7 @@ void makeApplication()
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
     // Some platform plugins start without a screen.
     if (!QGuiApplication::primaryScreen()) {
-        endWithUnopenableDisplay();
+        endWithoutDisplay();
     }
 }
 
