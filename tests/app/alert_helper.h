@@ -21,8 +21,8 @@ inline std::function<void(Alert *)> clicks(int index)
 inline QStringList titlesOf(const Alert *alert)
 {
     QStringList titles;
-    for (quint64 index = 0; index < quint64(alert->alertButtons().size()); ++index) {
-        titles << alert->buttonTitle(index);
+    for (const QPushButton *const button : alert->alertButtons()) {
+        titles << button->text().replace(u"&&"_s, u"&"_s);
     }
     return titles;
 }

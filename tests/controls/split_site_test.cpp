@@ -50,6 +50,9 @@ TEST_F(SplitSite, ADragAsksForBoundsAndPositionThenMovesAndTells)
     EXPECT_EQ(m_split->position(0), 120);
     SplitViewSetPosition(3, 90, 0);
     EXPECT_EQ(m_split->position(0), 90);
+    auto *const moved = new QWidget(open(2)->contentView());
+    SplitViewAddSubview(tagFromObject(m_split), tagFromObject(moved));
+    EXPECT_EQ(objectWindowTag(moved), 7);
 }
 
 TEST_F(SplitSite, AnswersDecideWhereTheDividerGoes)

@@ -72,8 +72,6 @@ public:
 
     QPushButton *addAlertButton(const QString &title);
     const QList<QPushButton *> &alertButtons() const { return m_buttons; }
-    /// The title as it was given to addAlertButton.
-    QString buttonTitle(quint64 index) const;
 
     /// The one key that presses a button: "\r" makes it the default, "\033" is Escape, a letter is that
     /// key (upper case: with Shift), empty takes its key away. An index without a button is ignored.

@@ -77,9 +77,9 @@ public:
     /// MIME types, and file extensions without the dot, that a drag must offer to be reported; without either every
     /// drag is refused.
     const QStringList &dragFileTypes() const { return m_dragFileTypes; }
-    void setDragFileTypes(const QStringList &types);
+    void setDragFileTypes(const QStringList &types) { m_dragFileTypes = types; }
     const QStringList &dragFileExtensions() const { return m_dragFileExtensions; }
-    void setDragFileExtensions(const QStringList &extensions);
+    void setDragFileExtensions(const QStringList &extensions) { m_dragFileExtensions = extensions; }
 
     /// Whether a drag that the view accepted is over it.
     bool dragInside() const { return m_dragInside; }

@@ -201,7 +201,7 @@ enum FilePanelEvent : qint64 {
     filePanelEventValidateUrl = 2906,      ///< urlObj: the file chosen; boolVal: the answer; see FilePanelSetAsks
 };
 
-/// Named only, since nothing on this platform sends them: moving files, gesture recognisers, open and save panels,
+/// Named only, since nothing on this platform sends them: moving files, gesture recognisers, expanding save panels,
 /// network sessions, sounds, detached stack views, the preview panel, errors with recovery (alertEndedEvent ends those
 /// here), printing and sharing.
 enum UnsentEvent : qint64 {

@@ -24,7 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char sheetKey[] = "sheetNumber";
-constexpr char titleKey[] = "alertButtonTitle";
 
 // No close box: a title alone, on the platforms that honour the hint.
 constexpr Qt::WindowFlags alertFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
@@ -137,19 +136,12 @@ QPushButton *Alert::addAlertButton(const QString &title)
 {
     // Only this role keeps the order of insertion on every desktop.
     QPushButton *const button = addButton(QString(title).replace(u'&', u"&&"_s), QMessageBox::ActionRole);
-    button->setProperty(titleKey, title);
     m_buttons.append(button);
     if (m_buttons.size() == 1) {
         m_returnButton = button;
         setDefaultButton(button);
     }
     return button;
-}
-
-QString Alert::buttonTitle(quint64 index) const
-{
-    return index < quint64(m_buttons.size()) ? m_buttons.at(qsizetype(index))->property(titleKey).toString()
-                                             : QString();
 }
 
 void Alert::setShowsSuppressionButton(bool shows)

@@ -38,20 +38,10 @@ bool isHeldKey(const QEvent *event)
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) {
         return false;
     }
-    const auto *key = static_cast<const QKeyEvent *>(event);
-    switch (key->key()) {
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        return false;
-    default:
-        return key->isAutoRepeat();
-    }
+    const auto *held = static_cast<const QKeyEvent *>(event);
+    const int key = held->key();
+    const bool moves = key == Qt::Key_Tab || key == Qt::Key_Backtab || (key >= Qt::Key_Left && key <= Qt::Key_PageDown);
+    return held->isAutoRepeat() && !moves;
 }
 
 bool isReturnPress(const QEvent *event)

@@ -70,39 +70,44 @@ bool answersTo(const QWidget *widget, const EditAction &action)
     return widget->metaObject()->indexOfMethod(signature) >= 0 || isLineEditDelete(widget, action);
 }
 
+QPointer<QWidget> lastResponder;
+
+bool isMenu(const QWidget *widget)
+{
+    return qobject_cast<const QMenu *>(widget) || qobject_cast<const QMenuBar *>(widget);
+}
+
+// The widget with the focus, or, while a menu has it, the widget that had it before.
+QWidget *firstResponder()
+{
+    QWidget *focus = QApplication::focusWidget();
+    const bool menuIsOpen = QApplication::activePopupWidget();
+    return isMenu(focus) || (!focus && menuIsOpen) ? lastResponder.data() : focus;
+}
+
+// The widget in which the action would change something, or null.
 QWidget *responderFor(const EditAction &action)
 {
-    for (QWidget *each = firstResponder(); each; each = each->isWindow() ? nullptr : each->parentWidget()) {
-        if (answersTo(each, action)) {
-            return each;
-        }
+    QWidget *responder = firstResponder();
+    while (responder && !answersTo(responder, action)) {
+        responder = responder->isWindow() ? nullptr : responder->parentWidget();
     }
-    return nullptr;
-}
-
-bool wouldAct(const EditAction &action)
-{
-    const QWidget *responder = responderFor(action);
     if (!responder || !responder->isEnabled()) {
-        return false;
+        return nullptr;
     }
-    if (const QVariant can = responder->property(action.property); can.isValid()) {
-        return can.toBool();
-    }
+    const QVariant can = responder->property(action.property);
     const auto *field = qobject_cast<const QLineEdit *>(responder);
-    return !field || action.lineEditCan(*field);
+    const bool acts = can.isValid() ? can.toBool() : !field || action.lineEditCan(*field);
+    return acts ? responder : nullptr;
 }
 
-// Checks again, since a shortcut arrives without opening the menu.
+// A shortcut arrives without opening the menu, so the item may be enabled in vain.
 void perform(const EditAction &action)
 {
-    if (!wouldAct(action)) {
-        return;
-    }
     QWidget *responder = responderFor(action);
-    if (isLineEditDelete(responder, action)) {
+    if (responder && isLineEditDelete(responder, action)) {
         static_cast<QLineEdit *>(responder)->del();
-    } else {
+    } else if (responder) {
         QMetaObject::invokeMethod(responder, action.slot);
     }
 }
@@ -116,51 +121,27 @@ QAction *addEditItem(QMenu *menu, const EditAction &action)
     item->setShortcut(action.shortcut);
     item->setShortcutContext(Qt::ApplicationShortcut);
     QObject::connect(item, &QAction::triggered, menu, [&action] { perform(action); });
-    QObject::connect(menu, &QMenu::aboutToShow, item, [item, &action] { item->setEnabled(wouldAct(action)); });
+    QObject::connect(menu, &QMenu::aboutToShow, item, [item, &action] { item->setEnabled(responderFor(action)); });
     // A disabled item has no shortcut, and nobody would enable it again.
     QObject::connect(menu, &QMenu::aboutToHide, item, [item] { item->setEnabled(true); });
     return item;
-}
-
-QPointer<QWidget> &lastResponder()
-{
-    static QPointer<QWidget> last;
-    return last;
-}
-
-bool isMenu(const QWidget *widget)
-{
-    return qobject_cast<const QMenu *>(widget) || qobject_cast<const QMenuBar *>(widget);
-}
-
-void followFocus()
-{
-    lastResponder() = QApplication::focusWidget();
-    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget *, QWidget *now) {
-        if (now && !isMenu(now)) {
-            lastResponder() = now;
-        }
-    });
 }
 
 } // namespace
 
 QMenu *makeEditMenu()
 {
-    static const bool follows = (followFocus(), true);
-    Q_UNUSED(follows)
     auto *menu = new QMenu(u"Edit"_s);
+    lastResponder = QApplication::focusWidget();
+    QObject::connect(qApp, &QApplication::focusChanged, menu, [](QWidget *, QWidget *now) {
+        if (now && !isMenu(now)) {
+            lastResponder = now;
+        }
+    });
     for (const EditAction &action : editActions()) {
         addEditItem(menu, action);
     }
     return menu;
-}
-
-QWidget *firstResponder()
-{
-    QWidget *focus = QApplication::focusWidget();
-    const bool menuIsOpen = QApplication::activePopupWidget();
-    return isMenu(focus) || (!focus && menuIsOpen) ? lastResponder().data() : focus;
 }
 
 } // namespace tetrad

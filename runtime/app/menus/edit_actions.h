@@ -1,19 +1,15 @@
 #pragma once
 
 class QMenu;
-class QWidget;
 
 namespace tetrad {
 
 /// Makes the Edit menu: Undo, Redo, Cut, Copy, Paste, Delete, Select All. Each item works on the first
 /// responder: the nearest widget, from the one with the focus outwards to its window, that has an
 /// invokable slot of the action's name (undo, redo, cut, copy, paste, del, selectAll). A widget may
-/// tell whether an action would do anything by a bool property canUndo, canRedo, canCut, canCopy,
+/// report whether an action would do anything by a bool property canUndo, canRedo, canCut, canCopy,
 /// canPaste, canDelete or canSelectAll. While the menu is open, items that would do nothing are
 /// disabled. The caller owns the menu.
 QMenu *makeEditMenu();
-
-/// The widget with the focus, or, while a menu has it, the widget that had it before.
-QWidget *firstResponder();
 
 } // namespace tetrad

@@ -97,7 +97,7 @@ void present(QWidget *widget)
 void begin(ModalRun &run)
 {
     if (runs.isEmpty()) {
-        filter().install();
+        qApp->installEventFilter(&filter());
     }
     runs.append(&run);
     setServingEvents(true);
@@ -129,7 +129,7 @@ void finish(const ModalRun &run)
     }
     if (runs.isEmpty()) {
         filter().focus().setWidget(nullptr);
-        filter().remove();
+        qApp->removeEventFilter(&filter());
     } else {
         returnTo(*runs.last(), run.focusBefore);
     }
@@ -187,24 +187,14 @@ void setWorksWhenModal(QWidget *widget, bool works)
 
 bool worksWhenModal(const QWidget *widget)
 {
-    for (; widget; widget = widget->parentWidget()) {
-        if (widget->property(worksWhenModalKey).toBool()) {
-            return true;
-        }
-    }
-    return false;
+    return holdsOutwards(widget, [](const QWidget *each) { return each->property(worksWhenModalKey).toBool(); });
 }
 
 bool closeMeansQuit(const Window *window)
 {
-    if (runs.isEmpty()) {
-        return false;
-    }
-    const QWidget *carrier = runs.size() == 1 ? modalWindow() : nullptr;
-    while (carrier && carrier != window) {
-        carrier = carrier->parentWidget();
-    }
-    return carrier || isLastVisible(window);
+    const auto isWindow = [window](const QWidget *each) { return each == window; };
+    const bool carriesTheOnlyRun = runs.size() == 1 && holdsOutwards(modalWindow(), isWindow);
+    return carriesTheOnlyRun || (!runs.isEmpty() && isLastVisible(window));
 }
 
 bool isLastVisible(const Window *window)

@@ -62,16 +62,6 @@ QPoint pressPosition(QEvent *event)
 
 } // namespace
 
-void ModalFilter::install()
-{
-    qApp->installEventFilter(this);
-}
-
-void ModalFilter::remove()
-{
-    qApp->removeEventFilter(this);
-}
-
 bool ModalFilter::eventFilter(QObject *receiver, QEvent *event)
 {
     if (auto *window = qobject_cast<QWindow *>(receiver)) {
@@ -221,12 +211,7 @@ bool ModalFilter::comesFromInside(const QWidget *widget) const
 
 bool ModalFilter::isCarrier(const QWidget *window) const
 {
-    for (const QWidget *each = m_focus.widget(); each; each = each->parentWidget()) {
-        if (each == window) {
-            return true;
-        }
-    }
-    return false;
+    return holdsOutwards(m_focus.widget(), [window](const QWidget *each) { return each == window; });
 }
 
 bool ModalFilter::isScrollBar(const QWidget *widget) const

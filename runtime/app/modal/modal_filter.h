@@ -19,9 +19,6 @@ class ModalFilter : public QObject
     Q_OBJECT
 
 public:
-    void install();
-    void remove();
-
     ModalFocus &focus() { return m_focus; }
 
     /// Sends the keys that were kept to what has the focus in the window of the newest run, as long as that run is on.

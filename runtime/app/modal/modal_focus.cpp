@@ -50,12 +50,8 @@ void ModalFocus::focusInside()
 
 bool ModalFocus::isLive(const QWidget *widget) const
 {
-    for (const QWidget *each = widget; each; each = each->parentWidget()) {
-        if (each == m_widget) {
-            return true;
-        }
-    }
-    return isInMenu(widget) || worksWhenModal(widget);
+    return holdsOutwards(widget, [this](const QWidget *each) { return each == m_widget; }) || isInMenu(widget) ||
+           worksWhenModal(widget);
 }
 
 void ModalFocus::windowActivated(const QWidget *widget)
@@ -121,12 +117,9 @@ void ModalFocus::focusMoved(QWidget *now)
 
 bool isInMenu(const QWidget *widget)
 {
-    for (; widget; widget = widget->parentWidget()) {
-        if (qobject_cast<const QMenu *>(widget) || qobject_cast<const QMenuBar *>(widget)) {
-            return true;
-        }
-    }
-    return false;
+    return holdsOutwards(widget, [](const QWidget *each) {
+        return qobject_cast<const QMenu *>(each) || qobject_cast<const QMenuBar *>(each);
+    });
 }
 
 // A menu bar has the keyboard while one of its titles is highlighted. When its window was left and entered again
@@ -139,12 +132,7 @@ bool isIdleBar(const QWidget *widget)
 
 QWidget *widgetOfWindow(const QWindow *window)
 {
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->windowHandle() == window) {
-            return widget;
-        }
-    }
-    return nullptr;
+    return window ? QWidget::find(window->winId()) : nullptr;
 }
 
 } // namespace tetrad

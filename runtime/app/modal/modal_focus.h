@@ -47,6 +47,16 @@ private:
     QPointer<QWidget> m_front;
 };
 
+/// Whether a condition holds for a widget or one of those it belongs to, windows that belong to others included.
+template <typename Condition>
+bool holdsOutwards(const QWidget *widget, Condition condition)
+{
+    while (widget && !condition(widget)) {
+        widget = widget->parentWidget();
+    }
+    return widget;
+}
+
 bool isInMenu(const QWidget *widget);
 
 /// Whether the widget is a menu bar without a highlighted title.

@@ -30,21 +30,6 @@ QPoint positionAtEdge(const QRect &anchor, const QSize &size, Qt::Edge edge)
     return {centred.x(), anchor.bottom() + 1};
 }
 
-Qt::Edge oppositeEdge(Qt::Edge edge)
-{
-    switch (edge) {
-    case Qt::TopEdge:
-        return Qt::BottomEdge;
-    case Qt::LeftEdge:
-        return Qt::RightEdge;
-    case Qt::RightEdge:
-        return Qt::LeftEdge;
-    case Qt::BottomEdge:
-        break;
-    }
-    return Qt::TopEdge;
-}
-
 } // namespace
 
 Popover::Popover(Tag tag, const QSize &contentSize) : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint)
@@ -73,18 +58,16 @@ void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferre
     const QRect anchor(view->mapToGlobal(local.topLeft()), local.size());
     const QRect screenArea = view->screen()->availableGeometry();
     adjustSize();
-    QPoint position = positionAtEdge(anchor, size(), preferredEdge);
-    if (!screenArea.contains(QRect(position, size()))) {
-        const QPoint other = positionAtEdge(anchor, size(), oppositeEdge(preferredEdge));
-        position = screenArea.contains(QRect(other, size())) ? other : position;
-    }
+    const QRect preferred(positionAtEdge(anchor, size(), preferredEdge), size());
+    const QRect opposite(anchor.topLeft() + anchor.bottomRight() - preferred.bottomRight(), size());
+    const bool changesSides = !screenArea.contains(preferred) && screenArea.contains(opposite);
     const QPointer<Popover> guard(this);
     Q_EMIT willShow();
     if (!guard) {
         return;
     }
     TagRegistry<Popover>::instance().bringToFront(this);
-    move(position);
+    move(changesSides ? opposite.topLeft() : preferred.topLeft());
     show();
     Q_EMIT didShow();
 }

@@ -16,24 +16,13 @@ ContentViewSC::ContentViewSC(QWidget *parent) : EventView(parent)
 {
     setObjectName(QString::number(contentViewTag));
     setMouseTracking(true);
+    setAcceptDrops(true);
 }
 
 void ContentViewSC::setResponderFlag(bool flag)
 {
     m_responderFlag = flag;
     setFocusPolicy(flag ? Qt::StrongFocus : Qt::NoFocus);
-}
-
-void ContentViewSC::setDragFileTypes(const QStringList &types)
-{
-    m_dragFileTypes = types;
-    setAcceptDrops(!m_dragFileTypes.isEmpty() || !m_dragFileExtensions.isEmpty());
-}
-
-void ContentViewSC::setDragFileExtensions(const QStringList &extensions)
-{
-    m_dragFileExtensions = extensions;
-    setAcceptDrops(!m_dragFileTypes.isEmpty() || !m_dragFileExtensions.isEmpty());
 }
 
 void ContentViewSC::setBackgroundColor(const QColor &color)
