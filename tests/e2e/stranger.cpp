@@ -10,7 +10,6 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
-#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <iostream>
@@ -27,8 +26,7 @@ namespace {
 
 void say(const QString &line)
 {
-    std::printf("%s\n", qUtf8Printable(line));
-    std::fflush(stdout);
+    std::cout << line.toStdString() << std::endl;
 }
 
 Window *window()
