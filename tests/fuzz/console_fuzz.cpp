@@ -53,9 +53,17 @@ QColor color(Input &in)
     return value == 0 ? QColor() : QColor::fromRgb(value, 255 - value, value * 7 % 256, value % 3 == 0 ? 128 : 255);
 }
 
+// Any UTF-16 units whatever, halves of pairs included, or what UTF-8 spells.
 QString text(Input &in)
 {
-    return in.byte() % 4 == 0 ? in.units(12) : in.textUntil('|').left(60);
+    if (in.byte() % 4 != 0) {
+        return in.textUntil('|').left(60);
+    }
+    QString units;
+    while (units.size() < 12 && !in.isEmpty()) {
+        units += QChar(in.number<char16_t>());
+    }
+    return units;
 }
 
 using View = CUI_PrintToWindowView;

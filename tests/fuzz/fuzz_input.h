@@ -52,16 +52,6 @@ public:
         return text;
     }
 
-    /// Any UTF-16 units whatever, halves of pairs included; two bytes each.
-    QString units(int count)
-    {
-        QString text;
-        for (int i = 0; i < count && !isEmpty(); ++i) {
-            text += QChar(number<char16_t>());
-        }
-        return text;
-    }
-
 private:
     QByteArrayView m_rest;
 };

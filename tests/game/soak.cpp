@@ -91,11 +91,10 @@ const QList<QStringList> ways = {
 
 QString puzzleOnScreen()
 {
-    static const QRegularExpression pattern(
-        u"\\n[\\s\\x08]*(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]+(\\d)[\\s\\x08]*\\n"_s);
-    const auto match = pattern.match(CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->textString());
-    require(match.hasMatch(), "a puzzle is on the screen");
-    return match.capturedTexts().mid(1).join(u' ');
+    static const QRegularExpression pattern(u"\\b\\d \\d \\d \\d\\b"_s);
+    const QString text = CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow())->textString().remove(u'\b').simplified();
+    require(text.contains(pattern), "a puzzle is on the screen", text);
+    return pattern.match(text).captured();
 }
 
 /// Answers what is asked, one modal run after the other.
