@@ -69,8 +69,8 @@ class Node:
         x, y, width, height = self.rectangle
         return x + width // 2, y + height // 2
 
-    def is_the_same_as(self, other):
-        return other is not None and self._accessible == other._accessible
+    def __eq__(self, other):
+        return isinstance(other, Node) and self._accessible == other._accessible
 
     def find_all(self, *roles, name=None):
         """The objects below this one, nearest first, that are shown and have one of the roles and the name."""
@@ -106,38 +106,29 @@ class Node:
         return Atspi.Action.do_action(self._accessible, names.index("Press"))
 
 
-class TextEvents:
-    """The events of one text while it changes: kind, number and text, in the order of their arrival."""
+def text_events(node):
+    """The events of one text from now on, in the order of their arrival: kind, number and text. They end with the listener,
+    which is returned as well."""
+    events = []
 
-    def __init__(self, node):
-        self.events = []
-        self._node = node
-        self._listener = Atspi.EventListener.new(self._heard)
-
-    def __enter__(self):
-        for name in TEXT_EVENTS:
-            self._listener.register(name)
-        return self
-
-    def __exit__(self, *_):
-        for name in TEXT_EVENTS:
-            self._listener.deregister(name)
-
-    def _heard(self, event):
+    def hear(event):
         # GObject's boxed event is only lent.
-        if event.source == self._node._accessible:
-            self.events.append((event.type.removeprefix("object:"), event.detail1, event.any_data))
+        if event.source == node._accessible:
+            events.append((event.type.removeprefix("object:"), event.detail1, event.any_data))
 
-    def named(self, name):
-        return [event for event in self.events if event[0] == name]
+    listener = Atspi.EventListener.new(hear)
+    for name in TEXT_EVENTS:
+        listener.register(name)
+    return events, listener
 
-    def replay(self, text):
-        """What a client that follows only the events makes of the text it had before."""
-        for kind, start, changed in self.events:
-            if kind == "text-changed:insert":
-                text = text[:start] + changed + text[start:]
-            elif kind == "text-changed:delete":
-                if not text.startswith(changed, start):
-                    raise AssertionError(f"{changed!r} was said to be deleted at {start} of {text!r}")
-                text = text[:start] + text[start + len(changed):]
-        return text
+
+def replayed(events, text):
+    """What a client that follows only the events makes of the text it had before."""
+    for kind, start, changed in events:
+        if kind == "text-changed:insert":
+            text = text[:start] + changed + text[start:]
+        elif kind == "text-changed:delete":
+            if not text.startswith(changed, start):
+                raise AssertionError(f"{changed!r} was said to be deleted at {start} of {text!r}")
+            text = text[:start] + text[start + len(changed):]
+    return text

@@ -3,31 +3,20 @@
 Prints "ready" once it is in charge. What it takes over it serves until it is ended.
 """
 
-from Xlib import X, Xatom, display
+from Xlib import X, display
 from Xlib.protocol import event
 
 screen = display.Display()
-atom = screen.intern_atom
-CLIPBOARD, MANAGER, SAVE_TARGETS, TARGETS, UTF8 = map(
-    atom, ("CLIPBOARD", "CLIPBOARD_MANAGER", "SAVE_TARGETS", "TARGETS", "UTF8_STRING"))
+CLIPBOARD, MANAGER, UTF8 = map(screen.intern_atom, ("CLIPBOARD", "CLIPBOARD_MANAGER", "UTF8_STRING"))
 window = screen.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
-saved = None
-asker = None
+saved = asker = None
 
 
-def answer(request, succeeded):
+def answer(request):
     request.requestor.send_event(event.SelectionNotify(
         time=request.time, requestor=request.requestor, selection=request.selection, target=request.target,
-        property=request.property if succeeded else X.NONE))
+        property=request.property))
     screen.flush()
-
-
-def serve(request):
-    if request.target == TARGETS:
-        request.requestor.change_property(request.property, Xatom.ATOM, 32, [TARGETS, UTF8])
-    elif request.target == UTF8:
-        request.requestor.change_property(request.property, UTF8, 8, saved)
-    answer(request, request.target in (TARGETS, UTF8))
 
 
 window.set_selection_owner(MANAGER, X.CurrentTime)
@@ -42,7 +31,9 @@ while True:
     elif happened.type == X.SelectionNotify and asker:
         saved = window.get_full_property(UTF8, X.AnyPropertyType).value
         window.set_selection_owner(CLIPBOARD, X.CurrentTime)
-        answer(asker, True)
+        answer(asker)
         asker = None
     elif happened.type == X.SelectionRequest:
-        serve(happened)
+        # xclip asks for nothing but UTF-8.
+        happened.requestor.change_property(happened.property, UTF8, 8, saved)
+        answer(happened)

@@ -37,11 +37,7 @@ class Game:
         self.application = None
 
     def wait_for_start(self):
-        self.wait(self.is_accessible, "the program on the accessibility bus")
-
-    def is_accessible(self):
-        self.application = self.application or application_of(self.process.pid)
-        return self.application is not None
+        self.application = self.wait(lambda: application_of(self.process.pid), "the program on the accessibility bus")
 
     def has_keyboard(self):
         """Whether the display sends keys to its window, whatever the window manager calls active."""

@@ -25,7 +25,7 @@ class TestPlaying(PlayingTest):
                 game.activate()
                 game.wait_for_field_text("1+2*")
         game.type("3", "1+2*3")
-        self.assertTrue(game.field().is_the_same_as(field))
+        self.assertEqual(game.field(), field)
         self.assertEqual((game.field().name, other.application.find("text").text), (PROMPT, "9"))
 
     def test_each_item_of_the_edit_menu_by_mouse_and_by_shortcut(self):

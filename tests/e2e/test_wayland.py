@@ -58,7 +58,7 @@ class TestWayland(PlayingTest):
         game.desktop = keys = WaylandKeys(self.desktop)
         first = game.wait_for_puzzle()
         # In the window itself: a window of its own would stand in the middle of the screen.
-        self.assertTrue(game.window().find("text", name=PROMPT).is_the_same_as(game.field()))
+        self.assertEqual(game.window().find("text", name=PROMPT), game.field())
         self.assertEqual(len(game.application.children), 1)
         game.answer("9")
         game.answer("s", prompt_after("9"))
