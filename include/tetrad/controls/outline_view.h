@@ -43,9 +43,6 @@ public:
     /// The current item's value; invalid when none is selected.
     QVariant selectedObject() const;
 
-protected:
-    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
-
 private:
     void loadChildren(const QPersistentModelIndex &parent, const QVariant &parentObject);
     bool addChild(const QPersistentModelIndex &parent, const QVariant &object);

@@ -27,7 +27,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
 private:
     void reloadHeader(int column);
@@ -45,9 +44,6 @@ public:
     TableRowViewSC(TableViewSC *tableView, int row) : m_tableView(tableView), m_row(row) {}
 
     qint64 forwardEvent(qint64 event);
-
-    /// Lets the program draw behind the row's cells.
-    void drawBackground();
 
 private:
     TableViewSC *m_tableView = nullptr;

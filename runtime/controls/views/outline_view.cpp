@@ -3,7 +3,7 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include "runtime/controls/views/selection_gate.h"
+#include "runtime/controls/views/item_view_events.h"
 #include <tetrad/events/event_codes.h>
 
 #include <QHeaderView>
@@ -49,11 +49,6 @@ void report(OutlineViewSC *outlineView, qint64 event, const QVariant &item)
 OutlineViewSC::OutlineViewSC(QWidget *parent) : QTreeWidget(parent)
 {
     header()->setSectionsClickable(true);
-    const auto reportClick = [this](int column) {
-        CUI_DialogEventObj()->tableColumnObj = column;
-        forwardDelegateEvent(this, outlineViewEventColumnClicked);
-    };
-    connect(header(), &QHeaderView::sectionClicked, this, reportClick, Qt::QueuedConnection);
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) {
         callSoon(this, [this, index = QPersistentModelIndex(indexFromItem(item))] { open(index); });
     });
@@ -61,10 +56,12 @@ OutlineViewSC::OutlineViewSC(QWidget *parent) : QTreeWidget(parent)
         callSoon(this,
                  [this, object = outlineItem(item)->object()] { report(this, outlineViewEventDidCollapse, object); });
     });
-    new SelectionGate(this, [this](const QModelIndex &item) {
-        CUI_DialogEventObj()->object = outlineItem(itemFromIndex(item))->object();
-        return answersYes(this, outlineViewEventRefuseSelectItem);
-    });
+    new ItemViewEvents(
+        this, header(),
+        {outlineViewEventRefuseSelectItem, outlineViewEventSelectionChanged, outlineViewEventColumnClicked},
+        [this](const QModelIndex &item) {
+            CUI_DialogEventObj()->object = item.isValid() ? outlineItem(itemFromIndex(item))->object() : QVariant();
+        });
 }
 
 void OutlineViewSC::reloadData()
@@ -130,12 +127,6 @@ void OutlineViewSC::open(const QPersistentModelIndex &index)
     if (guard) {
         report(this, outlineViewEventDidExpand, object);
     }
-}
-
-void OutlineViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
-{
-    QTreeWidget::selectionChanged(selected, deselected);
-    callSoon(this, [this] { report(this, outlineViewEventSelectionChanged, selectedObject()); });
 }
 
 void CUI_OutlineView(Tag tag, const QStringList &columns, const QRectF &rect)

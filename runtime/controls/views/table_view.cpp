@@ -3,7 +3,7 @@
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
-#include "runtime/controls/views/selection_gate.h"
+#include "runtime/controls/views/item_view_events.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/events/event_codes.h>
 
@@ -47,16 +47,10 @@ TableViewSC::TableViewSC(QWidget *parent) : QTableWidget(parent)
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
-    const auto reportClick = [this](int column) {
-        setColumn(column);
-        forwardDelegateEvent(this, tableViewEventColumnClicked);
-    };
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, reportClick, Qt::QueuedConnection);
     connect(this, &QTableWidget::cellChanged, this, &TableViewSC::reportEdit);
-    new SelectionGate(this, [this](const QModelIndex &item) {
-        setRow(item.row());
-        return answersYes(this, tableViewEventRefuseSelectRow);
-    });
+    new ItemViewEvents(this, horizontalHeader(),
+                       {tableViewEventRefuseSelectRow, tableViewEventSelectionChanged, tableViewEventColumnClicked},
+                       [](const QModelIndex &item) { setRow(item.row()); });
 }
 
 void TableViewSC::reloadData()
@@ -126,18 +120,11 @@ void TableViewSC::reloadRow(int row)
 void TableViewSC::paintEvent(QPaintEvent *event)
 {
     for (int row = std::max(0, rowAt(0)); row < rowCount() && rowViewportPosition(row) < viewport()->height(); ++row) {
-        TableRowViewSC(this, row).drawBackground();
+        CUI_DialogEventObj()->viewObj = viewport();
+        CUI_DialogEventObj()->rectVal = QRectF(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+        TableRowViewSC(this, row).forwardEvent(tableViewEventDrawRow);
     }
     QTableWidget::paintEvent(event);
-}
-
-void TableViewSC::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
-{
-    QTableWidget::selectionChanged(selected, deselected);
-    callSoon(this, [this] {
-        setRow(selectedRow());
-        forwardDelegateEvent(this, tableViewEventSelectionChanged);
-    });
 }
 
 void TableViewSC::reportEdit(int row, int column)
@@ -152,17 +139,8 @@ void TableViewSC::reportEdit(int row, int column)
 
 qint64 TableRowViewSC::forwardEvent(qint64 event)
 {
+    setRow(m_row);
     return forwardDelegateEvent(m_tableView, event);
-}
-
-void TableRowViewSC::drawBackground()
-{
-    CUI_DialogEvent *const record = CUI_DialogEventObj();
-    record->longVal = m_row;
-    record->viewObj = m_tableView->viewport();
-    record->rectVal = QRectF(0, m_tableView->rowViewportPosition(m_row), m_tableView->viewport()->width(),
-                             m_tableView->rowHeight(m_row));
-    forwardEvent(tableViewEventDrawRow);
 }
 
 void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect)

@@ -1,5 +1,8 @@
-#include "runtime/controls/views/selection_gate.h"
+#include "runtime/controls/views/item_view_events.h"
 
+#include "runtime/controls/dispatch/event_site.h"
+
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -48,15 +51,26 @@ bool opensOrCloses(const QAbstractItemView *view, const QKeyEvent &event)
 
 } // namespace
 
-SelectionGate::SelectionGate(QAbstractItemView *view, Refuses refuses)
-    : QObject(view), m_view(view), m_refuses(std::move(refuses))
+ItemViewEvents::ItemViewEvents(QAbstractItemView *view, QHeaderView *header, const Codes &codes, RecordItem recordItem)
+    : QObject(view), m_view(view), m_codes(codes), m_recordItem(std::move(recordItem))
 {
     view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
+    const auto reportSelection = [this] {
+        m_recordItem(m_view->selectionModel()->selectedIndexes().value(0));
+        forwardDelegateEvent(m_view, m_codes.selectionChanged);
+    };
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, reportSelection,
+            Qt::QueuedConnection);
+    const auto reportColumn = [this](int column) {
+        CUI_DialogEventObj()->tableColumnObj = column;
+        forwardDelegateEvent(m_view, m_codes.columnClicked);
+    };
+    connect(header, &QHeaderView::sectionClicked, this, reportColumn, Qt::QueuedConnection);
 }
 
 // A key that moves the selection, if the program lets it, and those that select nothing.
-bool SelectionGate::letsKey(QKeyEvent *event)
+bool ItemViewEvents::letsKey(QKeyEvent *event)
 {
     const auto [moves, target] = Lender::target(m_view, *event);
     if (!moves) {
@@ -66,7 +80,7 @@ bool SelectionGate::letsKey(QKeyEvent *event)
     return opensOrCloses(m_view, *event) || lets(target);
 }
 
-bool SelectionGate::eventFilter(QObject *watched, QEvent *event)
+bool ItemViewEvents::eventFilter(QObject *watched, QEvent *event)
 {
     const auto position = [event] { return static_cast<QMouseEvent *>(event)->position().toPoint(); };
     switch (event->type()) {
@@ -82,17 +96,18 @@ bool SelectionGate::eventFilter(QObject *watched, QEvent *event)
 }
 
 // False also when the question was answered by deleting or reloading the view.
-bool SelectionGate::lets(const QModelIndex &item)
+bool ItemViewEvents::lets(const QModelIndex &item)
 {
     if (!item.isValid() || m_view->selectionModel()->isSelected(item)) {
         return true;
     }
-    const QPointer<SelectionGate> guard(this);
+    const QPointer<ItemViewEvents> guard(this);
     const QPersistentModelIndex target(item);
-    return !m_refuses(item) && guard && target.isValid();
+    m_recordItem(item);
+    return !answersYes(m_view, m_codes.refuseSelect) && guard && target.isValid();
 }
 
-bool SelectionGate::letsPress(const QPoint &position)
+bool ItemViewEvents::letsPress(const QPoint &position)
 {
     m_item = QModelIndex();
     m_isLet = true;
@@ -102,14 +117,14 @@ bool SelectionGate::letsPress(const QPoint &position)
 }
 
 // Each item is asked about once, when the mouse comes to it.
-bool SelectionGate::letsDrag(const QPoint &position)
+bool ItemViewEvents::letsDrag(const QPoint &position)
 {
     const QModelIndex item = m_view->indexAt(position).siblingAtColumn(0);
     if (!item.isValid() || item == m_item) {
         return m_isLet;
     }
     m_item = item;
-    const QPointer<SelectionGate> guard(this);
+    const QPointer<ItemViewEvents> guard(this);
     const bool isLet = lets(item);
     if (guard) {
         m_isLet = isLet;
