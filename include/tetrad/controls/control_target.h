@@ -68,19 +68,20 @@ DelegateCallback delegateCallback(const QObject *view);
 /// Null takes the callback out again. A missing view shows an alert.
 void ViewSetDelegateCallback(Tag tag, DelegateCallback callback);
 
-/// A delegate that reports what happens to a view to the view's delegate callback, else, with |object|, to the dialog
-/// function. Returns the callee's result.
+/// What the delegates of views share. Each makes the view's window (see objectWindowTag) the output window, calls a
+/// function with the event and returns its result: the dialog function, with the tags of the view and of its window and
+/// with |object| ...
+class DialogFunctionDelegate
+{
+public:
+    static qint64 callUserDefinedOnDialogFunctionWithEvent(const QObject *view, qint64 event, Tag object);
+};
+
+/// ... or the view's delegate callback, where there is one.
 class ForwardingDelegate
 {
 public:
     static qint64 forwardEvent(const QObject *view, qint64 event, Tag object);
-};
-
-/// A delegate that always calls the dialog function.
-class DialogFunctionDelegate
-{
-public:
-    static void callUserDefinedOnDialogFunctionWithEvent(const QObject *view, qint64 event, Tag object);
 };
 
 } // namespace tetrad

@@ -1,10 +1,11 @@
 #pragma once
 
-// Implemented in runtime/controls/statements/mda.cpp.
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace tetrad {
 
@@ -20,7 +21,12 @@ public:
     using Indices = QList<qint64>;
 
     /// The number of indices in each dimension; a negative one counts as 0.
-    explicit MDAObj(const Indices &dimensions = {});
+    explicit MDAObj(const Indices &dimensions = {}) : m_dimensions(dimensions)
+    {
+        for (qint64 &dimension : m_dimensions) {
+            dimension = std::max<qint64>(dimension, 0);
+        }
+    }
 
     const Indices &dimensions() const { return m_dimensions; }
 
@@ -29,7 +35,18 @@ public:
 
     /// Grows the array where an index is outside it. False, with nothing changed, when an index is negative or their
     /// number is not that of the dimensions.
-    bool setValue(const Indices &indices, const QVariant &value);
+    bool setValue(const Indices &indices, const QVariant &value)
+    {
+        const bool isElement = indices.size() == m_dimensions.size() &&
+                               std::none_of(indices.begin(), indices.end(), [](qint64 index) { return index < 0; });
+        for (qsizetype i = 0; isElement && i < indices.size(); ++i) {
+            m_dimensions[i] = std::max(m_dimensions[i], indices[i] + 1);
+        }
+        if (isElement) {
+            m_elements.insert(indices, value);
+        }
+        return isElement;
+    }
 
     /// An invalid value for an unknown key.
     QVariant valueForKey(const QString &key) const { return m_keyed.value(key); }
@@ -37,7 +54,11 @@ public:
     QStringList keys() const { return m_keyed.keys(); }
 
     /// Forgets all values and keeps the dimensions.
-    void clear();
+    void clear()
+    {
+        m_elements.clear();
+        m_keyed.clear();
+    }
 
 private:
     Indices m_dimensions;

@@ -25,9 +25,6 @@ public:
     void setPosition(int position, int divider);
     int position(int divider) const;
 
-    /// Asks the program for the dividers' colour and thickness and which of them to hide, and uses the answers; this
-    /// happens automatically when the view is shown or has moved its dividers.
-    void askAboutDividers();
     /// Invalid: the style's own dividers.
     QColor dividerColor() const { return m_dividerColor; }
 
@@ -37,6 +34,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void askAboutDividers();
     void layOut();
     int constrained(int position, int divider);
     int edgeBefore(int divider) const;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/controls/statements/toolbar.cpp and titlebar_accessory.cpp.
+// Implemented in runtime/controls/statements/toolbar.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 // Implemented in runtime/controls/lookup/view_lookup.cpp and tag_lookup.cpp, and
-// runtime/controls/statements/view_statement.cpp and titlebar_accessory.cpp.
+// runtime/controls/statements/view_statement.cpp and toolbar.cpp.
 #include <tetrad/events/tag.h>
 
 #include <QString>

@@ -74,7 +74,7 @@ void ControlSetActionID(Tag tag, qint64 id)
         return;
     }
     if (QWidget *const control = ControlWithTag(tag)) {
-        setControlActionName(control, QString::asprintf("controlAction%lld:", static_cast<long long>(id)));
+        setControlActionName(control, u"controlAction%1:"_s.arg(id));
     }
 }
 

@@ -46,13 +46,6 @@ QPointer<InputWatch> inputWatch;
 
 } // namespace
 
-qint64 sendObjectEvent(const QObject *object, qint64 event, Tag obj)
-{
-    const Tag wndTag = objectWindowTag(object);
-    CUI_OutputWindowSetTag(wndTag);
-    return CallUserDefinedOnDialogFunction(event, objectTag(object), wndTag, obj);
-}
-
 DelegateCallback delegateCallback(const QObject *view)
 {
     return view->property(delegateCallbackKey).value<DelegateCallback>();
@@ -65,19 +58,21 @@ void ViewSetDelegateCallback(Tag tag, DelegateCallback callback)
     }
 }
 
+qint64 DialogFunctionDelegate::callUserDefinedOnDialogFunctionWithEvent(const QObject *view, qint64 event, Tag object)
+{
+    const Tag wndTag = objectWindowTag(view);
+    CUI_OutputWindowSetTag(wndTag);
+    return CallUserDefinedOnDialogFunction(event, objectTag(view), wndTag, object);
+}
+
 qint64 ForwardingDelegate::forwardEvent(const QObject *view, qint64 event, Tag object)
 {
     const DelegateCallback callback = delegateCallback(view);
     if (!callback) {
-        return sendObjectEvent(view, event, object);
+        return DialogFunctionDelegate::callUserDefinedOnDialogFunctionWithEvent(view, event, object);
     }
     CUI_OutputWindowSetTag(objectWindowTag(view));
     return callback(objectTag(view), event);
-}
-
-void DialogFunctionDelegate::callUserDefinedOnDialogFunctionWithEvent(const QObject *view, qint64 event, Tag object)
-{
-    sendObjectEvent(view, event, object);
 }
 
 int countAnswer(const QObject *object, qint64 event)

@@ -15,15 +15,11 @@ namespace tetrad {
 /// reports it soon, so that a callback may delete the widget; a question is sent before the widget begins to
 /// work. After each of these calls the object may be gone.
 
-/// Makes the object's window (see objectWindowTag) the output window and calls the dialog function with
-/// the event, the object's tag, its window's tag and `obj`. Returns the function's result.
-qint64 sendObjectEvent(const QObject *object, qint64 event, Tag obj);
-inline qint64 sendObjectEvent(const QObject *object, qint64 event)
+inline void sendObjectEvent(const QObject *object, qint64 event)
 {
-    return sendObjectEvent(object, event, tagFromObject(object));
+    DialogFunctionDelegate::callUserDefinedOnDialogFunctionWithEvent(object, event, tagFromObject(object));
 }
 
-/// As sendObjectEvent, but to the view's delegate callback when it has one.
 inline qint64 forwardDelegateEvent(const QObject *view, qint64 event)
 {
     return ForwardingDelegate::forwardEvent(view, event, tagFromObject(view));

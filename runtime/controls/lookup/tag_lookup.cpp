@@ -1,8 +1,12 @@
 #include "runtime/controls/lookup/tag_lookup.h"
 
 #include "runtime/app/windows/output_window.h"
-#include "runtime/controls/lookup/class_names.h"
 #include <tetrad/controls/view_lookup.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
 
 namespace tetrad {
 
@@ -10,7 +14,78 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const char *classError = QT_TRANSLATE_NOOP("Runtime", "Class error.");
+using Name = std::string_view;
+
+struct ClassRow
+{
+    Name name;
+    Name superclass;
+    // This platform's classes, each as its meta-object names it.
+    std::array<Name, 2> platformClasses;
+};
+
+// The only table from which a class of this platform gets its name.
+constexpr ClassRow classTable[] = {
+    {"NSObject", "", {"QObject"}},
+    {"NSView", "NSObject", {"QWidget"}},
+    {"ViewSC", "NSView", {"tetrad::ViewSC"}},
+    {"ContentViewSC", "NSView", {"tetrad::ContentViewSC"}},
+    {"NSVisualEffectView", "NSView", {"tetrad::VisualEffectView"}},
+    {"NSBox", "NSView", {"QGroupBox"}},
+    {"NSProgressIndicator", "NSView", {"QProgressBar"}},
+    {"NSScrollView", "NSView", {"QAbstractScrollArea"}},
+    {"NSSplitView", "NSView", {"QSplitter"}},
+    {"NSTableHeaderView", "NSView", {"QHeaderView"}},
+    {"NSTabView", "NSView", {"QTabWidget"}},
+    {"NSText", "NSView", {}},
+    {"NSTextView", "NSText", {"QPlainTextEdit", "QTextEdit"}},
+    {"NSControl", "NSView", {}},
+    {"NSButton", "NSControl", {"QAbstractButton"}},
+    {"NSPopUpButton", "NSButton", {"QComboBox"}},
+    {"NSComboBox", "NSTextField", {"tetrad::ComboBoxSC"}},
+    {"NSImageView", "NSControl", {"tetrad::ImageViewSC"}},
+    {"NSSlider", "NSControl", {"QSlider", "QDial"}},
+    {"NSScroller", "NSControl", {"QScrollBar"}},
+    {"NSStepper", "NSControl", {"QAbstractSpinBox"}},
+    {"NSDatePicker", "NSControl", {"QDateTimeEdit", "QCalendarWidget"}},
+    {"NSSegmentedControl", "NSControl", {"tetrad::SegmentedControlSC"}},
+    {"NSTableView", "NSControl", {"QTableView", "QListView"}},
+    {"NSOutlineView", "NSTableView", {"QTreeView"}},
+    {"NSTextField", "NSControl", {"QLineEdit", "QLabel"}},
+    {"NSTokenField", "NSTextField", {"tetrad::TokenFieldSC"}},
+    {"NSToolbar", "NSObject", {"QToolBar"}},
+    {"NSToolbarItem", "NSObject", {"QAction"}},
+    {"NSMenu", "NSObject", {"QMenu"}},
+    {"NSWindow", "NSObject", {"QMainWindow"}},
+    {"NSPopover", "NSObject", {"tetrad::Popover"}},
+};
+
+// The row of the nearest class that has one. Every object is at least a QObject, which the table has.
+const ClassRow *rowOf(const QMetaObject *metaObject)
+{
+    const ClassRow *const row = std::ranges::find_if(classTable, [metaObject](const ClassRow &each) {
+        return std::ranges::count(each.platformClasses, Name(metaObject->className())) > 0;
+    });
+    return row == std::end(classTable) ? rowOf(metaObject->superClass()) : row;
+}
+
+// The name that messages show for a class of this platform, as in "NSButton" for QPushButton.
+QString viewClassName(const QMetaObject &platformClass)
+{
+    const Name name = rowOf(&platformClass)->name;
+    return QString::fromLatin1(name.data(), qsizetype(name.size()));
+}
+
+// Whether an object is of a class of the vocabulary or of one derived from it.
+bool isKindOfViewClass(const QObject *object, const QString &className)
+{
+    const QByteArray wanted = className.toLatin1();
+    const ClassRow *row = rowOf(object->metaObject());
+    while (row != std::end(classTable) && row->name != wanted.constData()) {
+        row = std::ranges::find(classTable, row->superclass, &ClassRow::name);
+    }
+    return row != std::end(classTable);
+}
 
 // A class of the vocabulary or, with the vocabulary's name for it, one of this platform.
 struct WantedClass
@@ -40,40 +115,37 @@ std::pair<QString, QString> classNames(const QObject *found, const WantedClass &
     return {foundName, wanted.name};
 }
 
-QWidget *validatedObject(QObject *object, const WantedClass &wanted)
+template <typename... Values>
+void showClassError(const char *text, const Values &...values)
 {
+    showStatementAlert(QT_TRANSLATE_NOOP("Runtime", "Class error."), text, values...);
+}
+
+QWidget *validated(Tag tagOrView, const WantedClass &wanted)
+{
+    const bool isTag = !isObjectAddress(tagOrView);
+    const QWidget *const contentView = searchedContentView();
+    if (isTag && !contentView) {
+        showNoWindowsError();
+        return nullptr;
+    }
+    const Tag wndTag = isTag ? CUI_ViewWindowTag(contentView) : 0;
+    QObject *const object = isTag ? CUI_ViewWithTag(tagOrView) : objectFromTag(tagOrView);
+    if (!object) {
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find view %1 in window %2."), tagOrView, wndTag);
+        return nullptr;
+    }
     auto *const view = qobject_cast<QWidget *>(object);
     if (view && wanted.includes(view)) {
         return view;
     }
     const auto [found, name] = classNames(object, wanted);
-    showStatementAlert(classError, QT_TRANSLATE_NOOP("Runtime", "View %1 cannot respond to %2 messages."),
-                       u"<%1: 0x%2>"_s.arg(found, QString::number(tagFromObject(object), 16)), name);
-    return nullptr;
-}
-
-QWidget *validated(Tag tagOrView, const WantedClass &wanted)
-{
-    if (isObjectAddress(tagOrView)) {
-        return validatedObject(objectFromTag(tagOrView), wanted);
-    }
-    const QWidget *const contentView = searchedContentView();
-    if (!contentView) {
-        showNoWindowsError();
-        return nullptr;
-    }
-    QWidget *const view = CUI_ViewWithTag(tagOrView);
-    if (view && wanted.includes(view)) {
-        return view;
-    }
-    const Tag wndTag = CUI_ViewWindowTag(contentView);
-    if (view) {
-        const auto [found, name] = classNames(view, wanted);
-        showStatementAlert(classError,
-                           QT_TRANSLATE_NOOP("Runtime", "View %1 (%2), in window %3, cannot respond to %4 messages."),
-                           tagOrView, found, wndTag, name);
+    if (isTag) {
+        showClassError(QT_TRANSLATE_NOOP("Runtime", "View %1 (%2), in window %3, cannot respond to %4 messages."),
+                       tagOrView, found, wndTag, name);
     } else {
-        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find view %1 in window %2."), tagOrView, wndTag);
+        showClassError(QT_TRANSLATE_NOOP("Runtime", "View %1 cannot respond to %2 messages."),
+                       u"<%1: 0x%2>"_s.arg(found, QString::number(tagOrView, 16)), name);
     }
     return nullptr;
 }

@@ -35,12 +35,6 @@ Tag viewSearchTag(const QWidget *view)
     return byIdentifier ? StringIntegerValue(view->objectName()) : objectTag(view);
 }
 
-QWidget *viewInShownPopover(Tag tag)
-{
-    const Popover *const popover = CUI_PopoverShown();
-    return popover ? CUI_ViewSubviewWithTag(popover->contentView(), tag) : nullptr;
-}
-
 QWidget *viewInTabs(const QTabWidget *tabView, Tag tag)
 {
     for (int index = 0; index < tabView->count(); ++index) {
@@ -68,7 +62,8 @@ QWidget *CUI_ViewWithTag(Tag tagOrView)
     if (isObjectAddress(tagOrView)) {
         return qobject_cast<QWidget *>(objectFromTag(tagOrView));
     }
-    if (QWidget *const found = viewInShownPopover(tagOrView)) {
+    const Popover *const popover = CUI_PopoverShown();
+    if (QWidget *const found = popover ? CUI_ViewSubviewWithTag(popover->contentView(), tagOrView) : nullptr) {
         return found;
     }
     QWidget *const contentView = searchedContentView();

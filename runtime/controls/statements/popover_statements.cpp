@@ -22,12 +22,24 @@ bool asks(const Popover *popover)
     return popover->property(asksKey).toBool();
 }
 
-// Turns a popover whose background is dragged off into a window, if the program lets it.
-class PopoverDetacher : public QObject
+// Reports a popover's events. Turns one whose background is dragged off into a window, if the program lets it.
+class PopoverEvents : public QObject
 {
 public:
-    explicit PopoverDetacher(Popover *popover) : QObject(popover), m_popover(popover)
+    explicit PopoverEvents(Popover *popover) : QObject(popover), m_popover(popover)
     {
+        const auto reports = [popover](auto signal, qint64 event) {
+            connect(popover, signal, popover, [popover, event] { sendObjectEvent(popover, event); });
+        };
+        reports(&Popover::willShow, popoverEventWillShow);
+        reports(&Popover::didShow, popoverEventDidShow);
+        reports(&Popover::willClose, popoverEventWillClose);
+        reports(&Popover::didClose, popoverEventDidClose);
+        connect(popover, &Popover::shouldClose, popover, [popover](bool *answer) {
+            if (asks(popover)) {
+                *answer = answersYes(popover, popoverEventShouldClose);
+            }
+        });
         popover->contentView()->installEventFilter(this);
     }
 
@@ -83,23 +95,6 @@ private:
     QPoint m_pressedAt;
 };
 
-void reportPopoverEvents(Popover *popover)
-{
-    const auto reports = [popover](auto signal, qint64 event) {
-        QObject::connect(popover, signal, popover, [popover, event] { sendObjectEvent(popover, event); });
-    };
-    reports(&Popover::willShow, popoverEventWillShow);
-    reports(&Popover::didShow, popoverEventDidShow);
-    reports(&Popover::willClose, popoverEventWillClose);
-    reports(&Popover::didClose, popoverEventDidClose);
-    QObject::connect(popover, &Popover::shouldClose, popover, [popover](bool *answer) {
-        if (asks(popover)) {
-            *answer = answersYes(popover, popoverEventShouldClose);
-        }
-    });
-    new PopoverDetacher(popover);
-}
-
 bool canBePopover(Tag tag)
 {
     if (!canBeTag(tag, QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1."))) {
@@ -135,7 +130,7 @@ void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
     if (!popover) {
         popover = new Popover(popoverTag, contentSize.isEmpty() ? QSize(200, 100) : contentSize.toSize());
         setObjectWindowTag(popover, popoverTag);
-        reportPopoverEvents(popover);
+        new PopoverEvents(popover);
     } else if (!contentSize.isEmpty()) {
         popover->contentView()->setFixedSize(contentSize.toSize());
     }

@@ -5,15 +5,21 @@
 #include "runtime/controls/statements/view_statement.h"
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
+#include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/event_codes.h>
+#include <tetrad/strings/numbers.h>
 
 #include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHBoxLayout>
+#include <QMenuBar>
 #include <QPointer>
 #include <QTimer>
 #include <QToolBar>
 #include <QWidgetAction>
+
+#include <algorithm>
 
 namespace tetrad {
 
@@ -40,14 +46,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        switch (event->type()) {
-        case QEvent::WindowActivate:
-        case QEvent::MouseButtonRelease:
-        case QEvent::KeyRelease:
+        static constexpr QEvent::Type occasions[] = {QEvent::WindowActivate, QEvent::MouseButtonRelease,
+                                                     QEvent::KeyRelease};
+        if (std::ranges::count(occasions, event->type()) > 0) {
             start(0);
-            break;
-        default:
-            break;
         }
         return QTimer::eventFilter(watched, event);
     }
@@ -102,6 +104,12 @@ QAction *addItem(QToolBar *toolbar, QAction *item, Tag tag)
         Qt::QueuedConnection);
     toolbar->addAction(item);
     return item;
+}
+
+// The corner of the menu bar is the nearest to the title that a program can draw in here.
+QWidget *accessoryRow(const Window *window)
+{
+    return window->menuBar()->cornerWidget(Qt::TopRightCorner);
 }
 
 } // namespace
@@ -186,6 +194,46 @@ void ToolbarItemSetValidates(Tag toolbarTag, Tag itemTag, bool validates)
     } else if (toolbar) {
         showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find item %1 in tool bar %2."), itemTag, toolbarTag);
     }
+}
+
+void WindowAddTitlebarAccessoryView(Tag wndTag, Tag view)
+{
+    Window *const window = CUI_WindowWithTag(wndTag);
+    if (!window) {
+        showTagError(QT_TRANSLATE_NOOP("Runtime", "Can't find window %1."), wndTag);
+        return;
+    }
+    QWidget *const added = viewOfClass<QWidget>(view);
+    if (!added) {
+        return;
+    }
+    QWidget *row = accessoryRow(window);
+    if (!row) {
+        row = new QWidget(window);
+        (new QHBoxLayout(row))->setContentsMargins(0, 0, 0, 0);
+        window->menuBar()->setCornerWidget(row, Qt::TopRightCorner);
+    }
+    setWindowTagWithin(added, window->tag());
+    row->layout()->addWidget(added);
+    added->show();
+    row->show();
+}
+
+QWidget *TitlebarAccessoryViewWithTag(Tag tag)
+{
+    const auto *const window = qobject_cast<Window *>(CUI_OutputWindow());
+    const bool hasTitle = window && window->styleMask() & windowStyleTitled;
+    const QWidget *const row = hasTitle ? accessoryRow(window) : nullptr;
+    for (int index = 0; row && index < row->layout()->count(); ++index) {
+        QWidget *const view = row->layout()->itemAt(index)->widget();
+        if (StringIntegerValue(view->objectName()) == tag) {
+            return view;
+        }
+        if (QWidget *const found = CUI_ViewSubviewWithTag(view, tag)) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace tetrad
