@@ -17,24 +17,42 @@ CharacterSet refusedSet(const QString &characters, bool pass, qint64 caseOption)
     return pass ? listed.inverted() : listed;
 }
 
+QString textOf(const QList<uint> &characters)
+{
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), characters.size());
+}
+
 // First letter of each word upper, the others lower; white space separates words.
 QString capitalized(const QString &text)
 {
-    QString result = text.toLower();
+    QList<uint> characters = text.toLower().toUcs4();
     bool wordStarts = true;
-    for (qsizetype i = 0; i < result.size();) {
-        const TextCharacter character = characterAt(result, i);
-        if (wordStarts) {
-            const char32_t title = QChar::toTitleCase(character.value);
-            result.replace(i, character.units, QString::fromUcs4(&title, 1));
-        }
-        wordStarts = QChar::isSpace(character.value);
-        i += characterAt(result, i).units;
+    for (uint &character : characters) {
+        character = wordStarts ? QChar::toTitleCase(character) : character;
+        wordStarts = QChar::isSpace(character);
     }
-    return result;
+    return textOf(characters);
 }
 
 } // namespace
+
+CharacterSet::CharacterSet(QStringView list)
+{
+    const QList<uint> characters = list.toUcs4();
+    m_members = QSet<char32_t>(characters.begin(), characters.end());
+}
+
+CharacterSet CharacterSet::inverted() const
+{
+    CharacterSet result = *this;
+    result.m_inverted = !m_inverted;
+    return result;
+}
+
+bool CharacterSet::containsFirstOf(QStringView text) const
+{
+    return !text.isEmpty() && contains(text.toUcs4().first());
+}
 
 CUI_ControlFormatter::CUI_ControlFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption,
                                            QObject *parent)
@@ -44,7 +62,9 @@ CUI_ControlFormatter::CUI_ControlFormatter(const QString &characters, bool pass,
 
 QString CUI_ControlFormatter::formatted(const QString &proposal) const
 {
-    QString accepted = withoutRefused(proposal);
+    QList<uint> characters = proposal.toUcs4();
+    characters.removeIf([this](char32_t character) { return m_refused.contains(character); });
+    const QString accepted = textOf(characters);
     switch (m_caseOption) {
     case caseForceLower:
         return accepted.toLower();
@@ -59,7 +79,7 @@ QString CUI_ControlFormatter::formatted(const QString &proposal) const
 
 QValidator::State CUI_ControlFormatter::validate(QString &input, int &pos) const
 {
-    if (m_length != 0 && static_cast<quint64>(characterCount(input)) > m_length) {
+    if (m_length != 0 && static_cast<quint64>(input.toUcs4().size()) > m_length) {
         return Invalid;
     }
     const QString text = formatted(input);
@@ -68,33 +88,6 @@ QValidator::State CUI_ControlFormatter::validate(QString &input, int &pos) const
         input = text;
     }
     return Acceptable;
-}
-
-QString CUI_ControlFormatter::withoutRefused(const QString &proposal) const
-{
-    QString accepted;
-    accepted.reserve(proposal.size());
-    for (qsizetype i = 0; i < proposal.size();) {
-        const TextCharacter character = characterAt(proposal, i);
-        if (!m_refused.contains(character.value)) {
-            accepted += QStringView(proposal).mid(i, character.units);
-            takeBackRefusedPair(accepted);
-        }
-        i += character.units;
-    }
-    return accepted;
-}
-
-// When characters between two halves of a pair are removed, the halves become a character that was not checked yet.
-void CUI_ControlFormatter::takeBackRefusedPair(QString &accepted) const
-{
-    if (accepted.size() < 2) {
-        return;
-    }
-    const TextCharacter joined = characterAt(accepted, accepted.size() - 2);
-    if (joined.units == 2 && m_refused.contains(joined.value)) {
-        accepted.chop(joined.units);
-    }
 }
 
 } // namespace tetrad

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/input/control_formatter.cpp and character_set.cpp
+// Implemented in runtime/input/control_formatter.cpp
 
 #include <QSet>
 #include <QStringView>
@@ -8,8 +8,8 @@
 
 namespace tetrad {
 
-/// A set of whole characters (code points, so one outside the basic plane counts once), made from
-/// the characters of a list or from all others.
+/// A set of whole characters (code points; half of a surrogate pair counts as U+FFFD), made from the characters of a
+/// list or from all others.
 class CharacterSet
 {
 public:
@@ -28,18 +28,6 @@ private:
     QSet<char32_t> m_members;
     bool m_inverted = false;
 };
-
-/// The character that starts at a position of the text, and how many units (1 or 2) it takes. Half
-/// of a pair standing alone counts as a character of its own.
-struct TextCharacter
-{
-    char32_t value = 0;
-    int units = 1;
-};
-TextCharacter characterAt(QStringView text, qsizetype position);
-
-/// The number of whole characters.
-qsizetype characterCount(QStringView text);
 
 /// Judges every proposed edit of a text: one longer than the limit is refused outright, refused
 /// characters are taken out of any other, and the case option is applied to what is left.
@@ -63,9 +51,6 @@ public:
     State validate(QString &input, int &pos) const override;
 
 private:
-    QString withoutRefused(const QString &proposal) const;
-    void takeBackRefusedPair(QString &accepted) const;
-
     CharacterSet m_refused;
     quint64 m_length = 0;
     qint64 m_caseOption = 0;
