@@ -1,9 +1,9 @@
 #include <tetrad/input/floating_panel.h>
 
-#include "runtime/input/console_news.h"
 #include "runtime/input/panel_layout.h"
 #include "runtime/input/panel_look.h"
 #include "runtime/input/prompt_label.h"
+#include <tetrad/app/content_view.h>
 #include <tetrad/app/modal.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/windows.h>
@@ -24,6 +24,13 @@ QWidget *hostOfPanel()
 {
     Window *const front = CUI_FrontWindow();
     return front ? front->contentView() : nullptr;
+}
+
+QWidgetList consolesIn(const QWidget *content)
+{
+    auto views = content ? content->findChildren<QWidget *>() : QWidgetList();
+    views.removeIf([](const QWidget *view) { return !dynamic_cast<const PrintedView *>(view); });
+    return views;
 }
 
 } // namespace
@@ -117,7 +124,12 @@ void FloatingPanel::setKeyReceiver(QWidget *receiver)
 {
     m_keyReceiver = receiver;
     receiver->setAccessibleName(prompt().isEmpty() ? QCoreApplication::translate("Runtime", "Input") : prompt());
-    receiver->setAccessibleDescription(newConsoleText(parentWidget()));
+    QString news;
+    const auto consoles = consolesIn(parentWidget());
+    for (QWidget *const console : consoles) {
+        news += dynamic_cast<PrintedView *>(console)->takeNewText();
+    }
+    receiver->setAccessibleDescription(news);
 }
 
 bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
@@ -127,7 +139,7 @@ bool FloatingPanel::eventFilter(QObject *watched, QEvent *event)
     if (fontChanged || (watched == parentWidget() && type == QEvent::Resize)) {
         resize();
     } else if (watched == parentWidget() && type == QEvent::ChildPolished) {
-        // A view made later would stand above the panel.
+        // A view made later would cover the panel.
         raise();
     } else if (type == QEvent::ApplicationPaletteChange || type == QEvent::ApplicationFontChange) {
         // Only windows get these events.

@@ -1,5 +1,6 @@
 #include <tetrad/input/line_input.h>
 
+#include "runtime/controls/events/current_event.h"
 #include "runtime/input/field_formatter.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
@@ -7,9 +8,14 @@
 #include <tetrad/strings/not_given.h>
 
 #include <QAccessible>
+#include <QFontMetrics>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScopeGuard>
 
+#include <limits>
 #include <optional>
 
 namespace tetrad {
@@ -18,24 +24,14 @@ namespace {
 
 std::optional<ZRInputFormat> sPendingInputFormat;
 
-// While it lives, assistive technology gets no events. A screen reader takes a field whose caret moved before the
-// field got the focus, as QLineEdit::setMaxLength reports, for one that it has already spoken.
-class NoAccessibleEvents
-{
-public:
-    NoAccessibleEvents() = default;
-    ~NoAccessibleEvents() { QAccessible::installUpdateHandler(m_handler); }
-    Q_DISABLE_COPY_MOVE(NoAccessibleEvents)
-
-private:
-    QAccessible::UpdateHandler m_handler = QAccessible::installUpdateHandler([](QAccessibleEvent *) {});
-};
-
 QPointer<ZRInputWindow> makePanel(const QString &prompt, qint64 x, qint64 y)
 {
-    const NoAccessibleEvents untilTheFocusEvent;
+    // A screen reader takes a field whose caret moved before the field got the focus, as QLineEdit::setMaxLength
+    // reports, for one that it has already spoken.
+    const auto handler = QAccessible::installUpdateHandler([](QAccessibleEvent *) {});
+    const auto eventsAgain = qScopeGuard([handler] { QAccessible::installUpdateHandler(handler); });
     auto *const panel = new ZRInputWindow(prompt, x, y);
-    if (const ZRInputFormat *const format = pendingInputFormat()) {
+    if (const auto &format = sPendingInputFormat) {
         attachFormatter(panel->field(), format->characters, format->pass, format->maxLength, format->caseOption);
     }
     return panel;
@@ -54,7 +50,99 @@ void retire(const QPointer<ZRInputWindow> &panel)
     before = panel;
 }
 
+bool endsEditing(const QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    default:
+        return false;
+    }
+}
+
+QLineEdit *makeField(QWidget *panel)
+{
+    auto *const field = new QLineEdit(panel);
+    field->setFrame(false);
+    field->setAttribute(Qt::WA_MacShowFocusRect, false);
+    // A line edit cuts at 32767 by default; a longer line is an answer like any other.
+    field->setMaxLength(std::numeric_limits<int>::max());
+    return field;
+}
+
 } // namespace
+
+ZRInputWindow::ZRInputWindow(const QString &prompt, qint64 xPos, qint64 yPos)
+    : FloatingPanel(prompt, xPos, yPos), m_field(makeField(this))
+{
+    connect(m_field, &QLineEdit::textChanged, this, &ZRInputWindow::controlTextDidChange);
+    setEntry(m_field);
+    setKeyReceiver(m_field);
+    center();
+}
+
+void ZRInputWindow::controlTextDidChange()
+{
+    resize();
+}
+
+void ZRInputWindow::controlTextDidEndEditing(QEvent *event)
+{
+    const CurrentEventScope current(event);
+    CUI_AppDelegateObj()->inputResponseString = m_field->text();
+    stopModalWithCode(modalStopped);
+}
+
+bool ZRInputWindow::doCommandBySelector(QByteArrayView command)
+{
+    if (command != "cancelOperation") {
+        return false;
+    }
+    abortModal();
+    return true;
+}
+
+int ZRInputWindow::entryTextWidth() const
+{
+    // Wider than any content; measuring more would only cost time.
+    constexpr int enough = 4096;
+    return m_field->fontMetrics().horizontalAdvance(m_field->text().left(enough) + m_composition);
+}
+
+bool ZRInputWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_field) {
+        if (event->type() == QEvent::KeyPress && fieldKeyPressed(static_cast<QKeyEvent *>(event))) {
+            return true;
+        }
+        if (event->type() == QEvent::InputMethod) {
+            m_composition = static_cast<QInputMethodEvent *>(event)->preeditString();
+            resize();
+        }
+    }
+    return FloatingPanel::eventFilter(watched, event);
+}
+
+bool ZRInputWindow::fieldKeyPressed(QKeyEvent *event)
+{
+    const bool cancels = event->key() == Qt::Key_Escape;
+    if (!cancels && !endsEditing(event)) {
+        return false;
+    }
+    // A key still held down from the last question or alert must not answer this one.
+    if (event->isAutoRepeat()) {
+        return true;
+    }
+    if (cancels) {
+        return doCommandBySelector("cancelOperation");
+    }
+    controlTextDidEndEditing(event);
+    return true;
+}
 
 void InputSetFormat(const QString &characters, qint64 pass, qint64 maxLength, qint64 caseOption)
 {
@@ -69,11 +157,6 @@ void InputSetFormat(const QString &characters, qint64 pass, qint64 maxLength, qi
 void InputRemoveFormat()
 {
     sPendingInputFormat.reset();
-}
-
-const ZRInputFormat *pendingInputFormat()
-{
-    return sPendingInputFormat ? &*sPendingInputFormat : nullptr;
 }
 
 QString ZRInput(qint64 x, qint64 y, const QString &prompt, const QString &characters, qint64 pass, qint64 maxLength,

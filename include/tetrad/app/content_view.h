@@ -105,4 +105,15 @@ private:
     QColor m_backgroundColor;
 };
 
+/// A view that the program prints to, as the input panels know it.
+class PrintedView
+{
+public:
+    /// What was printed since the last call or clear, as readable text.
+    virtual QString takeNewText() = 0;
+
+protected:
+    ~PrintedView() = default;
+};
+
 } // namespace tetrad

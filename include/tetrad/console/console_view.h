@@ -1,6 +1,7 @@
 // Implemented in runtime/console/view/console_view.cpp and console_scroll_view.cpp
 #pragma once
 
+#include <tetrad/app/content_view.h>
 #include <tetrad/console/console_document.h>
 
 #include <QPointer>
@@ -15,7 +16,7 @@ class KeptPicture;
 
 /// The widget that shows a document and lets its text be selected: as wide as its scroll view and as high as the
 /// document, whose height it follows rounded up and up to QWIDGETSIZE_MAX.
-class CUI_PrintToWindowView : public QWidget, public ConsoleDocument
+class CUI_PrintToWindowView : public QWidget, public ConsoleDocument, public PrintedView
 {
     Q_OBJECT
     Q_PROPERTY(bool canCopy READ canCopy)
@@ -33,10 +34,8 @@ public:
     QSizeF documentSize() const override;
     void clear() override;
 
+    QString takeNewText() override;
     Q_INVOKABLE QString dump() const { return items().dump(); }
-
-    /// What was printed since the last call or clear, as readable text.
-    Q_INVOKABLE QString takeNewText();
 
     bool canCopy() const;
     /// Selects from one position between characters to another, where the caret goes, and brings that into view.
@@ -78,7 +77,7 @@ public:
     void setDocumentView(CUI_PrintToWindowView *view);
     CUI_PrintToWindowView *documentView() const;
 
-    /// The opaque colour that the document stands on; invalid when something else may show below it.
+    /// The opaque colour behind the document; invalid when something else may show through.
     QColor plainGround() const;
 
     /// Scrolls as little as brings a rectangle of the document view into view.

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/input/key_input.cpp and inkey_window.cpp
+// Implemented in runtime/input/key_input.cpp
 
 #include <tetrad/input/control_formatter.h>
 #include <tetrad/input/floating_panel.h>
@@ -11,7 +11,7 @@ class QTimer;
 
 namespace tetrad {
 
-/// The format that the next key input filters its keys with.
+/// The format that the next key input filters its keys with, and every later one until it is replaced or removed.
 class ZRInkeyFormat
 {
 public:
@@ -26,9 +26,6 @@ public:
 void InkeySetFormat(const QString &characters, qint64 pass, qint64 caseOption);
 
 void InkeyRemoveFormat();
-
-/// The pending key format, or null. It stays in force from one key input to the next.
-const ZRInkeyFormat *pendingInkeyFormat();
 
 /// The key input's panel: a prompt and a blinking "_". The first key that the pending key format
 /// accepts goes to the application delegate, lowered or raised as the format asks, and ends the modal

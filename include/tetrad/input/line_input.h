@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/input/line_input.cpp and line_input_window.cpp
+// Implemented in runtime/input/line_input.cpp
 
 #include <tetrad/input/floating_panel.h>
 
@@ -22,7 +22,7 @@ enum CaseOption : qint64 {
     caseCapitalizeWords = 4,
 };
 
-/// The format that the next line input gives its field.
+/// The format that the next line input gives its field, and every later one until it is replaced or removed.
 class ZRInputFormat
 {
 public:
@@ -37,9 +37,6 @@ public:
 void InputSetFormat(const QString &characters, qint64 pass, qint64 maxLength, qint64 caseOption);
 
 void InputRemoveFormat();
-
-/// The pending format, or null. It stays in force from one line input to the next.
-const ZRInputFormat *pendingInputFormat();
 
 /// The line input's panel: a prompt and one editable field. Return, Enter, Tab and Backtab hand the
 /// field's text to the application delegate and end the modal run with modalStopped; Escape aborts
