@@ -1,11 +1,10 @@
 #include "game/rules/puzzle_deck.h"
 
+#include <QRandomGenerator>
+
 #include <array>
 #include <cmath>
 #include <cstdlib>
-#ifndef TETRAD_HAVE_ARC4RANDOM
-#include <random>
-#endif
 
 namespace tetrad {
 
@@ -46,8 +45,7 @@ quint32 systemRandom()
 #ifdef TETRAD_HAVE_ARC4RANDOM
     return arc4random();
 #else
-    static std::random_device device;
-    return static_cast<quint32>(device());
+    return QRandomGenerator::system()->generate();
 #endif
 }
 

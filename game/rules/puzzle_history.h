@@ -5,7 +5,7 @@
 
 namespace tetrad {
 
-/// The puzzles shown since the history was last empty, so that none is shown twice before all 96 were.
+/// The puzzles shown since the history was last empty, so that no puzzle is repeated before all 96 were shown.
 /// A puzzle is stored as its key: each number followed by one space, as in "1 3 4 6 ".
 class PuzzleHistory
 {

@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QVariant>
 
-#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -37,29 +36,16 @@ NumberText leadingNumber(QStringView text)
     return {negative, startsNumber ? text.toLatin1() : QByteArray()};
 }
 
-// Distinguishes a number beyond the largest double from one below the smallest: whether its first digit other than
-// zero is before the point once the exponent is applied.
-bool isBeyondLargest(const QByteArray &number)
-{
-    const auto isExponentMark = [](char character) { return character == 'e' || character == 'E'; };
-    const auto mantissaEnd = std::ranges::find_if(number, isExponentMark);
-    const auto point = std::find(number.begin(), mantissaEnd, '.');
-    const auto leading = std::find_if(number.begin(), mantissaEnd, [](char digit) { return digit >= '1'; });
-    const qint64 exponent =
-        mantissaEnd == number.end() ? 0 : StringIntegerValue(QString::fromLatin1(&*mantissaEnd + 1));
-    return exponent > leading - point;
-}
-
 } // namespace
 
 double StringDoubleValue(const QString &text)
 {
-    auto [negative, digits] = leadingNumber(text);
+    const auto [negative, digits] = leadingNumber(text);
     double value = 0;
     const auto read = std::from_chars(digits.cbegin(), digits.cend(), value);
     if (read.ec == std::errc::result_out_of_range) {
-        digits.truncate(read.ptr - digits.cbegin());
-        value = isBeyondLargest(digits) ? std::numeric_limits<double>::infinity() : 0;
+        // from_chars does not distinguish too large from too small.
+        value = QByteArrayView(digits.cbegin(), read.ptr).toDouble();
     }
     return negative ? -value : value;
 }

@@ -26,7 +26,7 @@ StringStackStop installedStop = nullptr;
     const QString message =
         u"Pascal String stack index ( gZRStk ) exceeds string stack size of %1. Zarvane will terminate"_s.arg(
             stringStackSize);
-    // Before the stop asks, so that a log tells why a program that nobody was watching is gone.
+    // Before the stop asks, so that a log says why an unattended program ended.
     std::fprintf(stderr, "%s\n", qUtf8Printable(message));
     std::fflush(stderr);
     if (installedStop) {
@@ -46,8 +46,8 @@ unsigned char *STACK_PUSH()
         stopOverflow();
     }
     ++gZRStk;
-    // After several pops too many there is no slot of that number; slot 0 stands in, so that the
-    // storage's neighbours stay whole.
+    // After several pops too many there is no slot of that number; slot 0 replaces it, so that nothing outside the
+    // storage is overwritten.
     return gZRStrStk[std::max<qint16>(gZRStk, 0)];
 }
 

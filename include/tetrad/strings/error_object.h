@@ -6,7 +6,7 @@
 namespace tetrad {
 
 /// A failure as a value: who reports it (domain), which one it is (code), and a sentence for the
-/// user (description). Travels in a QVariant, so an alert can tell it from a message text.
+/// user (description). It is passed in a QVariant, where an alert distinguishes it from a message text.
 struct ErrorObject
 {
     QString domain;
