@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QList>
 #include <QMetaType>
 #include <QPointF>
@@ -14,7 +15,6 @@
 
 namespace tetrad {
 
-struct FontChoice;
 struct FontFacts;
 
 /// Where tabs lead, in device-independent pixels from the start of the text.
@@ -72,7 +72,7 @@ private:
         QVariantMap others;
     };
     static QSharedDataPointer<Data> &initialData();
-    void setFont(const FontChoice &choice);
+    void setFont(QFont font, double size);
 
     QSharedDataPointer<Data> m_data;
 };

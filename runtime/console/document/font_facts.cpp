@@ -1,19 +1,15 @@
 #include "runtime/console/document/font_facts.h"
 
-#include "runtime/console/document/text_layout.h"
-
 #include <QCoreApplication>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QHashFunctions>
+#include <QHash>
 #include <QScreen>
 #include <QTextLayout>
 
-#include <algorithm>
 #include <cmath>
-#include <unordered_map>
 
 namespace tetrad {
 
@@ -21,16 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ChoiceHash
-{
-    size_t operator()(const FontChoice &choice) const
-    {
-        return qHashMulti(0, choice.family, choice.size, choice.weight, choice.italic, choice.underline,
-                          choice.strikeOut);
-    }
-};
-
-using FactsTable = std::unordered_map<FontChoice, std::shared_ptr<const FontFacts>, ChoiceHash>;
+using FactsTable = QHash<QFont, std::shared_ptr<const FontFacts>>;
 
 FactsTable &factsTable()
 {
@@ -38,15 +25,10 @@ FactsTable &factsTable()
     return table;
 }
 
-QString standardFamily()
-{
-    return QString::fromUtf16(standardFontFamily);
-}
-
 bool isStandardFamily(const QString &family)
 {
     // The font database ignores case too.
-    return family.compare(standardFamily(), Qt::CaseInsensitive) == 0;
+    return family.compare(u"Menlo", Qt::CaseInsensitive) == 0;
 }
 
 QString installedFamily(const QString &family)
@@ -77,19 +59,10 @@ double pointsPerPixel()
     return 72.0 / (screen ? std::round(screen->logicalDotsPerInchY()) : 96.0);
 }
 
-void setPixelSize(QFont &font, double size)
+QFont drawnFont(const QFont &asked)
 {
-    if (size == std::floor(size)) {
-        font.setPixelSize(static_cast<int>(size));
-    } else {
-        font.setPointSizeF(size * pointsPerPixel());
-    }
-}
-
-QFont drawnFont(const FontChoice &choice)
-{
-    QFont font = fontObject(choice);
-    font.setFamilies({installedFamily(choice.family)});
+    QFont font = asked;
+    font.setFamilies({installedFamily(asked.family())});
     font.setStyleHint(QFont::Monospace);
     // Advances must not change with the scale factor, or texts would not be as wide as they were measured.
     font.setHintingPreference(QFont::PreferVerticalHinting);
@@ -121,11 +94,12 @@ double plainAdvance(const QFont &font)
     return advance;
 }
 
-std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
+std::shared_ptr<const FontFacts> computeFacts(const QFont &asked)
 {
     auto facts = std::make_shared<FontFacts>();
-    facts->choice = choice;
-    facts->font = drawnFont(choice);
+    facts->asked = asked;
+    facts->size = fontSize(asked);
+    facts->font = drawnFont(asked);
     facts->emojiFont = facts->font;
     if (const QString emoji = emojiFamily(); !emoji.isEmpty()) {
         facts->emojiFont.setFamilies({emoji});
@@ -139,50 +113,39 @@ std::shared_ptr<const FontFacts> computeFacts(const FontChoice &choice)
 
 } // namespace
 
-FontFacts::FontFacts() = default;
-
-FontFacts::~FontFacts() = default;
-
-bool isFontSize(double size)
-{
-    constexpr double largest = 4096;
-    return size >= 1 && size <= largest;
-}
-
-std::shared_ptr<const FontFacts> fontFacts(const FontChoice &choice)
+std::shared_ptr<const FontFacts> fontFacts(const QFont &asked)
 {
     FactsTable &table = factsTable();
-    if (table.empty()) {
+    if (table.isEmpty()) {
         // Fonts must not outlive the application object that loaded them.
         qAddPostRoutine([] { factsTable().clear(); });
     }
-    std::shared_ptr<const FontFacts> &facts = table[choice];
+    std::shared_ptr<const FontFacts> &facts = table[asked];
     if (!facts) {
-        facts = computeFacts(choice);
+        facts = computeFacts(asked);
     }
     return facts;
 }
 
-FontChoice fontChoice(const QFont &font)
+QFont standardFont()
 {
-    const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() / pointsPerPixel();
-    return {.family = font.family(),
-            .size = size,
-            .weight = font.weight(),
-            .italic = font.italic(),
-            .underline = font.underline(),
-            .strikeOut = font.strikeOut()};
+    QFont font(u"Menlo"_s);
+    font.setPixelSize(12);
+    return font;
 }
 
-QFont fontObject(const FontChoice &choice)
+double fontSize(const QFont &font)
 {
-    QFont font(choice.family);
-    font.setWeight(static_cast<QFont::Weight>(choice.weight));
-    font.setItalic(choice.italic);
-    font.setUnderline(choice.underline);
-    font.setStrikeOut(choice.strikeOut);
-    setPixelSize(font, choice.size);
-    return font;
+    return font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() / pointsPerPixel();
+}
+
+void setFontSize(QFont &font, double size)
+{
+    if (size == std::floor(size)) {
+        font.setPixelSize(static_cast<int>(size));
+    } else {
+        font.setPointSizeF(size * pointsPerPixel());
+    }
 }
 
 bool isKnownFontFamily(const QString &family)

@@ -15,7 +15,7 @@ QSharedDataPointer<TextAttributes::Data> &TextAttributes::initialData()
     static QSharedDataPointer<Data> data;
     if (!data) {
         data = new Data;
-        data->facts = fontFacts({});
+        data->facts = fontFacts(standardFont());
         // It holds a font, and fonts must not outlive the application object that loaded them.
         qAddPostRoutine([] { initialData().reset(); });
     }
@@ -24,42 +24,43 @@ QSharedDataPointer<TextAttributes::Data> &TextAttributes::initialData()
 
 TextAttributes::TextAttributes() : m_data(initialData()) {}
 
-void TextAttributes::setFont(const FontChoice &choice)
+void TextAttributes::setFont(QFont font, double size)
 {
-    FontChoice usable = choice;
-    if (!isFontSize(choice.size)) {
-        qWarning("console: font size %g is not between 1 and 4096, ignored", choice.size);
-        usable.size = fontSize();
+    constexpr double largest = 4096;
+    if (!(size >= 1 && size <= largest)) {
+        qWarning("console: font size %g is not between 1 and 4096, ignored", size);
+        size = fontSize();
     }
-    m_data->facts = fontFacts(usable);
+    tetrad::setFontSize(font, size);
+    m_data->facts = fontFacts(font);
 }
 
 QString TextAttributes::fontName() const
 {
-    return facts().choice.family;
+    return facts().asked.family();
 }
 
 void TextAttributes::setFontName(const QString &name)
 {
-    setFont({.family = name, .size = fontSize()});
+    QFont font = facts().asked;
+    font.setFamily(name);
+    setFont(font, fontSize());
 }
 
 double TextAttributes::fontSize() const
 {
-    return facts().choice.size;
+    return facts().size;
 }
 
 void TextAttributes::setFontSize(double size)
 {
-    FontChoice choice = facts().choice;
-    choice.size = size;
-    setFont(choice);
+    setFont(facts().asked, size);
 }
 
 QVariantMap TextAttributes::toMap() const
 {
     QVariantMap map = m_data->others;
-    map.insert(u"font"_s, fontObject(facts().choice));
+    map.insert(u"font"_s, facts().asked);
     const QColor standard = QGuiApplication::palette().color(QPalette::WindowText);
     map.insert(u"foregroundColor"_s, m_data->foreground.isValid() ? m_data->foreground : standard);
     map.insert(u"backgroundColor"_s, m_data->background);
@@ -71,7 +72,8 @@ void TextAttributes::merge(const QVariantMap &map)
 {
     for (auto entry = map.begin(); entry != map.end(); ++entry) {
         if (entry.key() == u"font") {
-            setFont(fontChoice(entry->value<QFont>()));
+            const auto font = entry->value<QFont>();
+            setFont(font, tetrad::fontSize(font));
         } else if (entry.key() == u"foregroundColor") {
             m_data->foreground = entry->value<QColor>();
         } else if (entry.key() == u"backgroundColor") {
