@@ -33,12 +33,6 @@ QString ConsoleReader::takeNew()
     return m_text.takeNew();
 }
 
-QString ConsoleReader::takeUnannounced()
-{
-    m_text.sync(m_list);
-    return m_text.takeUnannounced();
-}
-
 void ConsoleReader::clear()
 {
     m_text.clear();
@@ -46,24 +40,22 @@ void ConsoleReader::clear()
     m_caret = 0;
 }
 
-double ConsoleReader::xInPiece(const Piece &piece, qsizetype offset) const
+QRectF ConsoleReader::boxBetween(const Piece &piece, qsizetype start, qsizetype end) const
 {
-    const CUI_PrintToWindowItem &item = m_list.at(piece.item);
-    const qsizetype length = drawnText(item.string(), item.attributes()).size();
-    const qsizetype index = std::clamp<qsizetype>(offset - piece.offset, 0, length);
-    return length == 0 ? 0 : shapedText(item.string(), item.attributes())->xOf(index);
+    const DisplayList::Entry &entry = m_list.entry(piece.item);
+    const TextAttributes &attributes = entry.item.attributes();
+    const qsizetype length = drawnText(entry.item.string(), attributes).size();
+    const auto shape = shapedText(entry.item.string(), attributes);
+    const double from = shape->xOf(std::clamp<qsizetype>(start - piece.offset, 0, length));
+    const double to = shape->xOf(std::clamp<qsizetype>(end - piece.offset, 0, length));
+    const QRectF box = entry.box();
+    return {box.left() + std::min(from, to), box.top(), std::abs(to - from), box.height()};
 }
 
 QRectF ConsoleReader::characterRect(qsizetype offset)
 {
     const Piece *piece = text().pieceAt(offset);
-    if (!piece) {
-        return {};
-    }
-    const double from = xInPiece(*piece, offset);
-    const double to = xInPiece(*piece, offset + 1);
-    const QRectF box = m_list.entry(piece->item).box();
-    return {box.left() + std::min(from, to), box.top(), std::abs(to - from), box.height()};
+    return piece ? boxBetween(*piece, offset, offset + 1) : QRectF();
 }
 
 qsizetype ConsoleReader::characterAt(QPointF point)
@@ -148,13 +140,7 @@ QString ConsoleReader::selectedText()
 QRectF ConsoleReader::selectedBox(quint32 index)
 {
     const Piece *piece = hasSelection() ? text().pieceOf(index) : nullptr;
-    if (!piece) {
-        return {};
-    }
-    const double from = xInPiece(*piece, selectionStart());
-    const double to = xInPiece(*piece, selectionEnd());
-    const QRectF box = m_list.entry(index).box();
-    return {box.left() + std::min(from, to), box.top(), std::abs(to - from), box.height()};
+    return piece ? boxBetween(*piece, selectionStart(), selectionEnd()) : QRectF();
 }
 
 void ConsoleReader::select(qsizetype anchor, qsizetype caret)

@@ -22,7 +22,6 @@ public:
     /// As it was when it was last brought up to date.
     const QString &knownText() const { return m_text.text(); }
     QString takeNew();
-    QString takeUnannounced();
     /// Starts over, after the list was changed otherwise than by appending.
     void clear();
 
@@ -32,8 +31,8 @@ public:
     qsizetype characterAt(QPointF point);
     /// The position between characters that is nearest to a point; 0 when nothing was printed.
     qsizetype caretNear(QPointF point);
-    /// The position nearest to the caret in the next line above (-1) or below (1); the caret itself where there is
-    /// none.
+    /// The position nearest to the caret in the next line above (-1) or below (1); the caret itself if there is
+    /// no such line.
     qsizetype caretBeyond(int direction);
 
     /// The next position between characters to the left (-1) or right (1), never within a character.
@@ -53,8 +52,8 @@ public:
 private:
     using Piece = ConsoleText::Piece;
 
-    /// How far right of the piece's origin an offset lies.
-    double xInPiece(const Piece &piece, qsizetype offset) const;
+    /// The part of a piece's box between two offsets, which are cut to the piece.
+    QRectF boxBetween(const Piece &piece, qsizetype start, qsizetype end) const;
     /// The text item nearest to a point by height, then sideways, of those whose middle lies between two heights; null
     /// when there is none.
     const Piece *pieceNear(QPointF point, double below, double above);

@@ -42,7 +42,7 @@ void ConsoleText::sync(const DisplayList &list)
             m_atLineStart = false;
         }
         m_pieces.push_back({m_text.size(), static_cast<quint32>(m_taken)});
-        append(drawn);
+        m_text += drawn;
         m_end = entry.item.pt() + QPointF(entry.width, 0);
         if (entry.endsLine) {
             m_text += u'\n';
@@ -62,16 +62,6 @@ void ConsoleText::join(QPointF at)
     } else if (std::abs(at.x() - m_end.x()) > samePlace) {
         m_text += u' ';
     }
-}
-
-void ConsoleText::append(const QString &drawn)
-{
-    for (qsizetype i = 1; i < drawn.size(); ++i) {
-        if (drawn.at(i).isLowSurrogate() && drawn.at(i - 1).isHighSurrogate()) {
-            m_pairs.push_back(m_text.size() + i);
-        }
-    }
-    m_text += drawn;
 }
 
 void ConsoleText::clear()
@@ -103,28 +93,18 @@ const ConsoleText::Piece *ConsoleText::pieceAfter(const Piece &piece) const
 
 qsizetype ConsoleText::charactersBefore(qsizetype offset) const
 {
-    const auto pairs = std::lower_bound(m_pairs.begin(), m_pairs.end(), offset) - m_pairs.begin();
-    return offset - pairs;
+    const QStringView before = QStringView(m_text).left(offset);
+    return offset - std::count_if(before.begin(), before.end(), [](QChar unit) { return unit.isLowSurrogate(); });
 }
 
 qsizetype ConsoleText::offsetOfCharacter(qsizetype character) const
 {
-    // The pairs ascend by at least two, so the numbers of the characters after them ascend too.
-    qsizetype pairs = 0;
-    for (qsizetype end = static_cast<qsizetype>(m_pairs.size()); pairs < end;) {
-        const qsizetype middle = (pairs + end) / 2;
-        if (m_pairs[static_cast<std::size_t>(middle)] - middle <= character) {
-            pairs = middle + 1;
-        } else {
-            end = middle;
-        }
+    qsizetype offset = 0;
+    for (; character > 0 && offset < m_text.size(); --character) {
+        ++offset;
+        offset += offset < m_text.size() && m_text.at(offset).isLowSurrogate() ? 1 : 0;
     }
-    return character + pairs;
-}
-
-QString ConsoleText::takeUnannounced()
-{
-    return m_text.mid(std::exchange(m_announced, m_text.size()));
+    return offset + character;
 }
 
 QString ConsoleText::takeNew()

@@ -37,29 +37,23 @@ public:
     const Piece *pieceAfter(const Piece &piece) const;
 
     // Offsets count UTF-16 units; some assistive technology counts characters, where a surrogate pair is one.
-
     qsizetype charactersBefore(qsizetype offset) const;
     qsizetype offsetOfCharacter(qsizetype character) const;
 
     /// What was added since the last call, without blank lines. The first call after a clear leaves out the paragraphs
     /// (parts between blank lines) that earlier calls returned from the text before the clear.
     QString takeNew();
-    /// The same, newlines included, for announcing the growth of the text.
-    QString takeUnannounced();
 
 private:
     void join(QPointF at);
-    void append(const QString &drawn);
 
     QString m_text;
     std::vector<Piece> m_pieces;
-    std::vector<qsizetype> m_pairs; ///< Where each pair's second unit is.
     qsizetype m_taken = 0;
     bool m_atLineStart = true;
     QPointF m_end;
     qsizetype m_mark = 0;
     QString m_spoken; ///< What takeNew has returned of the text before the clear.
-    qsizetype m_announced = 0;
 };
 
 } // namespace tetrad

@@ -160,23 +160,8 @@ ShapedText::ShapedText(const QString &text, const TextAttributes &attributes)
     layOut(m_layout, text, attributes, unlimited);
     m_layout.setCacheEnabled(true);
     // A taller fallback font must not push the text below its neighbours on the same line.
-    m_baseline = m_layout.lineCount() > 0 ? attributes.facts().ascent - m_layout.lineAt(0).ascent() : 0;
+    m_baseline = attributes.facts().ascent - line().ascent();
     m_glyphRuns = m_layout.glyphRuns();
-}
-
-double ShapedText::width() const
-{
-    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).horizontalAdvance() : 0;
-}
-
-double ShapedText::xOf(qsizetype index) const
-{
-    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).cursorToX(static_cast<int>(index)) : 0;
-}
-
-qsizetype ShapedText::indexAt(double x) const
-{
-    return m_layout.lineCount() > 0 ? m_layout.lineAt(0).xToCursor(x) : 0;
 }
 
 } // namespace tetrad

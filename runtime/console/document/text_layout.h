@@ -24,17 +24,19 @@ public:
 
     const QList<QGlyphRun> &glyphRuns() const { return m_glyphRuns; }
 
-    double width() const;
+    double width() const { return line().horizontalAdvance(); }
 
     /// How far the glyph runs' own baseline lies below the top of the text.
     double baseline() const { return m_baseline; }
 
     /// Between a character index of the drawn text and a distance from its left edge.
-    double xOf(qsizetype index) const;
-    qsizetype indexAt(double x) const;
+    double xOf(qsizetype index) const { return line().cursorToX(static_cast<int>(index)); }
+    qsizetype indexAt(double x) const { return line().xToCursor(x); }
 
 private:
-    QTextLayout m_layout; ///< Of one line at most.
+    QTextLine line() const { return m_layout.lineAt(0); }
+
+    QTextLayout m_layout;
     QList<QGlyphRun> m_glyphRuns;
     double m_baseline = 0;
 };

@@ -205,13 +205,19 @@ struct Listening : QAccessible::ActivationObserver
 {
     bool active = QAccessible::isActive();
 
+    Listening()
+    {
+        QAccessible::installFactory(makeInterface);
+        QAccessible::installActivationObserver(this);
+    }
+
     void accessibilityActiveChanged(bool nowActive) override
     {
         active = nowActive;
         // A client that starts to listen reads what is already there.
         for (QWidget *widget : QApplication::allWidgets()) {
             if (auto *view = qobject_cast<CUI_PrintToWindowView *>(widget)) {
-                view->reader().takeUnannounced();
+                view->reader().text();
             }
         }
     }
@@ -227,37 +233,35 @@ Listening &listening()
 
 void installConsoleAccessibility()
 {
-    static const bool once = [] {
-        QAccessible::installFactory(makeInterface);
-        QAccessible::installActivationObserver(&listening());
-        return true;
-    }();
-    Q_UNUSED(once);
-}
-
-bool assistiveTechnologyListens()
-{
-    return listening().active;
+    listening();
 }
 
 void announceInsertion(CUI_PrintToWindowView *view)
 {
-    const QString added = view->reader().takeUnannounced();
+    if (!listening().active) {
+        return;
+    }
+    const qsizetype start = view->reader().knownText().size();
+    const QString added = view->reader().text().text().mid(start);
     if (!added.isEmpty()) {
-        const auto end = view->reader().text().text().size();
-        QAccessibleTextInsertEvent event(view, outward(view, end - added.size()), added);
+        QAccessibleTextInsertEvent event(view, outward(view, start), added);
         QAccessible::updateAccessibility(&event);
     }
 }
 
 void announceRemoval(CUI_PrintToWindowView *view, const QString &removed)
 {
-    QAccessibleTextRemoveEvent event(view, 0, removed);
-    QAccessible::updateAccessibility(&event);
+    if (listening().active) {
+        QAccessibleTextRemoveEvent event(view, 0, removed);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void announceSelection(CUI_PrintToWindowView *view)
 {
+    if (!listening().active) {
+        return;
+    }
     const ConsoleReader &reader = view->reader();
     QAccessibleTextSelectionEvent event(view, outward(view, reader.selectionStart()),
                                         outward(view, reader.selectionEnd()));

@@ -6,16 +6,12 @@ namespace tetrad {
 
 class CUI_PrintToWindowView;
 
-/// Makes assistive technology see every console view as a read-only text with the role terminal. Only the first call
-/// has an effect.
+/// Makes assistive technology see every console view as a read-only text. Only the first call has an effect.
 void installConsoleAccessibility();
 
-/// Whether an assistive technology wants to know what changes.
-bool assistiveTechnologyListens();
+// What assistive technology is notified of while some is listening.
 
-// What a listening assistive technology is told.
-
-/// The text grew by what was printed since the last announcement.
+/// The text grew by what was printed since it was last read.
 void announceInsertion(CUI_PrintToWindowView *view);
 /// The whole text, given, is gone.
 void announceRemoval(CUI_PrintToWindowView *view, const QString &removed);

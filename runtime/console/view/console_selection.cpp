@@ -31,7 +31,7 @@ ConsoleSelection::ConsoleSelection(CUI_PrintToWindowView *view) : QObject(view),
 
 void ConsoleSelection::focusChanged(QWidget *before, QWidget *now)
 {
-    // A menu bar has the focus only in passing, and takes none.
+    // A menu bar has the focus only while it is used; its policy is NoFocus.
     if (now == m_view && before && before->focusPolicy() != Qt::NoFocus) {
         m_focusBefore = before;
     }

@@ -89,19 +89,15 @@ void CUI_PrintToWindowView::itemAppended(const QRectF &ink)
         m_dirty |= part.toAlignedRect();
         update(m_dirty);
     }
-    if (assistiveTechnologyListens()) {
-        announceInsertion(this);
-    }
+    announceInsertion(this);
 }
 
 void CUI_PrintToWindowView::itemsChanged()
 {
     const QString before = reader().knownText();
     ConsoleDocument::itemsChanged();
-    if (assistiveTechnologyListens()) {
-        announceRemoval(this, before);
-        announceInsertion(this);
-    }
+    announceRemoval(this, before);
+    announceInsertion(this);
 }
 
 void CUI_PrintToWindowView::setNeedsDisplay()
@@ -125,9 +121,7 @@ void CUI_PrintToWindowView::select(qsizetype anchor, qsizetype caret)
     reader().select(anchor, caret);
     scrollTo(reader().characterRect(reader().caret()));
     setNeedsDisplay();
-    if (assistiveTechnologyListens()) {
-        announceSelection(this);
-    }
+    announceSelection(this);
 }
 
 void CUI_PrintToWindowView::scrollTo(const QRectF &rect)
