@@ -19,16 +19,7 @@ QWidget *targetWindow()
     return CUI_TargetWindow(&tag);
 }
 
-// Lets a statement act on the output window's console, or on nothing when there is no window.
-template <typename Action>
-void withOutputWindow(Action action)
-{
-    if (QWidget *window = CUI_PrintToWindowWindow()) {
-        action(window);
-    }
-}
-
-// Lets an operation act on a window's console, or on nothing when the window has no content view.
+// Runs an operation on a window's console, if the window has a content view.
 template <typename Action>
 void withView(QWidget *window, Action action)
 {
@@ -73,47 +64,47 @@ void CUI_PrintToWindowPrintStatement(const QStringList &items)
         }
         joined += item;
     }
-    withOutputWindow([&](QWidget *window) { CUI_PrintToWindowPrint(window, joined); });
+    CUI_PrintToWindowPrint(CUI_PrintToWindowWindow(), joined);
 }
 
 void CUI_PrintToWindowSetXYStatement(double x, double y)
 {
-    withOutputWindow([&](QWidget *window) { CUI_PrintToWindowSetXY(window, x, y); });
+    CUI_PrintToWindowSetXY(CUI_PrintToWindowWindow(), x, y);
 }
 
 void CUI_PrintToWindowClearStatement()
 {
-    withOutputWindow(CUI_PrintToWindowClear);
+    CUI_PrintToWindowClear(CUI_PrintToWindowWindow());
 }
 
 void CUI_PrintToWindowTextStatement(const QString &fontName, const QColor &foreground, const QColor &background,
                                     qint64 alignment, qint64 tabInterval, double size)
 {
-    withOutputWindow([&](QWidget *window) {
+    withView(CUI_PrintToWindowWindow(), [&](CUI_PrintToWindowView &view) {
         if (!fontName.isNull()) {
-            CUI_PrintToWindowTextSetFontName(window, fontName);
+            view.setFontName(fontName);
         }
         if (size > 0) {
-            CUI_PrintToWindowTextSetFontSize(window, size);
+            view.setFontSize(size);
         }
         if (foreground.isValid()) {
-            CUI_PrintToWindowTextSetForegroundColor(window, foreground);
+            view.setForegroundColor(foreground);
         }
         if (background.isValid()) {
-            CUI_PrintToWindowTextSetBackgroundColor(window, background);
+            view.setBackgroundColor(background);
         }
         if (alignment != notGiven) {
-            CUI_PrintToWindowTextSetAlignment(window, alignment);
+            view.setAlignment(alignment);
         }
         if (tabInterval != notGiven) {
-            CUI_PrintToWindowTextSetTabInterval(window, static_cast<double>(tabInterval));
+            view.setTabInterval(static_cast<double>(tabInterval));
         }
     });
 }
 
 void CUI_DrawToWindowRectStatement(const QColor &color, bool fill, const QRectF &rect)
 {
-    withOutputWindow([&](QWidget *window) { CUI_DrawToWindowRect(window, color, fill, rect); });
+    CUI_DrawToWindowRect(CUI_PrintToWindowWindow(), color, fill, rect);
 }
 
 QPointF CUI_PrintToWindowPrint(QWidget *window, const QString &text)

@@ -1,4 +1,5 @@
-// Implemented in runtime/console/document/console_document.cpp and display_list.cpp
+// Implemented in console_document.cpp, display_list.cpp, console_archive.cpp and console_dump.cpp of
+// runtime/console/document
 #pragma once
 
 #include <tetrad/console/console_item.h>
@@ -33,7 +34,8 @@ public:
     void removeAt(qsizetype index);
     void clear();
 
-    /// One line per item for people and tests to read: type, position, text or extent, size, colours.
+    /// One line per item for people and tests to read, as in `text (3,14) "abc" size 12 color #ffffff` or
+    /// `rect (10,200) size 400x15 width 1 stroke #000000 fill none`.
     QString dump() const;
 
     /// An item with what the runtime knows of it.
@@ -132,7 +134,7 @@ public:
     void setCurrentLineDashPhase(double phase) { m_lineStyle.lineDashPhase = phase; }
     QColor currentStrokeColor() const { return m_lineStyle.strokeColor; }
     void setCurrentStrokeColor(const QColor &color) { m_lineStyle.strokeColor = color; }
-    /// Invalid: none.
+    /// Invalid when there is no fill colour.
     QColor currentFillColor() const { return m_fillColor; }
     void setCurrentFillColor(const QColor &color) { m_fillColor = color; }
 

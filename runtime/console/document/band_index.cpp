@@ -1,24 +1,21 @@
 #include "runtime/console/document/band_index.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tetrad {
 
 namespace {
 
-constexpr double bandHeight = 64;
 constexpr int mostBands = 8;
 
-int bandOf(double y)
+int bandOf(int y)
 {
-    constexpr double farthest = 1e9;
-    return static_cast<int>(std::floor(std::clamp(y, -farthest, farthest) / bandHeight));
+    return y >> 6; // rounded down also above the document
 }
 
 } // namespace
 
-void BandIndex::add(quint32 number, double top, double bottom)
+void BandIndex::add(quint32 number, int top, int bottom)
 {
     const int first = bandOf(top);
     const int last = bandOf(bottom);
@@ -37,7 +34,7 @@ void BandIndex::clear()
     m_tall.clear();
 }
 
-std::vector<quint32> BandIndex::numbersIn(double top, double bottom, quint32 from) const
+std::vector<quint32> BandIndex::numbersIn(int top, int bottom, quint32 from) const
 {
     std::vector<quint32> numbers;
     const auto take = [&](const std::vector<quint32> &members) {

@@ -13,12 +13,12 @@ class BandIndex
 {
 public:
     /// Numbers ascend; top <= bottom.
-    void add(quint32 number, double top, double bottom);
+    void add(quint32 number, int top, int bottom);
     void clear();
 
     /// The numbers from one on, in ascending order, of at least all intervals that meet the one from top to bottom;
     /// some that only come near it may be among them.
-    std::vector<quint32> numbersIn(double top, double bottom, quint32 from = 0) const;
+    std::vector<quint32> numbersIn(int top, int bottom, quint32 from = 0) const;
 
 private:
     std::map<int, std::vector<quint32>> m_bands;

@@ -1,12 +1,12 @@
-#include "runtime/console/document/console_archive.h"
-
-#include <tetrad/console/console_item.h>
+#include <tetrad/console/console_document.h>
 
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
 
-QVariantMap archivedItem(const CUI_PrintToWindowItem &item)
+namespace {
+
+QVariantMap archived(const CUI_PrintToWindowItem &item)
 {
     const LineStyle &style = item.lineStyle();
     QVariantMap map{
@@ -36,6 +36,17 @@ QVariantMap archivedItem(const CUI_PrintToWindowItem &item)
         map.insert(u"fillColor"_s, item.fillColor());
     }
     return map;
+}
+
+} // namespace
+
+QVariantList ConsoleDocument::itemArray() const
+{
+    QVariantList array;
+    for (qsizetype index = 0; index < m_items.size(); ++index) {
+        array.append(archived(m_items.at(index)));
+    }
+    return array;
 }
 
 } // namespace tetrad

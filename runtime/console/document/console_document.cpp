@@ -1,6 +1,5 @@
 #include <tetrad/console/console_document.h>
 
-#include "runtime/console/document/console_archive.h"
 #include "runtime/console/document/console_reader.h"
 #include "runtime/console/document/display_list.h"
 #include "runtime/console/document/font_facts.h"
@@ -85,7 +84,7 @@ void ConsoleDocument::addPiece(const QString &piece, bool last)
         m_currentPoint = {m_textInset, m_currentPoint.y() + m_attributes.facts().lineHeight};
     }
     m_items.append(DisplayList::Entry{.item = CUI_PrintToWindowItem::itemWithString(piece, pt, m_attributes),
-                                      .ink = Ink(extent.ink.translated(pt)),
+                                      .ink = pixelsOf(extent.ink.translated(pt)),
                                       .width = static_cast<float>(extent.width),
                                       .endsLine = !last});
 }
@@ -191,16 +190,6 @@ void ConsoleDocument::setFlipView(bool flip)
 QTransform ConsoleDocument::mirror() const
 {
     return m_flipView ? QTransform() : QTransform(1, 0, 0, -1, 0, documentSize().height());
-}
-
-QVariantList ConsoleDocument::itemArray() const
-{
-    QVariantList array;
-    array.reserve(m_items.size());
-    for (qsizetype index = 0; index < m_items.size(); ++index) {
-        array.append(archivedItem(m_items.at(index)));
-    }
-    return array;
 }
 
 void ConsoleDocument::itemAppended(const QRectF &) {}

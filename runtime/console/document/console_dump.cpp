@@ -1,6 +1,4 @@
-#include "runtime/console/document/console_dump.h"
-
-#include <tetrad/console/console_item.h>
+#include <tetrad/console/console_document.h>
 
 namespace tetrad {
 
@@ -81,9 +79,13 @@ QString shapeDump(const Item &item)
 
 } // namespace
 
-QString dumpedItem(const CUI_PrintToWindowItem &item)
+QString DisplayList::dump() const
 {
-    return item.isShape() ? shapeDump(item) : textDump(item);
+    QString dump;
+    for (qsizetype index = 0; index < size(); ++index) {
+        dump += (at(index).isShape() ? shapeDump(at(index)) : textDump(at(index))) + u'\n';
+    }
+    return dump;
 }
 
 } // namespace tetrad

@@ -1,7 +1,6 @@
 #include "runtime/console/document/display_list.h"
 
 #include "runtime/console/document/band_index.h"
-#include "runtime/console/document/console_dump.h"
 #include "runtime/console/document/font_facts.h"
 #include "runtime/console/document/shape_geometry.h"
 #include "runtime/console/document/text_layout.h"
@@ -9,22 +8,8 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
-#include <limits>
 
 namespace tetrad {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr float outward = std::numeric_limits<float>::infinity();
-
-float roundedTo(float direction, double value)
-{
-    return std::nextafter(static_cast<float>(std::clamp(value, -1e9, 1e9)), direction);
-}
-
-} // namespace
 
 struct DisplayList::Contents
 {
@@ -35,33 +20,28 @@ struct DisplayList::Contents
     void fillBands()
     {
         for (; banded < entries.size(); ++banded) {
-            if (const Ink &ink = entries[banded].ink; !ink.isEmpty()) {
-                bands.add(static_cast<quint32>(banded), ink.top, ink.bottom);
+            if (const QRect &ink = entries[banded].ink; !ink.isEmpty()) {
+                bands.add(static_cast<quint32>(banded), ink.top(), ink.bottom());
             }
         }
     }
 };
 
-Ink::Ink(const QRectF &rect)
+QRect pixelsOf(const QRectF &rect)
 {
-    const auto isFinite = std::isfinite(rect.left()) && std::isfinite(rect.top()) && std::isfinite(rect.right()) &&
-                          std::isfinite(rect.bottom());
-    if (!isFinite || rect.isEmpty()) {
-        return;
+    if (!std::isfinite(rect.left() + rect.top() + rect.right() + rect.bottom()) || rect.isEmpty()) {
+        return {};
     }
-    left = roundedTo(-outward, rect.left());
-    top = roundedTo(-outward, rect.top());
-    right = roundedTo(outward, rect.right());
-    bottom = roundedTo(outward, rect.bottom());
+    return QRectF(limited(rect.topLeft()), limited(rect.bottomRight())).toAlignedRect();
 }
 
 DisplayList::Entry DisplayList::Entry::of(const CUI_PrintToWindowItem &item)
 {
     if (item.isShape()) {
-        return {item, Ink(shapeInk(item))};
+        return {item, pixelsOf(shapeInk(item))};
     }
     const TextExtent extent = measureText(item.string(), item.attributes());
-    return {item, Ink(extent.ink.translated(item.pt())), static_cast<float>(extent.width)};
+    return {item, pixelsOf(extent.ink.translated(item.pt())), static_cast<float>(extent.width)};
 }
 
 QRectF DisplayList::Entry::box() const
@@ -95,10 +75,8 @@ void DisplayList::append(const CUI_PrintToWindowItem &item)
 
 void DisplayList::append(Entry entry)
 {
-    const Ink ink = entry.ink;
     m_contents->entries.push_back(std::move(entry));
-    m_document.itemAppended(ink.isEmpty() ? QRectF()
-                                          : QRectF(QPointF(ink.left, ink.top), QPointF(ink.right, ink.bottom)));
+    m_document.itemAppended(m_contents->entries.back().ink);
 }
 
 bool DisplayList::has(qsizetype index) const
@@ -153,18 +131,10 @@ void DisplayList::changed()
 std::vector<quint32> DisplayList::itemsIn(const QRectF &part, qsizetype from) const
 {
     m_contents->fillBands();
-    std::vector<quint32> items = m_contents->bands.numbersIn(part.top(), part.bottom(), static_cast<quint32>(from));
-    std::erase_if(items, [&](quint32 index) { return !entry(index).ink.meets(part); });
+    const QRect pixels = pixelsOf(part);
+    std::vector<quint32> items = m_contents->bands.numbersIn(pixels.top(), pixels.bottom(), static_cast<quint32>(from));
+    std::erase_if(items, [&](quint32 index) { return !entry(index).ink.intersects(pixels); });
     return items;
-}
-
-QString DisplayList::dump() const
-{
-    QString dump;
-    for (const Entry &each : m_contents->entries) {
-        dump += dumpedItem(each.item) + u'\n';
-    }
-    return dump;
 }
 
 } // namespace tetrad

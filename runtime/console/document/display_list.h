@@ -4,30 +4,14 @@
 
 namespace tetrad {
 
-/// What drawing an item may touch, rounded outwards; empty when it draws nothing. Floats, since every printed line has
-/// two.
-struct Ink
-{
-    float left = 0;
-    float top = 0;
-    float right = -1;
-    float bottom = -1;
-
-    Ink() = default;
-    /// Empty for a rectangle that is empty or not finite.
-    explicit Ink(const QRectF &rect);
-
-    bool isEmpty() const { return left > right; }
-    bool meets(const QRectF &part) const
-    {
-        return right >= part.left() && left <= part.right() && bottom >= part.top() && top <= part.bottom();
-    }
-};
+/// The whole pixels that a rectangle touches, none farther than `farthest`; empty for one that is empty or not finite.
+QRect pixelsOf(const QRectF &rect);
 
 struct DisplayList::Entry
 {
     CUI_PrintToWindowItem item;
-    Ink ink;
+    /// What drawing the item may touch; empty when it draws nothing.
+    QRect ink;
     /// A text's measured width: whole 64ths of a pixel, which a float holds as they are.
     float width = 0;
     /// A text that was followed by the end of its line.

@@ -7,14 +7,10 @@
 
 namespace tetrad {
 
-namespace {
-
 QPointF limited(QPointF point)
 {
     return {std::clamp(point.x(), -farthest, farthest), std::clamp(point.y(), -farthest, farthest)};
 }
-
-} // namespace
 
 QRectF shapeExtent(const CUI_PrintToWindowItem &item)
 {
@@ -25,15 +21,10 @@ QRectF shapeExtent(const CUI_PrintToWindowItem &item)
     return first == extent.topLeft() && second == extent.bottomRight() ? extent : QRectF(first, second);
 }
 
-bool isDrawable(const QRectF &extent)
-{
-    return !std::isnan(extent.x() + extent.y() + extent.width() + extent.height());
-}
-
 QRectF shapeInk(const CUI_PrintToWindowItem &item)
 {
     const QRectF extent = shapeExtent(item);
-    if (!isDrawable(extent)) {
+    if (std::isnan(extent.x() + extent.y() + extent.width() + extent.height())) {
         return {};
     }
     // Half a width to each side, more at caps and corners; the corners of a rectangle without height point out by twice

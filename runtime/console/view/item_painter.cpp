@@ -53,12 +53,15 @@ void drawText(const Canvas &canvas, const DisplayList::Entry &entry, const QRect
 void drawItem(const Canvas &canvas, ConsoleDocument &document, quint32 index)
 {
     const DisplayList::Entry &entry = document.items().entry(index);
+    if (entry.ink.isEmpty()) {
+        return;
+    }
     if (entry.item.isShape()) {
         canvas.painter.save();
         canvas.painter.setTransform(canvas.mirror, true);
         drawShape(canvas.painter, entry.item);
         canvas.painter.restore();
-    } else if (!entry.item.string().isEmpty()) {
+    } else {
         drawText(canvas, entry, document.reader().selectedBox(index));
     }
 }

@@ -133,9 +133,6 @@ void stroke(QPainter &painter, const Item &item, const QRectF &extent)
 void drawShape(QPainter &painter, const CUI_PrintToWindowItem &item)
 {
     const QRectF extent = shapeExtent(item);
-    if (!isDrawable(extent)) {
-        return;
-    }
     if (item.type() != Item::line) {
         fill(painter, item, extent);
     }
