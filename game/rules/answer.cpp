@@ -46,13 +46,12 @@ bool passesDigitCount(const QString &answer)
 // for 2, 2, 3, 9.
 bool passesNumberCheck(const QString &answer, const PuzzleNumbers &numbers)
 {
-    int found = 0;
     for (qint16 i = 1; i <= numbersPerPuzzle; ++i) {
-        if (occursIn(answer, numbers.at(i, source::numberChecked))) {
-            ++found;
+        if (!occursIn(answer, numbers.at(i, source::numberChecked))) {
+            return false;
         }
     }
-    return found >= numbersPerPuzzle;
+    return true;
 }
 
 // "9/2" becomes "9.0/2.0". The pieces between the matches are appended once, so that a long answer

@@ -1,10 +1,13 @@
 #include "runtime/input/field_formatter.h"
 
+#include <tetrad/input/control_formatter.h>
+
 #include <QEvent>
 #include <QLineEdit>
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace tetrad {
 
@@ -42,7 +45,32 @@ bool mayReadOrEdit(QEvent::Type type)
     }
 }
 
-} // namespace
+// A control formatter at work in a line edit, with undo. A line edit forgets its undo history when its validator
+// replaces the text. So this one refuses the proposal, which keeps the history, and makes the replacement as an edit
+// of its own before the line edit's next event. A text that the program sets is not judged.
+class FieldFormatter : public CUI_ControlFormatter
+{
+public:
+    FieldFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption, QLineEdit *field);
+
+    State validate(QString &input, int &pos) const override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Replacement
+    {
+        QString text;
+        int cursor = 0;
+    };
+
+    void replaceText();
+
+    QLineEdit *m_field = nullptr;
+    mutable std::optional<Replacement> m_replacement;
+    bool m_replacing = false;
+};
 
 FieldFormatter::FieldFormatter(const QString &characters, bool pass, quint64 length, qint64 caseOption,
                                QLineEdit *field)
@@ -96,6 +124,8 @@ void FieldFormatter::replaceText()
     m_field->setCursorPosition(replacement.cursor);
     m_replacing = false;
 }
+
+} // namespace
 
 void attachFormatter(QLineEdit *field, const QString &characters, bool pass, quint64 length, qint64 caseOption)
 {

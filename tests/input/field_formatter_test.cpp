@@ -1,6 +1,7 @@
 #include "panel_helper.h"
 
 #include "runtime/input/field_formatter.h"
+#include <tetrad/input/control_formatter.h>
 #include <tetrad/input/line_input.h>
 
 #include <QClipboard>

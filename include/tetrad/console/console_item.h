@@ -145,8 +145,11 @@ private:
         bool strokeFlag = false;
         bool fillFlag = false;
     };
-    static const Shape &noShape();
-    const Shape &shape() const { return m_shape ? *m_shape : noShape(); }
+    const Shape &shape() const
+    {
+        static const Shape none;
+        return m_shape ? *m_shape : none;
+    }
     Shape &editShape();
 
     quint32 m_type = text;

@@ -37,12 +37,6 @@ void CUI_PrintToWindowItem::setColors(const QColor &strokeColor, const QColor &f
     editShape().fillColor = fillColor;
 }
 
-const CUI_PrintToWindowItem::Shape &CUI_PrintToWindowItem::noShape()
-{
-    static const Shape shape;
-    return shape;
-}
-
 CUI_PrintToWindowItem::Shape &CUI_PrintToWindowItem::editShape()
 {
     if (!m_shape) {

@@ -1,6 +1,5 @@
 #include "runtime/console/document/display_list.h"
 
-#include "runtime/console/document/band_index.h"
 #include "runtime/console/document/font_facts.h"
 #include "runtime/console/document/shape_geometry.h"
 #include "runtime/console/document/text_layout.h"
@@ -8,22 +7,64 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
+#include <map>
 
 namespace tetrad {
+
+namespace {
+
+int bandOf(int y)
+{
+    return y >> 6; // rounded down also above the document
+}
+
+} // namespace
 
 struct DisplayList::Contents
 {
     std::deque<Entry> entries;
-    BandIndex bands;
-    size_t banded = 0; ///< How many entries the bands know.
+
+    // The indexes of the entries whose ink meets each band of 64 pixels, and of those that meet many bands.
+    std::map<int, std::vector<quint32>> bands;
+    std::vector<quint32> tall;
+    quint32 banded = 0; // How many entries these know.
 
     void fillBands()
     {
         for (; banded < entries.size(); ++banded) {
             if (const QRect &ink = entries[banded].ink; !ink.isEmpty()) {
-                bands.add(static_cast<quint32>(banded), ink.top(), ink.bottom());
+                enter(bandOf(ink.top()), bandOf(ink.bottom()));
             }
         }
+    }
+
+    void enter(int first, int last)
+    {
+        constexpr int mostBands = 8;
+        if (last - first >= mostBands) {
+            tall.push_back(banded);
+            return;
+        }
+        for (int band = first; band <= last; ++band) {
+            bands[band].push_back(banded);
+        }
+    }
+
+    // From one index on, in ascending order.
+    std::vector<quint32> entriesNear(const QRect &part, quint32 from) const
+    {
+        std::vector<quint32> found;
+        const auto take = [&](const std::vector<quint32> &members) {
+            found.insert(found.end(), std::ranges::lower_bound(members, from), members.end());
+        };
+        take(tall);
+        const auto end = bands.upper_bound(bandOf(part.bottom()));
+        for (auto band = bands.lower_bound(bandOf(part.top())); band != end; ++band) {
+            take(band->second);
+        }
+        std::ranges::sort(found);
+        found.erase(std::unique(found.begin(), found.end()), found.end());
+        return found;
     }
 };
 
@@ -124,6 +165,7 @@ void DisplayList::clear()
 void DisplayList::changed()
 {
     m_contents->bands.clear();
+    m_contents->tall.clear();
     m_contents->banded = 0;
     m_document.itemsChanged();
 }
@@ -132,7 +174,7 @@ std::vector<quint32> DisplayList::itemsIn(const QRectF &part, qsizetype from) co
 {
     m_contents->fillBands();
     const QRect pixels = pixelsOf(part);
-    std::vector<quint32> items = m_contents->bands.numbersIn(pixels.top(), pixels.bottom(), static_cast<quint32>(from));
+    std::vector<quint32> items = m_contents->entriesNear(pixels, static_cast<quint32>(from));
     std::erase_if(items, [&](quint32 index) { return !entry(index).ink.intersects(pixels); });
     return items;
 }

@@ -37,13 +37,11 @@ QTextOption textOption(const ParagraphStyle &style, QTextOption::WrapMode wrap)
     option.setWrapMode(wrap);
     option.setFlags(QTextOption::IncludeTrailingSpaces);
     option.setTabStopDistance(style.defaultTabInterval);
-    if (!style.tabStops.isEmpty()) {
-        QList<QTextOption::Tab> tabs;
-        for (const double stop : style.tabStops) {
-            tabs.append({stop, QTextOption::LeftTab});
-        }
-        option.setTabs(tabs);
+    QList<QTextOption::Tab> tabs;
+    for (const double stop : style.tabStops) {
+        tabs.append({stop, QTextOption::LeftTab});
     }
+    option.setTabs(tabs);
     return option;
 }
 
