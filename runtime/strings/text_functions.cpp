@@ -3,10 +3,16 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <random>
 
 namespace tetrad {
 
 using namespace Qt::StringLiterals;
+
+unsigned char gZRUpperChar[256] = {};
+unsigned char gZRLowerChar[256] = {};
 
 namespace {
 
@@ -28,6 +34,19 @@ qint64 foundAt(qint64 location)
 }
 
 } // namespace
+
+int InitZRGlobals()
+{
+    for (char32_t value = 0; value < 256; ++value) {
+        // Under a Turkish locale the library's 'i' and 'I' are not each other's forms.
+        const bool ascii = value < 0x80;
+        const int code = static_cast<int>(value);
+        gZRUpperChar[value] = static_cast<unsigned char>(ascii ? QChar::toUpper(value) : std::toupper(code));
+        gZRLowerChar[value] = static_cast<unsigned char>(ascii ? QChar::toLower(value) : std::tolower(code));
+    }
+    std::srand(std::random_device{}());
+    return 0;
+}
 
 qint64 InString(qint32 start, const QString &haystack, const QString &needle, qint64 options)
 {

@@ -142,8 +142,14 @@ public:
     /// segment has no length, deliberately: a round or square cap shows it as a dot.
     void addLines(const QList<QPointF> &points, bool fromCurrentLocation);
     /// An invalid fill colour: no fill.
-    void addRect(const QRectF &rect, const QColor &strokeColor, const QColor &fillColor);
-    void addOval(const QRectF &rect, const QColor &strokeColor, const QColor &fillColor);
+    void addRect(const QRectF &rect, const QColor &strokeColor, const QColor &fillColor)
+    {
+        addFilled(CUI_PrintToWindowItem::rectangle, rect, strokeColor, fillColor);
+    }
+    void addOval(const QRectF &rect, const QColor &strokeColor, const QColor &fillColor)
+    {
+        addFilled(CUI_PrintToWindowItem::oval, rect, strokeColor, fillColor);
+    }
     void setLineStyleForItem(CUI_PrintToWindowItem &item) const { item.setLineStyle(m_lineStyle); }
 
     // Document

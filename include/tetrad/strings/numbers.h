@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/strings/number_printer.cpp and number_reader.cpp
+// Implemented in runtime/strings/numbers.cpp
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Implemented in runtime/strings/text_functions.cpp and case_tables.cpp
+// Implemented in runtime/strings/text_functions.cpp
 
 #include <tetrad/strings/not_given.h>
 

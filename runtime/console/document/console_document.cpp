@@ -148,16 +148,6 @@ void ConsoleDocument::addLines(const QList<QPointF> &points, bool fromCurrentLoc
     fixFrameHeight(lowest);
 }
 
-void ConsoleDocument::addRect(const QRectF &rect, const QColor &strokeColor, const QColor &fillColor)
-{
-    addFilled(CUI_PrintToWindowItem::rectangle, rect, strokeColor, fillColor);
-}
-
-void ConsoleDocument::addOval(const QRectF &rect, const QColor &strokeColor, const QColor &fillColor)
-{
-    addFilled(CUI_PrintToWindowItem::oval, rect, strokeColor, fillColor);
-}
-
 void ConsoleDocument::addFilled(quint32 type, const QRectF &rect, const QColor &strokeColor, const QColor &fillColor)
 {
     auto item = CUI_PrintToWindowItem::itemWithType(type, rect, strokeColor, fillColor);

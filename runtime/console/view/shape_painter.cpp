@@ -25,11 +25,6 @@ constexpr double widestPen = 32767;
 // Outlining the dashes of a shape that is larger than any screen takes too long; the painter follows the visible ones.
 constexpr double largestOutlined = 5000;
 
-bool isStroked(const Item &item)
-{
-    return item.lineStyle().lineWidth >= 0;
-}
-
 Qt::PenCapStyle capStyle(quint32 code)
 {
     switch (code) {
@@ -107,7 +102,7 @@ bool losesItsPosition(const QPainter &painter, const QPen &pen, const QRectF &ex
 
 void stroke(QPainter &painter, const Item &item, const QRectF &extent)
 {
-    if (!isStroked(item)) {
+    if (!(item.lineStyle().lineWidth >= 0)) {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing, true);
