@@ -75,7 +75,7 @@ double StringDoubleValue(const QString &text)
     const auto read = std::from_chars(digits.cbegin(), digits.cend(), value);
     if (read.ec == std::errc::result_out_of_range) {
         // from_chars does not distinguish too large from too small.
-        value = QByteArrayView(digits.cbegin(), read.ptr).toDouble();
+        value = QString::fromLatin1(digits.cbegin(), read.ptr - digits.cbegin()).toDouble();
     }
     return negative ? -value : value;
 }
