@@ -19,42 +19,56 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Lookup : public WindowTest
+template <typename View = QWidget>
+View *named(QWidget *parent, const QString &identifier)
 {
-protected:
-    template <typename View = QWidget>
-    static View *named(QWidget *parent, const QString &identifier)
-    {
-        auto *const view = new View(parent);
-        view->setObjectName(identifier);
-        return view;
-    }
-    static void expectFound(const Table<Tag, QWidget *> &rows)
-    {
-        for (const auto &[name, tag, found] : rows) {
-            EXPECT_EQ(CUI_ViewWithTag(tag), found) << name;
-        }
-    }
-    template <typename View = QPushButton>
-    static View *tagged(QWidget *parent, Tag tag)
-    {
-        auto *const view = new View(parent);
-        setObjectTag(view, tag);
-        return view;
-    }
-};
+    auto *const view = new View(parent);
+    view->setObjectName(identifier);
+    return view;
+}
 
-TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
+template <typename View = QPushButton>
+View *tagged(QWidget *parent, Tag tag)
+{
+    auto *const view = new View(parent);
+    setObjectTag(view, tag);
+    return view;
+}
+
+void expectFound(const Table<Tag, QWidget *> &rows)
+{
+    for (const auto &[name, tag, found] : rows) {
+        EXPECT_EQ(CUI_ViewWithTag(tag), found) << name;
+    }
+}
+
+using Lookup = WindowTest;
+
+TEST_F(Lookup, ReadsEachClassesTagInItsPosition)
 {
     QWidget *const content = open(1)->contentView();
     QWidget *const plain = named(content, u"7"_s);
     QWidget *const trailing = named(content, u"14 apples"_s);
     QWidget *const effect = named<VisualEffectView>(content, u"10"_s);
-    named<QPushButton>(content, u"8"_s);
+    QWidget *const untagged = named<QPushButton>(content, u"8"_s);
     named<QFrame>(content, u"13"_s);
     tagged<QWidget>(content, 9);
     QWidget *const button = tagged(content, 5);
     QWidget *const inner = tagged<ContentViewSC>(content, 11);
+    auto *const tabs = tagged<QTabWidget>(content, 20);
+    tabs->addTab(named(nullptr, u"24"_s), u"One"_s);
+    tabs->addTab(named(nullptr, {}), u"Two"_s);
+    QWidget *const inSecondTab = tagged(tabs->widget(1), 21);
+    tagged(tabs->widget(1), 22);
+    QWidget *const firstOfTwo = tagged(tabs->widget(0), 22);
+    auto *const segments = tagged<SegmentedControlSC>(content, 30);
+    segments->setLabels({u"a"_s, u"b"_s});
+    setObjectTag(segments->findChildren<QAbstractButton *>().constLast(), 31);
+    QWidget *const box = named(content, {});
+    QWidget *const deep = tagged(named(box, {}), 3);
+    QWidget *const shallow = tagged(content, 3);
+    QWidget *const outer = tagged(content, 4);
+    tagged(outer, 4);
     expectFound({
         {"no view", 0, nullptr},
         {"unknown", 99, nullptr},
@@ -68,60 +82,28 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPlace)
         {"nor does that of a class derived from the plain view", 13, nullptr},
         {"a plain view's tag does not count", 9, nullptr},
         {"the content view itself", contentViewTag, content},
-        {"a view in place of a tag", tagFromObject(effect), effect},
-    });
-    EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), content->findChild<QPushButton *>(u"8"_s))
-        << "a view without a tag counts as 0";
-}
-
-TEST_F(Lookup, ReportsAnotherTagThanIsSearched)
-{
-    QWidget *const content = open(1)->contentView();
-    const Table<QWidget *, Tag> rows = {
-        {"content view", content, contentViewTag},
-        {"visual-effect view, found by its identifier", named<VisualEffectView>(content, u"10"_s), 70},
-        {"plain view", named(content, u"12"_s), 12},
-    };
-    for (const auto &[name, view, reported] : rows) {
-        setObjectTag(view, 70);
-        EXPECT_EQ(CUI_ViewTag(view), reported) << name;
-    }
-}
-
-TEST_F(Lookup, GoesDepthFirstAndTakesTheFirst)
-{
-    QWidget *const content = open(1)->contentView();
-    QWidget *const box = named(content, {});
-    QWidget *const deep = tagged(named(box, {}), 3);
-    QWidget *const shallow = tagged(content, 3);
-    EXPECT_EQ(CUI_ViewWithTag(3), deep) << "what lies in an earlier subview comes before a later subview";
-    QWidget *const outer = tagged(content, 4);
-    tagged(outer, 4);
-    EXPECT_EQ(CUI_ViewWithTag(4), outer) << "a view comes before what lies in it";
-    box->raise();
-    EXPECT_EQ(CUI_ViewWithTag(3), shallow) << "the order is that of the subviews now";
-}
-
-TEST_F(Lookup, SearchesAllTabsAndNoSegments)
-{
-    QWidget *const content = open(1)->contentView();
-    auto *const tabs = tagged<QTabWidget>(content, 20);
-    tabs->addTab(named(nullptr, u"24"_s), u"One"_s);
-    tabs->addTab(named(nullptr, {}), u"Two"_s);
-    QWidget *const second = tagged(tabs->widget(1), 21);
-    tagged(tabs->widget(1), 22);
-    QWidget *const firstOfTwo = tagged(tabs->widget(0), 22);
-    auto *const segments = tagged<SegmentedControlSC>(content, 30);
-    segments->setLabels({u"a"_s, u"b"_s});
-    setObjectTag(segments->findChildren<QAbstractButton *>().constLast(), 31);
-    expectFound({
+        {"a view instead of a tag", tagFromObject(effect), effect},
         {"the tab view itself", 20, tabs},
-        {"in a tab that is not selected", 21, second},
+        {"in a tab that is not selected", 21, inSecondTab},
         {"in the order of the tabs, not of creation", 22, firstOfTwo},
         {"a tab's own view is not compared", 24, nullptr},
         {"a segmented control", 30, segments},
         {"no segment", 31, nullptr},
+        {"in an earlier subview, before a later subview", 3, deep},
+        {"a view, before what lies in it", 4, outer},
     });
+    EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), untagged) << "a view without a tag counts as 0";
+    box->raise();
+    EXPECT_EQ(CUI_ViewWithTag(3), shallow) << "the order is that of the subviews now";
+    const Table<QWidget *, Tag> reported = {
+        {"content view", content, contentViewTag},
+        {"visual-effect view, found by its identifier", effect, 70},
+        {"plain view", plain, 7},
+    };
+    for (const auto &[name, view, tag] : reported) {
+        setObjectTag(view, 70);
+        EXPECT_EQ(CUI_ViewTag(view), tag) << name;
+    }
 }
 
 TEST_F(Lookup, TakesTheShownPopoverThenTheOutputWindowThenTheFront)
@@ -171,11 +153,9 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_s);
     CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_s);
     QWidget *const inContent = tagged(content, 42);
-
     EXPECT_TRUE(QTest::qWaitFor([&] { return toolbar->isVisible() && toolbar->height() >= view->height(); }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return content->size() == before; })) << "neither is taken from the content";
-    EXPECT_GE(window->menuBar()->height(), 20) << "beside no menus too";
-    EXPECT_TRUE(accessory->isVisible());
+    EXPECT_TRUE(accessory->isVisible() && window->menuBar()->height() >= 20) << "beside no menus too";
     expectFound({
         {"by the identifier, whatever its class", 40, accessory},
         {"in an accessory, before the tool bar", 41, inAccessory},
@@ -189,15 +169,17 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     EXPECT_EQ(alertsOf([] { CUI_ToolbarAddItem(51, 1, {}); }), u"Tag error.|Can't find tool bar 51 in window 1."_s);
 }
 
-TEST_F(Lookup, TellsWhatIsWrong)
+TEST_F(Lookup, SaysWhatIsWrong)
 {
+    QPushButton loose;
+    EXPECT_EQ(alertsOf([] { EXPECT_FALSE(ControlWithTag(3)); }), u"Error.|Can't find any windows."_s);
+    EXPECT_EQ(alertsOf([] { CUI_Button(3, u"x"_s, {}); }), u"Error.|Can't find any windows."_s);
+    EXPECT_EQ(alertsOf([&] { EXPECT_EQ(ControlWithTag(tagFromObject(&loose)), &loose); }), QString());
     QWidget *const content = open(1)->contentView();
     QWidget *const plain = named(content, u"5"_s);
     QWidget *const button = tagged(content, 6);
     QAction action;
-    const auto hex = [](const QObject *object) -> QString {
-        return u"0x"_s + QString::number(tagFromObject(object), 16);
-    };
+    // Where the text has a %1, the address.
     const Table<Tag, QString, QWidget *, QString> rows = {
         {"a control", 6, u"NSControl"_s, button, {}},
         {"its own class", 6, u"NSButton"_s, button, {}},
@@ -209,27 +191,19 @@ TEST_F(Lookup, TellsWhatIsWrong)
          u"Class error.|View 5 (NSView), in window 1, cannot respond to NSControl messages."_s},
         {"other control", 6, u"NSSlider"_s, nullptr,
          u"Class error.|View 6 (NSButton), in window 1, cannot respond to NSSlider messages."_s},
-        {"content view", contentViewTag, u"NSControl"_s, nullptr,
+        {"content view as a control", contentViewTag, u"NSControl"_s, nullptr,
          u"Class error.|View -1437226411 (ContentViewSC), in window 1, cannot respond to NSControl messages."_s},
         {"object", tagFromObject(plain), u"NSControl"_s, nullptr,
-         u"Class error.|View <NSView: %1> cannot respond to NSControl messages."_s.arg(hex(plain))},
+         u"Class error.|View <NSView: 0x%1> cannot respond to NSControl messages."_s},
         {"object that is no view", tagFromObject(&action), u"NSView"_s, nullptr,
-         u"Class error.|View <NSToolbarItem: %1> cannot respond to NSView messages."_s.arg(hex(&action))},
+         u"Class error.|View <NSToolbarItem: 0x%1> cannot respond to NSView messages."_s},
     };
     for (const auto &[name, argument, className, expected, alert] : rows) {
-        SCOPED_TRACE(name);
         const QWidget *found = nullptr;
-        EXPECT_EQ(alertsOf([&, a = argument, c = className] { found = CUI_ValidateViewKindOfClass(a, c); }), alert);
-        EXPECT_EQ(found, expected);
+        const QString seen = alertsOf([&, a = argument, c = className] { found = CUI_ValidateViewKindOfClass(a, c); });
+        EXPECT_EQ(seen, QString(alert).replace(u"%1"_s, QString::number(argument, 16))) << name;
+        EXPECT_EQ(found, expected) << name;
     }
-}
-
-TEST_F(Lookup, TellsWhenThereIsNoWindowUnlessGivenTheObject)
-{
-    QPushButton loose;
-    EXPECT_EQ(alertsOf([] { EXPECT_FALSE(ControlWithTag(3)); }), u"Error.|Can't find any windows."_s);
-    EXPECT_EQ(alertsOf([] { CUI_Button(3, u"x"_s, {}); }), u"Error.|Can't find any windows."_s);
-    EXPECT_EQ(alertsOf([&] { EXPECT_EQ(ControlWithTag(tagFromObject(&loose)), &loose); }), QString());
 }
 
 } // namespace

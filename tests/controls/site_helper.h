@@ -2,6 +2,7 @@
 
 #include "tests/support/windows.h"
 #include <tetrad/app/alerts.h>
+#include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/event_codes.h>
 
@@ -13,30 +14,26 @@ namespace tetrad {
 using namespace Qt::StringLiterals;
 
 /// Answers every alert with its first button, as long as it lives, and keeps the texts as "title|text".
-class AlertAnswerer
+class AlertAnswerer : public QTimer
 {
 public:
     QStringList shown;
 
     AlertAnswerer()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+        callOnTimeout([this] {
             if (auto *const box = qobject_cast<QMessageBox *>(modalWindow())) {
                 shown << box->text() + u'|' + box->informativeText();
                 box->buttons().constFirst()->click();
             }
         });
-        m_timer.start(0);
+        start(0);
     }
-
-private:
-    QTimer m_timer;
 };
 
 /// Every alert that a statement queues. One more alert is queued behind them, so that none that was to come is
 /// missed and none is waited for in vain.
-template <typename Statement>
-QString alertsOf(Statement statement)
+inline QString alertsOf(const std::function<void()> &statement)
 {
     AlertAnswerer answerer;
     statement();
@@ -70,10 +67,14 @@ inline QString takeSiteCalls()
     return calls.join(u", "_s);
 }
 
-/// The same by their codes only.
-inline QString takeSiteCodes()
+/// Steps, each with the calls that it brings about and, after an arrow, what `state` says then.
+inline void expectCalls(const Table<std::function<void()>, QString> &steps, const std::function<QString()> &state = {})
 {
-    return codesOf(takeSiteCalls().split(u", "_s, Qt::SkipEmptyParts));
+    for (const auto &[name, act, expected] : steps) {
+        act();
+        const QString calls = takeSiteCalls();
+        EXPECT_EQ(state ? QString(calls % u" -> " % state()) : calls, expected) << name;
+    }
 }
 
 inline void answer(bool yes)
@@ -104,27 +105,27 @@ protected:
     }
 
     /// Makes an object for each event, brings its events about, and harms it at that one, which must come and be
-    /// survived. `answering` answers the others.
-    template <typename Object>
-    void expectSurvival(
-        const QList<qint64> &events, const std::function<Object *()> &make,
-        const QList<std::function<void(Object *)>> &happenings,
-        const std::function<void(qint64)> &answering = [](qint64) {},
-        const std::function<void(Object *)> &harm = [](const Object *victim) { delete victim; })
+    /// survived.
+    static void expectSurvival(
+        const QList<qint64> &events, const std::function<QObject *()> &make,
+        const QList<std::function<void()>> &happenings,
+        const std::function<void(QObject *)> &harm = [](const QObject *victim) { delete victim; })
     {
         for (const qint64 dangerous : events) {
             SCOPED_TRACE(dangerous);
-            const QPointer<Object> victim = make();
+            const QPointer<QObject> victim = make();
             bool isHarmed = false;
-            atEvent = [&, dangerous](qint64 event) {
-                answering(event);
+            atEvent = [&, dangerous, respond = atEvent](qint64 event) {
+                if (respond) {
+                    respond(event);
+                }
                 if (event == dangerous && !std::exchange(isHarmed, true)) {
                     harm(victim);
                 }
             };
             for (const auto &happen : happenings) {
                 if (victim) {
-                    happen(victim);
+                    happen();
                     takeSiteCalls();
                 }
             }
@@ -132,6 +133,16 @@ protected:
             atEvent = nullptr;
             delete victim;
         }
+    }
+
+    /// A check box, a slider, a text field, a pop-up button and a segmented control, tags 2 to 6.
+    static void makeControls()
+    {
+        CUI_CheckBox(2, u"Box"_s, QRectF(10, 10, 100, 30));
+        CUI_Slider(3, 5, 0, 10, QRectF(10, 50, 200, 30));
+        CUI_TextField(4, u"12 apples"_s, QRectF(10, 90, 200, 30));
+        CUI_PopUpButton(5, {u"a"_s, u"b"_s}, 0, QRectF(10, 130, 100, 30));
+        CUI_SegmentedControl(6, {u"x"_s, u"y"_s}, 0, QRectF(120, 130, 100, 30));
     }
 
     QWidget *m_content = nullptr;

@@ -16,6 +16,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <map>
 #include <utility>
 
 namespace tetrad {
@@ -59,6 +60,18 @@ inline qint64 recordCall(qint64 event, Tag tag, Tag wndTag, qint64 obj)
         callback(event);
     }
     return dialogCalls.size();
+}
+
+using Answers = std::map<qint64, std::function<void(CUI_DialogEvent &)>>;
+
+/// Answers the events in the list, each in its way.
+inline std::function<void(qint64)> answers(const Answers &all)
+{
+    return [all](qint64 event) {
+        if (const auto found = all.find(event); found != all.end()) {
+            found->second(*CUI_DialogEventObj());
+        }
+    };
 }
 
 /// The codes of such calls, with a blank between them.

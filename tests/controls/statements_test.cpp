@@ -1,0 +1,247 @@
+#include "tests/controls/site_helper.h"
+#include <tetrad/controls/mda.h>
+#include <tetrad/controls/menu_items.h>
+#include <tetrad/controls/panels.h>
+#include <tetrad/controls/timers.h>
+
+#include <QDateEdit>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QTemporaryDir>
+
+using namespace tetrad;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Statements = SiteTest;
+
+TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
+{
+    makeControls();
+    CUI_RadioButton(11, u"One"_s, QRectF(0, 160, 90, 20));
+    CUI_RadioButton(12, u"Two"_s, QRectF(0, 180, 90, 20));
+    CUI_Stepper(13, 1.5, 0, 9, 0.25, QRectF(100, 160, 90, 30));
+    CUI_ComboBox(14, u"red"_s, {u"red"_s, u"green"_s}, QRectF(200, 160, 90, 30));
+    CUI_DateField(15, QDate(2024, 2, 28), QRectF(200, 10, 95, 30));
+    CUI_ProgressIndicator(16, 3, 0, 10, QRectF(200, 90, 90, 20));
+    CUI_TextLabel(17, u"9 lives"_s, QRectF(230, 130, 60, 20));
+    const auto press = [](Qt::Key key) { return [key](Tag tag) { QTest::keyClick(ControlWithTag(tag), key); }; };
+    const auto click = [](Tag tag) { QTest::mouseClick(ControlWithTag(tag), Qt::LeftButton, {}, QPoint(8, 15)); };
+    const auto clickSegment = [](Tag tag) {
+        QTest::mouseClick(ControlWithTag(tag)->findChildren<QAbstractButton *>().at(1), Qt::LeftButton);
+    };
+    const auto retype = [](Tag tag) {
+        auto *const field = ControlWithTag(tag)->findChild<QLineEdit *>();
+        field->setText(u"green"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+    };
+    const auto chooseDate = [](Tag tag) { qobject_cast<QDateEdit *>(ControlWithTag(tag))->setDate({2025, 2, 28}); };
+    const Table<Tag, std::function<void(Tag)>, double, QString> acted = {
+        {"check box", 2, click, 1, u"Box"_s},
+        {"slider", 3, press(Qt::Key_Right), 6, {}},
+        {"text field", 4, press(Qt::Key_Return), 12, u"12 apples"_s},
+        {"pop-up button", 5, press(Qt::Key_Down), 1, u"b"_s},
+        {"segmented control", 6, clickSegment, 1, {}},
+        {"radio button", 11, press(Qt::Key_Space), 1, u"One"_s},
+        {"stepper", 13, press(Qt::Key_Up), 1.75, u"1.75"_s},
+        {"combo box", 14, retype, 1, u"green"_s},
+        {"date field", 15, chooseDate, 0, u"2025-02-28"_s},
+    };
+    for (const auto &[name, tag, act, number, text] : acted) {
+        SCOPED_TRACE(name);
+        act(tag);
+        EXPECT_EQ(takeSiteCalls(), u"1 %1 7"_s.arg(tag));
+        EXPECT_EQ(ControlDoubleValue(tag), number);
+        EXPECT_EQ(ControlStringValue(tag), text);
+    }
+    const Table<Tag, std::function<void()>, qint64, QString> set = {
+        {"check box", 2, [] { ControlSetIntegerValue(2, 0); }, 0, u"Box"_s},
+        {"slider by its statement", 3, [] { CUI_Slider(3, 9, 0, 10, {}); }, 9, {}},
+        {"text field", 4, [] { ControlSetStringValue(4, u"7 pears"_s); }, 7, u"7 pears"_s},
+        {"pop-up button", 5, [] { ControlSetIntegerValue(5, 0); }, 0, u"a"_s},
+        {"segmented control", 6, [] { ControlSetIntegerValue(6, 0); }, 0, {}},
+        {"radio buttons exclude each other", 11, [] { ControlSetIntegerValue(12, 1); }, 0, u"One"_s},
+        {"stepper", 13, [] { ControlSetDoubleValue(13, 2.5); }, 2, u"2.50"_s},
+        {"combo box", 14, [] { ControlSetIntegerValue(14, 0); }, 0, u"red"_s},
+        {"date field", 15, [] { ControlSetStringValue(15, u"2026-11-22"_s); }, 0, u"2026-11-22"_s},
+        {"progress indicator", 16, [] { ControlSetIntegerValue(16, 7); }, 7, u"70%"_s},
+        {"label", 17, [] {}, 9, u"9 lives"_s},
+    };
+    for (const auto &[name, tag, act, number, text] : set) {
+        SCOPED_TRACE(name);
+        act();
+        EXPECT_EQ(ControlIntegerValue(tag), number);
+        EXPECT_EQ(ControlStringValue(tag), text);
+    }
+    ControlSetEnabled(2, false);
+    click(2);
+    EXPECT_EQ(takeSiteCalls(), QString()) << "what the program sets is not reported, nor does a disabled control act";
+    ViewSetFocus(14);
+    EXPECT_TRUE(CUI_ViewWithTag(14)->hasFocus());
+    EXPECT_EQ(ControlItems(14), (QStringList{u"red"_s, u"green"_s}));
+    ControlSetItems(14, {});
+    EXPECT_EQ(ControlItems(14), QStringList());
+    EXPECT_EQ(alertsOf([] { ControlSetFormat(14, u"1"_s, true, 0, 0); }), QString());
+    EXPECT_TRUE(ControlWithTag(14)->findChild<QLineEdit *>()->validator());
+    ViewSetHidden(16, true);
+    EXPECT_TRUE(CUI_ViewWithTag(16)->isHidden());
+}
+
+TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
+{
+    CUI_Button(-5, u"Press"_s, QRectF(10, 10, 80, 30));
+    QWidget *const button = ControlWithTag(5);
+    EXPECT_TRUE(button->isHidden());
+    CUI_Button(5, {}, {});
+    EXPECT_EQ(ControlStringValue(5), u"Press"_s);
+    EXPECT_EQ(button->geometry(), QRect(10, 10, 80, 30));
+    EXPECT_TRUE(button->isVisible());
+    CUI_TextLabel(16, u"9 lives"_s, QRectF(10, 60, 80, 30));
+    const Table<std::function<void()>, QString> wrong = {
+        {"other class", [] { CUI_Slider(5, 0, 0, 1, {}); },
+         u"Class error.|View 5 (NSButton), in window 7, cannot respond to NSSlider messages."_s},
+        {"a class without a name of the vocabulary", [] { CUI_TextField(16, u"x"_s, {}); },
+         u"Class error.|View 16 (QLabel), in window 7, cannot respond to QLineEdit messages."_s},
+        {"tag 0", [] { CUI_Button(0, u"x"_s, {}); }, u"Tag error.|A view needs a tag from 1 to 1000000, not 0."_s},
+        {"format of no view", [] { ControlSetFormat(88, u"1"_s, true, 0, 0); },
+         u"Tag error.|Can't find view 88 in window 7."_s},
+        {"content view", [] { ViewRemoveFromSuperview(contentViewTag); },
+         u"Tag error.|A content view stays in its window."_s},
+        {"item of no menu", [] { CUI_Menu(0, 1, 0, {}, {}); }, u"Tag error.|There can be no item 1 in a menu 0."_s},
+    };
+    for (const auto &[name, statement, alert] : wrong) {
+        EXPECT_EQ(alertsOf(statement), alert) << name;
+    }
+    EXPECT_EQ(m_content->findChildren<QWidget *>(Qt::FindDirectChildrenOnly).size(), 2);
+
+    open(2);
+    auto *const page = new QWidget(CUI_WindowWithTag(2)->contentView());
+    page->setObjectName(u"9"_s);
+    ViewAddSubview(9, tagFromObject(button));
+    EXPECT_EQ(objectWindowTag(button), 2);
+    ViewAddSubview(tagFromObject(m_content), 9);
+    EXPECT_EQ(objectWindowTag(button), 7) << "with what it lies in";
+    CUI_OutputWindowSetTag(7);
+    ViewAddSubview(9, 5);
+    ViewAddSubview(tagFromObject(button), 9);
+    EXPECT_EQ(button->parentWidget(), page) << "nothing lies in itself";
+    ViewRemoveFromSuperview(5);
+    EXPECT_EQ(CUI_ViewWithTag(5), nullptr);
+}
+
+TEST_F(Statements, MenuItemsAreChosenAndDisabledByNumber)
+{
+    CUI_Menu(20, 0, menuItemEnabled, u"File"_s, {});
+    CUI_Menu(20, 1, menuItemTicked, u"Save & go"_s, u"S"_s);
+    CUI_Menu(20, 2, notGiven, u"-"_s, {});
+    CUI_Menu(20, 3, menuItemDisabled, u"Never"_s, {});
+    EXPECT_EQ(mainMenu()->menus.size(), 2) << "the application's own menu came with the first";
+    QMenu *const menu = mainMenu()->menus.constLast();
+    const QList<QAction *> items = menu->actions();
+    ASSERT_EQ(items.size(), 3);
+    EXPECT_EQ(items[0]->shortcut().toString(), u"Ctrl+Shift+S"_s);
+    EXPECT_TRUE(items[0]->isChecked() && items[1]->isSeparator() && !items[2]->isEnabled());
+    valuesOf = [](qint64) { return QString::number(CUI_DialogEventObj()->longVal); };
+    takeSiteCalls();
+    expectCalls({{"chosen", [&] { items[0]->trigger(); }, u"1400 20 7 1"_s}});
+    EXPECT_TRUE(items[0]->isChecked()) << "only the statement ticks";
+    for (const bool disables : {true, false}) {
+        atEvent = [disables](qint64) { answer(disables); };
+        expectCalls({{"shown", [menu] { Q_EMIT menu->aboutToShow(); }, u"1401 20 7 1, 1401 20 7 3"_s}});
+        EXPECT_NE(items[0]->isEnabled(), disables);
+        EXPECT_FALSE(items[2]->isEnabled()) << "by its own state";
+    }
+}
+
+TEST_F(Statements, TimersFireUntilTheyAreStopped)
+{
+    CUI_Timer(30, 0.001, true);
+    CUI_Timer(31, 0.001, false);
+    const auto fired = [](const QString &timer) { return dialogCalls.count(timer); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fired(u"1450 30 7"_s) > 2; }));
+    CUI_Timer(-30, 0, false);
+    EXPECT_EQ(fired(u"1450 31 7"_s), 1);
+    takeSiteCalls();
+    QTest::qWait(20);
+    EXPECT_EQ(takeSiteCalls(), QString());
+}
+
+TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
+{
+    const QTemporaryDir folder;
+    for (const auto &name : {u"a.txt"_s, u"b.txt"_s, u"c.csv"_s}) {
+        EXPECT_TRUE(QFile(folder.filePath(name)).open(QFile::WriteOnly));
+    }
+    valuesOf = [](qint64 event) {
+        const CUI_DialogEvent &record = *CUI_DialogEventObj();
+        return event == filePanelEventUserEnteredName ? record.stringObj : record.urlObj.fileName();
+    };
+    atEvent = [](qint64 event) {
+        CUI_DialogEvent &record = *CUI_DialogEventObj();
+        answer(record.urlObj.fileName() != u"a.txt");
+        record.stringObj.replace(u"no"_s, event == filePanelEventUserEnteredName ? QString() : u"no"_s);
+    };
+    const Table<decltype(&CUI_OpenPanel), bool, QString, QString, QString> rows = {
+        {"opened", CUI_OpenPanel, false, u"b.txt"_s, u"b.txt"_s, {}},
+        {"opened, asked", CUI_OpenPanel, true, u"b.txt"_s, u"b.txt"_s, u"2906 9 7 b.txt"_s},
+        {"refused", CUI_OpenPanel, true, u"a.txt"_s, {}, u"2906 9 7 a.txt"_s},
+        {"another folder", CUI_OpenPanel, false, u"/"_s, {}, u"2903 9 7"_s},
+        {"saved, with an ending", CUI_SavePanel, false, u"d"_s, u"d.txt"_s, u"2901 9 7 d.txt"_s},
+        {"named by the program", CUI_SavePanel, true, u"nod"_s, u"d.txt"_s, u"2901 9 7 nod.txt, 2906 9 7 d.txt"_s},
+        {"without a name", CUI_SavePanel, false, u"no.txt"_s, u".txt"_s, u"2901 9 7 no.txt"_s},
+    };
+    for (const auto &[name, statement, asks, typed, chosen, calls] : rows) {
+        SCOPED_TRACE(name);
+        FilePanelSetAsks(9, asks);
+        whenRuns<QFileDialog>([&, text = typed, expected = calls](QFileDialog *panel) {
+            EXPECT_EQ(CUI_OpenPanel(9, {}, {}, {}), QString()) << "one at a time";
+            auto *const field = panel->findChild<QLineEdit *>();
+            takeSiteCalls();
+            if (asks) {
+                const auto *const list = panel->findChild<QListView *>(u"listView"_s);
+                const auto file = [list](int row) { return list->model()->index(row, 0, list->rootIndex()); };
+                EXPECT_TRUE(
+                    QTest::qWaitFor([&] { return file(1).isValid() && !(file(0).flags() & Qt::ItemIsEnabled); }));
+                list->selectionModel()->setCurrentIndex(file(1), QItemSelectionModel::Select);
+                EXPECT_TRUE(takeSiteCalls().contains(u"2902 9 7 b.txt"_s));
+            }
+            field->setText(text);
+            QTest::keyClick(field, Qt::Key_Return);
+            EXPECT_EQ(takeSiteCalls(), expected);
+            panel->reject();
+        });
+        const QString path = statement(9, u"Choose"_s, folder.path(), u"txt;md"_s);
+        EXPECT_EQ(path, chosen.isEmpty() ? QString() : folder.filePath(chosen));
+    }
+    FilePanelSetAsks(9, true);
+    for (const qint64 dangerous : {2901, 2905, 2906}) {
+        atEvent = [dangerous](qint64 event) {
+            answer(true);
+            delete (event == dangerous ? objectFromTag(lastObject) : nullptr);
+        };
+        whenRuns<QFileDialog>([dangerous](QFileDialog *panel) {
+            QTest::keyClick(panel, dangerous == 2905 ? Qt::Key_Shift : Qt::Key_Return);
+        });
+        EXPECT_EQ(CUI_SavePanel(9, {}, folder.filePath(u"e"_s), {}), QString()) << dangerous;
+    }
+}
+
+TEST(MDAObj, GrowsAndKeepsElementsAndKeys)
+{
+    MDAObj array({3, 3});
+    EXPECT_TRUE(array.setValue({1, 2}, u"x"_s) && array.setValue({1, 7}, 5));
+    EXPECT_EQ(array.dimensions(), (MDAObj::Indices{3, 8}));
+    EXPECT_EQ(array.value({1, 2}), u"x"_s);
+    for (const auto &wrong : QList<MDAObj::Indices>{{1}, {0, -1}, {1, 2, 3}}) {
+        EXPECT_FALSE(array.setValue(wrong, 1));
+        EXPECT_FALSE(array.value(wrong).isValid());
+    }
+    array.setValueForKey(u"k"_s, 9);
+    EXPECT_EQ(array.valueForKey(u"k"_s), 9);
+    array.clear();
+    EXPECT_FALSE(array.value({1, 7}).isValid() || array.valueForKey(u"k"_s).isValid());
+}
+
+} // namespace

@@ -1,0 +1,376 @@
+#include "tests/controls/views.h"
+
+using namespace tetrad;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST_F(Views, TableShowsWhatTheProgramAnswers)
+{
+    ASSERT_EQ(table->rowCount(), 3);
+    EXPECT_EQ(table->item(2, 1)->text(), u"2.1"_s);
+    EXPECT_EQ(table->rowHeight(1), 41);
+    EXPECT_FALSE(table->item(0, 0)->flags() & Qt::ItemIsEditable);
+    EXPECT_TRUE(table->item(0, 1)->flags() & Qt::ItemIsEditable);
+    EXPECT_EQ(table->horizontalHeaderItem(0)->foreground().color(), QColor(Qt::red));
+    EXPECT_TRUE(table->horizontalHeaderItem(1)->font().italic());
+    TableViewSetCell(17, 1, 0, u"own"_s);
+    TableViewSetCell(17, 9, 0, u"outside"_s);
+    EXPECT_EQ(TableViewCell(17, 1, 0), u"own"_s);
+    atEvent = answers({{tableViewEventRowCount, [](auto &it) { it.longVal = 1; }},
+                       {tableViewEventViewForCell, [](auto &it) { it.viewObj = new QLineEdit; }}});
+    TableViewReloadData(17);
+    EXPECT_EQ(table->rowCount(), 1);
+    EXPECT_TRUE(qobject_cast<QLineEdit *>(table->cellWidget(0, 1)));
+}
+
+TEST_F(Views, TableQueriesAndReportsSelectionEditsAndColumnClicks)
+{
+    table->setFocus();
+    const auto refuseAll = [&] {
+        atEvent = refuse;
+        pressRow(0);
+        key(17, Qt::Key_Home)();
+        key(17, Qt::Key_Up)();
+    };
+    const auto dragOverAll = [&] {
+        atEvent = [](qint64) { answer(CUI_DialogEventObj()->longVal != 1); };
+        pressRow(0);
+        for (const QPoint position : {centerOf(0), centerOf(1), centerOf(1), centerOf(2), QPoint(20, 170)}) {
+            sendMouse(table->viewport(), QEvent::MouseMove, position + QPoint(1, 1), Qt::NoButton, Qt::LeftButton);
+        }
+    };
+    const auto edit = [&] {
+        atEvent = nullptr;
+        table->setCurrentCell(1, 1);
+        table->editItem(table->item(1, 1));
+        auto *const editor = table->findChild<QLineEdit *>();
+        editor->setText(u"new"_s);
+        QTest::keyClick(editor, Qt::Key_Return);
+    };
+    const auto clickHeader = [&] {
+        QHeaderView *const header = table->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 10, 5));
+    };
+    expectCalls(
+        {
+            {"press", [&] { pressRow(1); }, u"1706 17 7 1, 1707 17 7 1 -> 1"_s},
+            {"key", key(17, Qt::Key_Down), u"1706 17 7 2, 1707 17 7 2 -> 2"_s},
+            {"refused", refuseAll, u"1706 17 7 0, 1706 17 7 1 -> 2"_s},
+            {"drag, each row once", dragOverAll, u"1706 17 7 0, 1706 17 7 1, 1706 17 7 2, 1707 17 7 1 -> 1"_s},
+            {"edit", edit, u"1705 17 7 1.1=new -> 1"_s},
+            {"click on a header", clickHeader, u"1708 17 7 1 -> 1"_s},
+            {"the program's own", [] { TableViewSelectRow(17, 0); }, u"1707 17 7 0 -> 0"_s},
+            {"none", [] { TableViewSelectRow(17, -1); }, u"1707 17 7 -1 -> -1"_s},
+        },
+        [] { return QString::number(TableViewSelectedRow(17)); });
+    EXPECT_EQ(CUI_OutputWindowTag(), 7);
+}
+
+TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelections)
+{
+    outline->setFocus();
+    const QTreeWidgetItem *const parent = outline->topLevelItem(1);
+    EXPECT_EQ(outline->topLevelItemCount(), 2);
+    EXPECT_EQ(parent->text(1), u"kind"_s);
+    EXPECT_EQ(parent->childCount(), 0);
+    const auto refuseKey = [] {
+        atEvent = refuse;
+        key(18, Qt::Key_Up)();
+    };
+    expectCalls(
+        {
+            {"opened first", [&] { expand(true); },
+             u"1800 18 7 /1, 1801 18 7 /1, 1802 18 7 /1/0, 1802 18 7 /1/0, 1800 18 7 /1/0, "
+             "1801 18 7 /1, 1802 18 7 /1/1, 1802 18 7 /1/1, 1800 18 7 /1/1, 1803 18 7 /1 -> "_s},
+            {"closed", [&] { expand(false); }, u"1804 18 7 /1 -> "_s},
+            {"opened again", [&] { expand(true); }, u"1803 18 7 /1 -> "_s},
+            {"press", [&] { pressItem(); }, u"1805 18 7 /0, 1806 18 7 /0 -> /0"_s},
+            {"key", key(18, Qt::Key_Down), u"1805 18 7 /1, 1806 18 7 /1 -> /1"_s},
+            {"key refused", refuseKey, u"1805 18 7 /0 -> /1"_s},
+            {"press refused", [&] { pressItem(); }, u"1805 18 7 /0 -> /1"_s},
+        },
+        [&] { return outline->selectedObject().toString(); });
+    EXPECT_EQ(parent->child(0)->text(0), u"/1/0"_s);
+}
+
+TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
+{
+    const auto wheel = [&] {
+        const QPointF position(5, 5);
+        QWheelEvent event(position, tabs->tabBar()->mapToGlobal(position), QPoint(), QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(tabs->tabBar(), &event);
+    };
+    const Table<std::function<void()>> rows = {
+        {"press", [&] { pressTab(); }},
+        {"wheel", wheel},
+        {"arrow key", [&] { QTest::keyClick(tabs->tabBar(), Qt::Key_Right); }},
+        {"Ctrl+Tab", key(16, Qt::Key_Tab, Qt::ControlModifier)},
+    };
+    for (const auto &[name, act] : rows) {
+        SCOPED_TRACE(name);
+        const auto refused = [select = act] {
+            atEvent = refuse;
+            select();
+        };
+        expectCalls({{"agreed", act, u"1600 16 7 1 B & C, 1601 16 7 1 B & C, 1602 16 7 1 B & C -> 1"_s},
+                     {"the program's own", [] { TabViewSelectIndex(16, 0); }, u"1602 16 7 0 A -> 0"_s},
+                     {"refused", refused, u"1600 16 7 1 B & C -> 0"_s}},
+                    [] { return QString::number(TabViewSelectedIndex(16)); });
+        EXPECT_EQ(lastObject, tagFromObject(tabs));
+        EXPECT_EQ(CUI_DialogEventObj()->viewObj, TabViewPage(16, 1));
+        EXPECT_EQ(CUI_OutputWindowTag(), 7);
+        atEvent = nullptr;
+    }
+    expectCalls({{"removed", [] { TabViewRemoveTab(16, 2); }, u"1603 16 7 2"_s},
+                 {"added", [] { TabViewAddTab(16, 99, u"E & F"_s); }, u"1603 16 7 3"_s}});
+    EXPECT_EQ(tabs->tabText(2), u"E && F"_s);
+    EXPECT_EQ(objectWindowTag(TabViewPage(16, 2)), 7);
+}
+
+TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
+{
+    expectCalls({{"drag", [&] { dragDivider(20); },
+                  u"1509 15 7 40, 1508 15 7 160, 1510 15 7 120, 1501 15 7, 1502 15 7 -> 120"_s},
+                 {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
+                  u"1509 15 7 40, 1508 15 7 160, 1510 15 7 90, 1501 15 7, 1502 15 7 -> 90"_s}},
+                [&] { return QString::number(split->position(0)); });
+    auto *const moved = new QWidget(open(2)->contentView());
+    SplitViewAddSubview(tagFromObject(split), tagFromObject(moved));
+    EXPECT_EQ(objectWindowTag(moved), 7);
+    delete moved;
+    constexpr qint64 collapse = splitViewEventCanCollapseSubview;
+    const Table<int, qint64, float, int> rows = {
+        {"not at all below the least", -90, 0, 0, 40},
+        {"collapses past half of the least", -90, collapse, 0, 0},
+        {"does not collapse before half", -70, collapse, 0, 40},
+        {"trailing subview stays", 98, 0, 0, 160},
+        {"trailing subview collapses", 98, collapse, 0, 200},
+        {"a higher least", -60, splitViewEventConstrainMinCoordinate, 70, 70},
+        {"a lower most", 50, splitViewEventConstrainMaxCoordinate, 110, 110},
+        {"no most at all", 20, splitViewEventConstrainMaxCoordinate, 3e38F, 120},
+        {"no least at all", -20, splitViewEventConstrainMinCoordinate, -3e38F, 80},
+        {"rounded, from single precision", 9, splitViewEventConstrainSplitPosition, 124.6F, 125},
+    };
+    for (const auto &[name, distance, queried, coordinate, expected] : rows) {
+        split->setSizes({100, 100});
+        atEvent = answers({{queried, [value = coordinate](auto &it) {
+                                it.floatVal = value;
+                                it.boolVal = true;
+                            }}});
+        dragDivider(distance);
+        EXPECT_EQ(split->position(0), expected) << name;
+    }
+}
+
+TEST_F(Views, SplitResizeChangesOnlyTheSubviewsThatMay)
+{
+    const Table<QList<bool>, int> rows = {{"first", {true, false}, 140},
+                                          {"second", {false, true}, 100},
+                                          {"none", {false, false}, 120},
+                                          {"both", {true, true}, 120}};
+    for (const auto &[name, may, expected] : rows) {
+        split->resize(205, 80);
+        split->setSizes({100, 100});
+        takeSiteCalls();
+        atEvent = answers(
+            {{splitViewEventShouldAdjustSizeOfSubview, [&yes = may](auto &it) { it.boolVal = yes.at(it.longVal); }}});
+        expectCalls({{name, [&] { split->resize(245, 80); }, u"1501 15 7, 1504 15 7, 1504 15 7, 1502 15 7"_s}});
+        EXPECT_NEAR(split->position(0), expected, 1) << name;
+        atEvent = nullptr;
+    }
+}
+
+TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
+{
+    const auto typing = [&] { QTest::keyClicks(text, u"x"_s); };
+    const auto menuCut = [&] {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+        QApplication::sendEvent(text->viewport(), &event);
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        menu->actions().at(3)->trigger();
+        menu->close();
+        text->activateWindow();
+    };
+    QGuiApplication::clipboard()->setText(u"ab"_s);
+    const Table<int, int, std::function<void()>, QString, QString> rows = {
+        {"typing", 3, 3, typing, u"3+0=x"_s, u"onex two"_s},
+        {"over a selection", 0, 3, typing, u"0+3=x"_s, u"x two"_s},
+        {"Return", 3, 3, key(21, Qt::Key_Return), u"3+0=\n"_s, u"one\n two"_s},
+        {"Backspace", 3, 3, key(21, Qt::Key_Backspace), u"2+1="_s, u"on two"_s},
+        {"Delete", 3, 3, key(21, Qt::Key_Delete), u"3+1="_s, u"onetwo"_s},
+        {"Delete of a selection", 0, 4, key(21, Qt::Key_Delete), u"0+4="_s, u"two"_s},
+        {"word before", 3, 3, key(21, Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_s, u" two"_s},
+        {"Paste", 3, 3, key(21, Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_s, u"oneab two"_s},
+        {"Cut in the menu", 0, 3, menuCut, u"0+3="_s, u" two"_s},
+        {"Cut key", 0, 3, key(21, Qt::Key_X, Qt::ControlModifier), u"0+3="_s, u" two"_s},
+    };
+    for (const auto &[name, from, to, act, question, result] : rows) {
+        for (const bool refuses : {true, false}) {
+            setText(from, to);
+            atEvent = answers({{textViewEventRefuseChange, [refuses](auto &it) { it.boolVal = refuses; }}});
+            act();
+            EXPECT_EQ(dialogCalls.value(0), u"2100 21 7 "_s + question) << name;
+            EXPECT_EQ(TextViewString(21), refuses ? u"one two"_s : result) << name;
+            EXPECT_EQ(takeSiteCalls().contains(u"2101 21 7"_s), !refuses) << name;
+        }
+    }
+    setText(3, 3);
+    expectCalls({{"selected", [&] { select(0, 3); }, u"2102 21 7 0+3"_s},
+                 {"moving changes nothing", key(21, Qt::Key_Right), u"2102 21 7 3+0"_s},
+                 {"left", [&] { text->clearFocus(); }, u"2104 21 7"_s},
+                 {"entered", [&] { text->setFocus(); }, u"2103 21 7"_s}});
+    EXPECT_EQ(CUI_OutputWindowTag(), 7);
+}
+
+TEST_F(Views, ATokenIsQueriedWhenItEndsAndTheFieldReported)
+{
+    const auto type = [&](const QString &typed) { return [&, typed] { QTest::keyClicks(tokens, typed); }; };
+    const auto refuseAndLeave = [&] {
+        atEvent = answers({{tokenFieldEventAddTokens, [](auto &it) { it.arrayObj.clear(); }}});
+        tokens->clearFocus();
+    };
+    const auto chooseCompletion = [&] {
+        atEvent = answers({{tokenFieldEventCompletions, [](auto &it) { it.arrayObj = {u"candle"_s, u"cat"_s}; }}});
+        tokens->setFocus();
+        type(u"c"_s)();
+        takeSiteCalls();
+        for (const Qt::Key code : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}) {
+            QTest::keyClick(QApplication::activePopupWidget(), code);
+        }
+    };
+    expectCalls(
+        {
+            {"comma", type(u"c,"_s), u"2301 23 7 c, 2302 23 7 a|b|c -> a, b, c, "_s},
+            {"word", type(u"d"_s), u"2300 23 7 d -> a, b, c, d"_s},
+            {"Return", key(23, Qt::Key_Return), u"2301 23 7 d, 2302 23 7 a|b|c|d, 1 23 7 -> a, b, c, d, "_s},
+            {"word", type(u"e"_s), u"2300 23 7 e -> a, b, c, d, e"_s},
+            {"refused", refuseAndLeave, u"2301 23 7 e -> a, b, c, d, "_s},
+            {"emptied by the program", [] { ControlSetStringValue(23, u""_s); }, u" -> "_s},
+            {"completed", chooseCompletion, u"2301 23 7 cat, 2302 23 7 cat, 1 23 7 -> cat, "_s},
+        },
+        [&] { return tokens->text(); });
+    EXPECT_EQ(TokenFieldTokens(23), QStringList{u"cat"_s});
+}
+
+TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOne)
+{
+    QWidget window;
+    atEvent = nullptr;
+    const auto drag = [&] { dragPopover(); };
+    const auto close = [] { PopoverClose(9); };
+    const auto agreeAndClose = [&] {
+        atEvent = answers(respond());
+        close();
+    };
+    const auto giveWay = [&] {
+        atEvent = answers({{popoverEventShouldDetach, [](auto &it) { it.boolVal = true; }},
+                           {popoverEventDetachableWindow, [&](auto &it) { it.viewObj = &window; }}});
+        showPopover();
+        takeSiteCalls();
+        dragPopover();
+    };
+    QPoint shownAt;
+    const auto show = [&] {
+        showPopover();
+        shownAt = popover->pos();
+    };
+    const auto state = [&] {
+        const bool isTool = popover->windowType() == Qt::Tool && popover->pos() != shownAt;
+        return popover->isVisible() ? (isTool ? u"as a window"_s : u"at its view"_s)
+                                    : (window.isVisible() ? u"another window"_s : u"hidden"_s);
+    };
+    expectCalls(
+        {
+            {"show", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
+            {"the preset answer is no", close, u"1301 9 9 -> at its view"_s},
+            {"drag refused", drag, u"1307 9 9 -> at its view"_s},
+            {"close agreed", agreeAndClose, u"1301 9 9, 1304 9 9, 1305 9 9 -> hidden"_s},
+            {"show again", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
+            {"dragged off", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> as a window"_s},
+            {"no more while it is one", drag, u" -> as a window"_s},
+            {"replaced by a window", giveWay, u"1307 9 9, 1300 9 9, 1306 9 9 -> another window"_s},
+        },
+        state);
+    EXPECT_EQ(CUI_OutputWindowTag(), 9);
+    PopoverRemove(9);
+    EXPECT_EQ(CUI_PopoverWithTag(9), nullptr);
+}
+
+TEST_F(Views, ToolbarClicksAreReportedAndItemsValidatedOnRequest)
+{
+    atEvent = nullptr;
+    expectCalls({{"click", [&] { clickItem(); }, u"1900 19 7"_s}});
+    EXPECT_EQ(lastObject, tagFromObject(item));
+    ToolbarItemSetValidates(3, 19, true);
+    for (const bool enabled : {true, false}) {
+        atEvent = answers({{toolbarEventValidateItem, [enabled](auto &it) { it.boolVal = enabled; }}});
+        QTest::mouseClick(m_content, Qt::LeftButton);
+        EXPECT_TRUE(takeSiteCalls().startsWith(u"1901 19 7"_s));
+        EXPECT_EQ(item->isEnabled(), enabled);
+    }
+}
+
+TEST_F(Views, ColoursAndFontsAreReportedAsTheyAreChosen)
+{
+    CUI_OutputWindowSetTag(7);
+    QFont font = QApplication::font();
+    font.setPointSize(10);
+    QColorDialog *const colors = CUI_ColorPanel(Qt::red);
+    QFontDialog *const fonts = CUI_FontPanel(font);
+    EXPECT_TRUE(worksWhenModal(colors) && worksWhenModal(fonts) && colors->isVisible() && fonts->isVisible());
+    font.setPointSize(14);
+    takeSiteCalls();
+    expectCalls({{"colour", [&] { colors->setCurrentColor(Qt::blue); }, u"2600 0 7 #0000ff"_s},
+                 {"font", [&] { fonts->setCurrentFont(font); }, u"2200 0 7 14"_s}});
+    EXPECT_EQ(lastObject, tagFromObject(fonts));
+    delete colors;
+    delete fonts;
+}
+
+TEST_F(Views, SurviveTheirDeletionReloadingOrLosingAPageAtEveryEvent)
+{
+    using Happenings = QList<std::function<void()>>;
+    const Happenings toTable = {[] { TableViewReloadData(17); }, [&] { pressRow(1); }};
+    const Happenings toOutline = {[&] { expand(true); }, [&] { expand(false); }, [&] { pressItem(); }};
+    const Happenings toTabs = {[&] { pressTab(); }};
+    const Happenings toSplit = {[&] { dragDivider(-95); }, [&] { split->hide(); }, [&] { split->show(); },
+                                [&] { split->resize(300, 80); }};
+    const Happenings toText = {[&] { text->setFocus(); }, key(21, Qt::Key_X), [&] { select(0, 2); },
+                               [&] { text->clearFocus(); }};
+    const Happenings toTokens = {[&] { tokens->setFocus(); }, key(23, Qt::Key_X), key(23, Qt::Key_Return)};
+    const Happenings toPopover = {showPopover, [&] { dragPopover(); }, showPopover, [] { PopoverClose(9); }};
+    const Happenings toItem = {[] { ToolbarItemSetValidates(3, 19, true); }, [&] { clickItem(); }};
+    const std::tuple<std::function<QObject *()>, QList<qint64>, Happenings, std::function<void()>> rows[] = {
+        {[&] { return table; }, {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300}, toTable, toTable[0]},
+        {[&] { return outline; },
+         {1800, 1801, 1802, 1803, 1804, 1805, 1806},
+         toOutline,
+         [] { OutlineViewReloadData(18); }},
+        {[&] { return tabs; }, {1600, 1601, 1602}, toTabs, {}},
+        {[&] { return tabs->widget(1); }, {1600, 1601}, toTabs, {}},
+        {[&] { return split; }, {1501, 1502, 1503, 1504, 1506, 1508, 1509, 1510, 1511, 1512}, toSplit, {}},
+        {[&] { return text; }, {2100, 2101, 2102, 2103, 2104}, toText, {}},
+        {[&] { return tokens; }, {2300, 2301, 2302, 1}, toTokens, {}},
+        {[&] { return popover; }, {1300, 1301, 1302, 1304, 1305, 1306, 1307}, toPopover, {}},
+        {[&] { return item; }, {1900, 1901}, toItem, {}},
+        {[] { return CUI_ColorPanel(Qt::red); },
+         {2600},
+         {[] { CUI_ColorPanel(Qt::red)->setCurrentColor(Qt::green); }},
+         {}},
+    };
+    for (const auto &[victim, events, happenings, other] : rows) {
+        const auto renew = [&] {
+            TearDown();
+            SetUp();
+            return victim();
+        };
+        expectSurvival(events, renew, happenings);
+        if (other) {
+            expectSurvival(events, renew, happenings, [&](QObject *) { other(); });
+        }
+    }
+}
+
+} // namespace
