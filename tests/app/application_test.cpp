@@ -1,24 +1,15 @@
 #include <tetrad/app/application.h>
 
+#include "tests/support/windows.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/menus.h>
-#include <tetrad/app/modal.h>
-#include <tetrad/app/window.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/strings/not_given.h>
 
-#include <QApplication>
 #include <QClipboard>
 #include <QFileOpenEvent>
 #include <QScreen>
-#include <QTest>
-#include <QTimer>
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
 #include <csignal>
-#include <functional>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
@@ -26,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QList<qint64> seen;
-QVariant lastObject;
+QVariant eventObject;
 std::function<void(qint64)> answer;
 
 // Keeps the codes, without those that every wait for events brings.
@@ -34,7 +25,7 @@ QVariant onAppEvent(qint64 event, const QVariant &object)
 {
     if (event != appEventWillUpdate && event != appEventDidUpdate) {
         seen << event;
-        lastObject = object;
+        eventObject = object;
     }
     if (answer) {
         answer(event);
@@ -53,25 +44,6 @@ protected:
         answer = nullptr;
     }
 };
-
-using Terminate = AppDelegate;
-
-TEST(Application, DelegateThatIsInstalledStays)
-{
-    CUI_AppDelegate own;
-    setAppDelegate(&own);
-    CocoaInit();
-    EXPECT_EQ(CUI_AppDelegateObj(), &own);
-    // It is served like the runtime's own.
-    static int asked = 0;
-    own.delegateCallback = [](qint64 event, qintptr) {
-        asked += event == appEventShouldTerminate;
-        CUI_AppDelegateObj()->longVal = 0;
-    };
-    QEvent quit(QEvent::Quit);
-    QCoreApplication::sendEvent(qApp, &quit);
-    EXPECT_EQ(asked, 1);
-}
 
 TEST_F(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
 {
@@ -98,7 +70,7 @@ void startAndMeetEvents()
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         QFileOpenEvent open(u"/x/y.z"_s);
         QCoreApplication::sendEvent(qApp, &open);
-        EXPECT_EQ(lastObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_s)});
+        EXPECT_EQ(eventObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_s)});
         EXPECT_EQ(CUI_AppDelegateObj()->stringVal, u"y.z");
         CUI_AppDelegateObj()->openFiles({u"/a/dir/"_s});
         EXPECT_EQ(CUI_AppDelegateObj()->stringVal, u"dir");
@@ -120,7 +92,7 @@ TEST_F(AppDelegate, RealEventsArrive)
     EXPECT_EXIT(startAndMeetEvents(), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(Terminate, AsksTellsAndRefuses)
+TEST_F(AppDelegate, MayRefuseToTerminate)
 {
     CocoaInit();
     for (const qint64 refusal : {0, 2, -1}) {
@@ -138,21 +110,15 @@ TEST_F(Terminate, AsksTellsAndRefuses)
 
 void terminateFromNestedRun()
 {
+    QGuiApplication::clipboard()->setText(u"kept"_s);
     QWidget inner;
     QTimer::singleShot(0, &inner, AppTerminate);
     runModalForWindow(&inner);
 }
 
-void terminateWithAnOwnedClipboard()
-{
-    QGuiApplication::clipboard()->setText(u"kept"_s);
-    AppTerminate();
-}
-
 template <AppEvent event>
 void terminateAgainIn()
 {
-    CUI_SetOnAppEventFunction(onAppEvent);
     answer = [](qint64 code) {
         if (code == event) {
             AppTerminate();
@@ -164,27 +130,29 @@ void terminateAgainIn()
 
 void closeTheLastWindow()
 {
-    CUI_SetOnAppEventFunction(onAppEvent);
     answer = [](qint64 event) {
         CUI_AppDelegateObj()->boolVal = event == appEventShouldTerminateAfterLastWindowClosed;
     };
-    CUI_Window(1, QString(), notGiven, QRectF());
-    CUI_WindowWithTag(1)->close();
+    open(1)->close();
 }
 
 // What Qt 6.4 does for a close box on Wayland: the event is not a spontaneous one.
 void closeBoxOnWayland()
 {
-    CUI_Window(1, QString(), notGiven, QRectF());
-    CUI_WindowWithTag(1)->windowHandle()->close();
+    open(1)->windowHandle()->close();
     std::_Exit(4);
 }
 
 void signalThoughTheDelegateWouldRefuse()
 {
-    CUI_SetOnAppEventFunction(onAppEvent);
     answer = [](qint64) { CUI_AppDelegateObj()->longVal = 0; };
     std::raise(SIGTERM);
+}
+
+void signalTwice()
+{
+    std::raise(SIGHUP);
+    std::raise(SIGHUP);
 }
 
 // What the offscreen platform itself has to say.
@@ -192,50 +160,40 @@ constexpr char nothingOfOurs[] = "^((This plugin does not support|QStandardPaths
 
 // From wherever it is called: status 0, and nothing on standard error. No static object is destroyed, since the thread
 // that reads the display's events uses those of the libraries until the end.
-TEST_F(Terminate, EndsFromAnyDepth)
+TEST_F(AppDelegate, ProcessEndsFromAnyDepthAndBySignals)
 {
-    const std::pair<const char *, void (*)()> rows[] = {
-        {"nested runs", terminateFromNestedRun},
-        {"with an owned clipboard", terminateWithAnOwnedClipboard},
-        {"again in the question", terminateAgainIn<appEventShouldTerminate>},
-        {"again while it is notified", terminateAgainIn<appEventWillTerminate>},
-        {"the program closes its last window, which ends it", closeTheLastWindow},
-        {"the close box of the last window on Wayland", closeBoxOnWayland},
-        {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse},
+    // The signal that kills it, or 0 for a regular end.
+    const Table<void (*)(), int> rows = {
+        {"nested runs, with an owned clipboard", terminateFromNestedRun, 0},
+        {"again in the question", terminateAgainIn<appEventShouldTerminate>, 0},
+        {"again while it is notified", terminateAgainIn<appEventWillTerminate>, 0},
+        {"the program closes its last window, which ends it", closeTheLastWindow, 0},
+        {"the close box of the last window on Wayland", closeBoxOnWayland, 0},
+        {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse, 0},
+        {"a second signal at once", signalTwice, SIGHUP},
     };
-    for (const auto &[name, end] : rows) {
+    for (const auto &[name, end, signal] : rows) {
         SCOPED_TRACE(name);
         const auto endInsideARun = [act = end] {
             CocoaInit();
+            CUI_SetOnAppEventFunction(onAppEvent);
             std::atexit(std::abort);
             QWidget window;
             QTimer::singleShot(0, &window, act);
             runModalForWindow(&window);
             std::_Exit(3);
         };
-        EXPECT_EXIT(endInsideARun(), testing::ExitedWithCode(0), nothingOfOurs);
+        const auto ended = [killer = signal](int status) {
+            return killer ? testing::KilledBySignal(killer)(status) : testing::ExitedWithCode(0)(status);
+        };
+        EXPECT_EXIT(endInsideARun(), ended, nothingOfOurs);
     }
-}
-
-TEST_F(Terminate, ASignalEndsAtOnceWhileNoRunIsServedAndTheSecondTime)
-{
-    const auto outsideARun = [] {
+    const auto raiseOutsideARun = [] {
         CocoaInit();
         std::raise(SIGTERM);
         std::_Exit(3);
     };
-    EXPECT_EXIT(outsideARun(), testing::KilledBySignal(SIGTERM), nothingOfOurs);
-    const auto twice = [] {
-        CocoaInit();
-        QWidget window;
-        QTimer::singleShot(0, &window, [] {
-            std::raise(SIGHUP);
-            std::raise(SIGHUP);
-        });
-        runModalForWindow(&window);
-        std::_Exit(3);
-    };
-    EXPECT_EXIT(twice(), testing::KilledBySignal(SIGHUP), nothingOfOurs);
+    EXPECT_EXIT(raiseOutsideARun(), testing::KilledBySignal(SIGTERM), nothingOfOurs);
 }
 
 } // namespace

@@ -10,8 +10,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -20,30 +18,38 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A window with a panel raised over it, and one beside it; each has a button and a field.
+using Act = std::function<void()>;
+
+// A window with a panel raised over it, and one next to it; each has a button and a field.
 class Modal : public testing::Test
 {
 protected:
     QWidget carrier;
-    QPushButton *outsideButton = new QPushButton(&carrier);
+    QPushButton *outsideButton = new QPushButton(u"outside"_s, &carrier);
     QLineEdit *outsideField = new QLineEdit(&carrier);
     QWidget *panel = new QWidget(&carrier);
     QLineEdit *field = new QLineEdit(panel);
-    QPushButton *button = new QPushButton(panel);
+    QPushButton *button = new QPushButton(u"inside"_s, panel);
     QWidget other;
-    QPushButton *otherButton = new QPushButton(&other);
+    QPushButton *otherButton = new QPushButton(u"other"_s, &other);
+    QLineEdit *otherField = new QLineEdit(&other);
+    QStringList clicked;
 
     void SetUp() override
     {
         CocoaInit();
         carrier.setGeometry(0, 0, 400, 300);
-        outsideButton->setGeometry(0, 0, 80, 30);
-        outsideField->setGeometry(100, 0, 80, 30);
         panel->setGeometry(50, 100, 200, 80);
-        field->setGeometry(0, 0, 80, 30);
-        button->setGeometry(100, 0, 80, 30);
         panel->hide();
+        button->setFocusPolicy(Qt::NoFocus);
         other.setGeometry(500, 0, 200, 200);
+        for (QPushButton *const each : {outsideButton, button, otherButton}) {
+            each->setGeometry(100, 0, 80, 30);
+            QObject::connect(each, &QPushButton::clicked, [this, each] { clicked << each->text(); });
+        }
+        for (QLineEdit *const each : {outsideField, field, otherField}) {
+            each->setGeometry(0, 0, 80, 30);
+        }
         other.show();
         carrier.show();
         carrier.activateWindow();
@@ -51,9 +57,8 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([this] { return outsideField->hasFocus(); }));
     }
 
-    // Runs the panel and, inside the run, what the player does; the run is aborted after that if it is
-    // still on.
-    qint64 runWhile(const std::function<void()> &act)
+    // Runs the panel and, inside the run, what the player does; the run is aborted after that if it is still on.
+    qint64 runWhile(const Act &act)
     {
         QTimer::singleShot(0, panel, [act] {
             act();
@@ -63,15 +68,26 @@ protected:
     }
 };
 
-void clickInWindow(const QWidget &inside)
+void click(const QWidget *inside)
 {
-    QWidget *top = inside.window();
-    QTest::mouseClick(top->windowHandle(), Qt::LeftButton, {}, inside.mapTo(top, inside.rect().center()));
+    QWidget *top = inside->window();
+    QTest::mouseClick(top->windowHandle(), Qt::LeftButton, {}, inside->mapTo(top, inside->rect().center()));
 }
 
 TEST_F(Modal, EveryWayToEndGivesItsCode)
 {
-    const Table<std::function<void()>, qint64> rows = {
+    QMenu menu;
+    menu.addAction(u"Item"_s);
+    QWidget inner;
+    const auto stopInAMenu = [&] {
+        QTimer::singleShot(0, &menu, [] { stopModalWithCode(4); });
+        menu.exec(carrier.mapToGlobal(QPoint(10, 10)));
+    };
+    const auto runInner = [&] {
+        QTimer::singleShot(0, &inner, [this] { delete panel, stopModalWithCode(3); });
+        EXPECT_EQ(runModalForWindow(&inner), 3);
+    };
+    const Table<Act, qint64> rows = {
         {"stopped", [] { stopModalWithCode(modalStopped); }, modalStopped},
         {"any code", [] { stopModalWithCode(1001); }, 1001},
         {"aborted", [] { abortModal(); }, modalAborted},
@@ -81,93 +97,73 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
         {"stopped after a hide", [this] { panel->hide(), stopModalWithCode(5); }, 5},
         {"shown again at once is not the end",
          [this] { panel->hide(), panel->show(), QCoreApplication::processEvents(), stopModalWithCode(6); }, 6},
+        {"inside an open menu", stopInAMenu, 4},
+        {"deleted while an inner one runs", runInner, modalAborted},
     };
     stopModalWithCode(1); // nothing to stop yet
+    EXPECT_EQ(runModalForWindow(nullptr), modalAborted);
+    carrier.hide();
+    EXPECT_EQ(runModalForWindow(panel), modalAborted) << "nobody could see it";
+    carrier.show();
     for (const auto &[name, act, code] : rows) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(runWhile(act), code);
-        EXPECT_EQ(modalWindow(), nullptr);
+        EXPECT_EQ(runWhile(act), code) << name;
+        EXPECT_EQ(modalWindow(), nullptr) << name;
     }
 }
 
-TEST_F(Modal, WithoutAWidgetToSeeItAborts)
+TEST_F(Modal, ClicksAndKeysReachOnlyTheWidgetAndWhatWorksInModalRuns)
 {
-    EXPECT_EQ(runModalForWindow(nullptr), modalAborted);
-    carrier.hide();
-    EXPECT_EQ(runModalForWindow(panel), modalAborted);
-    carrier.show();
-    QTimer::singleShot(0, &carrier, [this] { delete panel; });
-    EXPECT_EQ(runModalForWindow(panel), modalAborted);
-}
-
-TEST_F(Modal, ClicksReachOnlyTheWidget)
-{
-    const QSignalSpy inside(button, &QPushButton::clicked);
-    const QSignalSpy outside(outsideButton, &QPushButton::clicked);
-    const QSignalSpy elsewhere(otherButton, &QPushButton::clicked);
-    runWhile([this] {
-        clickInWindow(*outsideButton);
-        clickInWindow(*outsideField);
-        clickInWindow(*otherButton);
+    const auto clickAll = [this] {
+        for (const QWidget *const each : QWidgetList{outsideButton, outsideField, otherButton, otherField}) {
+            click(each);
+        }
         QTest::mouseClick(outsideButton, Qt::LeftButton);
         EXPECT_TRUE(field->hasFocus());
-        clickInWindow(*button);
-    });
-    EXPECT_EQ(outside.count() + elsewhere.count(), 0);
-    EXPECT_EQ(inside.count(), 1);
-    clickInWindow(*outsideButton);
-    EXPECT_EQ(outside.count(), 1) << "the filter must be gone after the run";
-}
-
-TEST_F(Modal, FocusTakenOutsideComesBackWithItsKeys)
-{
-    runWhile([this] {
+        click(button);
+    };
+    const auto typeElsewhere = [this] {
         outsideField->setFocus();
         EXPECT_TRUE(field->hasFocus());
         QTest::keyClicks(outsideField, u"12"_s);
         QTest::keyClick(other.windowHandle(), Qt::Key_3);
-    });
-    EXPECT_EQ(field->text(), u"123");
-    EXPECT_EQ(outsideField->text(), QString());
+    };
+    const auto useOther = [this] {
+        setWorksWhenModal(&other, true);
+        click(otherButton);
+        click(otherField);
+        QTest::keyClick(other.windowHandle(), Qt::Key_4);
+    };
+    const Table<Act, QString> rows = {
+        {"clicks", clickAll, u"inside|||"_s},
+        {"keys", typeElsewhere, u"|123||"_s},
+        {"a window that works in modal runs", useOther, u"other|123||4"_s},
+    };
+    for (const auto &[name, act, expected] : rows) {
+        runWhile(act);
+        const QStringList seen = {clicked.join(u' '), field->text(), outsideField->text(), otherField->text()};
+        EXPECT_EQ(seen.join(u'|'), expected) << name;
+        clicked.clear();
+    }
+    click(outsideButton);
+    EXPECT_EQ(clicked, QStringList{u"outside"_s}) << "the filter must be gone after the run";
 }
 
 TEST_F(Modal, AMinimisedWindowComesBackAndNothingElseHappens)
 {
-    QWidget window;
-    QPushButton answer(&window);
-    const QSignalSpy answered(&answer, &QPushButton::clicked);
-    QTimer::singleShot(0, &window, [&] {
-        for (const bool byKey : {false, true}) {
-            window.showMinimized();
+    const auto act = [&] {
+        for (const Act &awaken : QList<Act>{[this] { QTest::keyClick(carrier.windowHandle(), Qt::Key_Space); },
+                                            [this] { click(outsideButton); }}) {
+            other.showMinimized();
             QApplication::processEvents();
-            EXPECT_TRUE(window.isMinimized());
-            if (byKey) {
-                QTest::keyClick(carrier.windowHandle(), Qt::Key_Space);
-            } else {
-                clickInWindow(*outsideButton);
-            }
-            EXPECT_FALSE(window.isMinimized());
+            EXPECT_TRUE(other.isMinimized());
+            awaken();
+            EXPECT_FALSE(other.isMinimized());
         }
-        EXPECT_EQ(answered.count(), 0);
         abortModal();
-    });
-    runModalForWindow(&window);
-}
-
-TEST_F(Modal, WhatWorksDuringModalRunsGetsClicksAndKeys)
-{
-    QLineEdit otherField(&other);
-    const QSignalSpy elsewhere(otherButton, &QPushButton::clicked);
-    otherField.setGeometry(0, 50, 80, 30);
-    otherField.show();
-    setWorksWhenModal(&other, true);
-    runWhile([&] {
-        clickInWindow(*otherButton);
-        clickInWindow(otherField);
-        QTest::keyClick(other.windowHandle(), Qt::Key_3);
-    });
-    EXPECT_EQ(elsewhere.count(), 1);
-    EXPECT_EQ(otherField.text(), u"3");
+    };
+    QTimer::singleShot(0, &other, act);
+    runModalForWindow(&other);
+    EXPECT_EQ(clicked, QStringList());
 }
 
 TEST_F(Modal, CarrierScrolls)
@@ -209,30 +205,7 @@ TEST_F(Modal, NestedRunsEndInTurn)
         stopModalWithCode(12);
     };
     EXPECT_EQ(runWhile(runInner), 12);
-    EXPECT_EQ(innerField.text(), u"7");
-    EXPECT_EQ(field->text(), QString());
-}
-
-TEST_F(Modal, OuterWidgetGoneWhileInnerRuns)
-{
-    QWidget inner;
-    const auto runInner = [&] {
-        QTimer::singleShot(0, &inner, [this] { delete panel, stopModalWithCode(3); });
-        EXPECT_EQ(runModalForWindow(&inner), 3);
-    };
-    EXPECT_EQ(runWhile(runInner), modalAborted);
-}
-
-TEST_F(Modal, StopsFromInsideAnOpenMenu)
-{
-    QMenu menu;
-    menu.addAction(u"Item"_s);
-    const auto openAndStop = [&] {
-        QTimer::singleShot(0, &menu, [] { stopModalWithCode(4); });
-        menu.exec(carrier.mapToGlobal(QPoint(10, 10)));
-    };
-    EXPECT_EQ(runWhile(openAndStop), 4);
-    EXPECT_FALSE(menu.isVisible());
+    EXPECT_EQ(innerField.text() % u'|' % field->text(), u"7|"_s);
 }
 
 TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
@@ -243,19 +216,18 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
             QTest::keyClick(carrier.windowHandle(), key);
         }
     };
-    EXPECT_EQ(runWhile(typeAhead), modalStopped);
-    EXPECT_EQ(field->text(), u"1");
-    field->clear();
-    EXPECT_EQ(runModalForWindow(panel), modalStopped);
-    EXPECT_EQ(field->text(), u"23");
-    field->clear();
-    EXPECT_EQ(runWhile([] {}), modalAborted);
-    EXPECT_EQ(field->text(), u"4");
+    QString runs;
+    for (const Act &act : QList<Act>{typeAhead, nullptr, [] {}}) {
+        field->clear();
+        const qint64 code = act ? runWhile(act) : runModalForWindow(panel);
+        runs += QString::number(code) % u' ' % field->text() % u'|';
+    }
+    EXPECT_EQ(runs, u"1 1|1 23|-1001 4|"_s);
 }
 
 TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
 {
-    // Ways in and out by keys; no way out is a click beside panel and bar.
+    // Ways in and out by keys; no way out is a click outside panel and bar.
     const Table<QList<Qt::Key>, QList<Qt::Key>> rows = {
         {"Escape in a menu", {Qt::Key_F10}, {Qt::Key_Escape}},
         {"Escape in the next menu", {Qt::Key_F10, Qt::Key_Down, Qt::Key_Right}, {Qt::Key_Escape}},
@@ -272,7 +244,7 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
     bar.show();
     const auto press = [this](Qt::Key key) {
         QWidget *popup = QApplication::activePopupWidget();
-        QTest::keyClick((popup != nullptr ? popup : &carrier)->windowHandle(), key,
+        QTest::keyClick((popup ? popup : &carrier)->windowHandle(), key,
                         key == Qt::Key_Alt ? Qt::AltModifier : Qt::NoModifier);
     };
     runWhile([&] {
@@ -280,14 +252,12 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
             SCOPED_TRACE(name);
             field->setText(u"1"_s);
             std::ranges::for_each(enter, press);
-            EXPECT_TRUE(bar.hasFocus() || QApplication::activePopupWidget() != nullptr);
+            EXPECT_TRUE(bar.hasFocus() || QApplication::activePopupWidget());
             std::ranges::for_each(leave, press);
             if (leave.isEmpty()) {
                 QTest::mouseClick(carrier.windowHandle(), Qt::LeftButton, {}, carrier.rect().bottomRight());
             }
-            EXPECT_TRUE(field->hasFocus());
-            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-            EXPECT_EQ(bar.activeAction(), nullptr);
+            EXPECT_TRUE(field->hasFocus() && !QApplication::activePopupWidget() && !bar.activeAction());
         }
         press(Qt::Key_Alt);
         other.activateWindow();
@@ -295,24 +265,6 @@ TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)
         carrier.activateWindow();
         EXPECT_TRUE(QTest::qWaitFor([this] { return field->hasFocus(); })) << "its window was left and entered again";
     });
-}
-
-TEST_F(Modal, AWindowThatGetsTheKeyboardBehindAMenuHasItAfterwards)
-{
-    QMenu menu;
-    menu.addAction(u"Item"_s);
-    QWidget window;
-    QPushButton inside(&window);
-    QTimer::singleShot(0, &menu, [&] {
-        menu.popup(QPoint(10, 10));
-        window.activateWindow();
-        QCoreApplication::processEvents();
-        EXPECT_FALSE(window.isActiveWindow());
-        menu.close();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return inside.hasFocus(); }));
-        abortModal();
-    });
-    runModalForWindow(&window);
 }
 
 } // namespace

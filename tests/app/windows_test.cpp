@@ -1,10 +1,10 @@
 #include <tetrad/app/windows.h>
 
-#include "tests/support/windows.h"
+#include "tests/app/alert_helper.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
-#include <tetrad/app/window.h>
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/popover.h>
 #include <tetrad/app/window_delegate.h>
 
 #include <QContextMenuEvent>
@@ -42,11 +42,8 @@ TEST_F(Windows, StatementMakesAndShows)
         Window *const window = open(tag, rect);
         EXPECT_EQ(window->contentRect().size(), size);
         EXPECT_EQ(isCentred(window), centred);
-        if (!centred) {
-            // The offscreen platform keeps the 2 pixels of its frame on the screen.
-            const QPointF off = window->contentRect().topLeft() - rect.topLeft();
-            EXPECT_LE(off.manhattanLength(), 2);
-        }
+        // The offscreen platform keeps the 2 pixels of its frame on the screen.
+        EXPECT_TRUE(centred || (window->contentRect().topLeft() - rect.topLeft()).manhattanLength() <= 2);
         EXPECT_EQ(window->isVisible(), shown);
         EXPECT_EQ(window->windowTitle(), u"Untitled");
         EXPECT_EQ(window->styleMask(), windowStyleDefault);
@@ -107,22 +104,21 @@ TEST_F(Windows, ContentStaysThroughMenuBarsAndTinyWindows)
     for (const qint64 style : {qint64(windowStyleTitled), qint64(windowStyleDefault)}) {
         CUI_Window(1, QString(), style, QRectF(40, 60, 300, 200));
         Window *const window = CUI_WindowWithTag(1);
+        const auto shrinkForAWhile = [window] {
+            const QSize size = window->size();
+            for (const QSize tiny : {QSize(1, 1), QSize(200, 1), QSize(1, 100), size}) {
+                window->resize(tiny);
+                QApplication::processEvents();
+                EXPECT_GT(window->width(), 0);
+            }
+        };
         const Table<std::function<void()>> rows = {
             {"made", [] {}},
             {"menus added", [] { CUI_EditMenu(2); }},
             {"bar taken out of the window", [window] { window->menuBar()->hide(); }},
             {"bar put back", [window] { window->menuBar()->show(); }},
             {"tool bar added", [window] { window->addToolBar(u"Bar"_s)->addAction(u"Item"_s); }},
-            {"tiny for a while",
-             [window] {
-                 const QSize size = window->size();
-                 for (const QSize tiny : {QSize(1, 1), QSize(200, 1), QSize(1, 100)}) {
-                     window->resize(tiny);
-                     QApplication::processEvents();
-                     EXPECT_GT(window->width(), 0);
-                 }
-                 window->resize(size);
-             }},
+            {"tiny for a while", shrinkForAWhile},
         };
         for (const auto &[name, happening] : rows) {
             happening();
@@ -133,8 +129,8 @@ TEST_F(Windows, ContentStaysThroughMenuBarsAndTinyWindows)
         QApplication::sendEvent(window->menuBar(), &rightClick);
         EXPECT_FALSE(QApplication::activePopupWidget()) << "a menu that hides the tool bar";
         window->resize(window->width() + 20, window->height() + 30);
-        const QSizeF grown = style & windowStyleResizable ? QSizeF(320, 230) : QSizeF(300, 200);
         QApplication::processEvents();
+        const QSizeF grown = style & windowStyleResizable ? QSizeF(320, 230) : QSizeF(300, 200);
         EXPECT_EQ(window->contentRect().size(), grown) << "resized by the program";
         delete window;
     }
@@ -174,35 +170,38 @@ TEST_F(Windows, BackgroundColoursTheContentOnly)
     }
 }
 
-TEST_F(Windows, ClosingReleasesUnlessToldOtherwise)
+TEST_F(Windows, ClosingReleasesUnlessSetOtherwiseAndIsReportedOnceWhileTheWindowIsKnown)
 {
     const Table<bool, bool> rows = {
         {"released", true, true},
         {"kept", false, false},
-        {"kept by whom the closing is reported to", true, false},
+        {"kept by the callback that the closing is reported to", true, false},
     };
     static bool keeps = false;
     for (const auto &[name, releasedBefore, released] : rows) {
         SCOPED_TRACE(name);
         QPointer<Window> window = open(1);
-        window->setProperty("releasedWhenClosed", releasedBefore);
+        window->setReleasedWhenClosed(releasedBefore);
         keeps = releasedBefore && !released;
-        window->setCuiWindowCallback([](Tag wndTag, qint64 event, void *) {
-            if (keeps && event == windowEventWillClose) {
-                CUI_WindowWithTag(wndTag)->setReleasedWhenClosed(false);
+        window->setCuiWindowCallback([](Tag tag, qint64 event, void *) {
+            if (event == windowEventWillClose) {
+                Window *const known = CUI_WindowWithTag(tag);
+                dialogCalls << u"will close"_s;
+                known->setReleasedWhenClosed(known->isReleasedWhenClosed() && !keeps);
+                known->close(); // already closing
             }
         });
         EXPECT_TRUE(window->close());
+        EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"will close"_s});
         EXPECT_EQ(CUI_AppDelegateObj()->windows.contains(window), !released);
         EXPECT_EQ(CUI_WindowWithTag(1), released ? nullptr : window.data());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(window.isNull(), released);
     }
-    Window *const again = open(1, QRectF());
-    EXPECT_TRUE(again->isVisible());
+    EXPECT_TRUE(open(1, QRectF())->isVisible());
 }
 
-TEST_F(Windows, TabGoesByPlace)
+TEST_F(Windows, TabGoesByPosition)
 {
     Window *const window = open(1);
     QList<QLineEdit *> fields;
@@ -216,6 +215,84 @@ TEST_F(Windows, TabGoesByPlace)
     for (const int next : {1, 3, 0, 2}) {
         QTest::keyClick(window, Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), fields[next]) << next;
+    }
+}
+
+TEST_F(Windows, OutputWindowIsFoundByTheAbsoluteTag)
+{
+    Popover popover(9, QSize(100, 50));
+    Window *const one = open(1);
+    Window *const hidden = open(-2);
+    const Table<Tag, QWidget *, QWidget *> rows = {
+        {"none", 0, nullptr, nullptr},
+        {"window", 1, one, one->contentView()},
+        {"hidden window, negative tag", -2, hidden, hidden->contentView()},
+        {"popover", 9, &popover, popover.contentView()},
+        {"unknown", -5, nullptr, nullptr},
+    };
+    for (const auto &[name, tag, output, contentView] : rows) {
+        SCOPED_TRACE(name);
+        CUI_OutputWindowSetTag(tag);
+        EXPECT_EQ(CUI_OutputWindowTag(), qAbs(tag));
+        EXPECT_EQ(CUI_OutputWindow(), output);
+        EXPECT_EQ(CUI_OutputWindowContentView(), contentView);
+        EXPECT_EQ(CUI_TargetWithTag(tag), output);
+    }
+}
+
+TEST_F(Windows, TargetIsTheOutputWindowElseTheFrontmost)
+{
+    Tag none = 0;
+    EXPECT_EQ(CUI_TargetWindow(&none), nullptr);
+    EXPECT_EQ(none, 0);
+    open(1);
+    open(2);
+    open(-3);
+    const Table<Tag, Tag, Tag, Tag> rows = {
+        {"output window, though hidden", 3, 0, 3, 3},
+        {"no output window: the frontmost", 0, 0, 2, 2},
+        {"output tag of no window: the frontmost", 8, 0, 2, 2},
+        {"a tag", 3, -1, 1, -1},
+        {"an unknown tag", 3, 8, 0, 8},
+    };
+    for (const auto &[name, output, given, found, writtenBack] : rows) {
+        CUI_OutputWindowSetTag(output);
+        Tag tag = given;
+        EXPECT_EQ(CUI_TargetWindow(&tag), CUI_WindowWithTag(found)) << name;
+        EXPECT_EQ(tag, writtenBack) << name;
+    }
+}
+
+TEST_F(Windows, CannotTakeAPopoversTag)
+{
+    Popover popover(9, QSize(100, 50));
+    QString warning;
+    whenAlertRuns([&warning](Alert *alert) {
+        warning = alert->text() % u' ' % alert->informativeText();
+        clicks(0)(alert);
+    });
+    open(-9);
+    EXPECT_TRUE(QTest::qWaitFor([&warning] { return !warning.isNull(); }));
+    EXPECT_EQ(warning, u"Window tag error. Windows and Popovers cannot have same tag value."_s);
+    EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
+    EXPECT_EQ(CUI_OutputWindowTag(), 0);
+}
+
+TEST_F(Windows, PopoverIsNextToItsAnchorAndClosesByEscapeIfItMay)
+{
+    QWidget *const view = open(1)->contentView();
+    Popover popover(9, QSize(100, 50));
+    popover.setBehavior(popoverTransient);
+    bool agrees = false;
+    QObject::connect(&popover, &Popover::shouldClose, [&](bool *answer) { *answer = agrees; });
+    popover.showRelativeTo(view, QRect(100, 100, 20, 10), Qt::BottomEdge);
+    EXPECT_EQ(CUI_PopoverShown(), &popover);
+    EXPECT_EQ(popover.contentView()->size(), QSize(100, 50));
+    EXPECT_EQ(popover.y(), view->mapToGlobal(QPoint(100, 110)).y());
+    for (const bool lets : {false, true}) {
+        agrees = lets;
+        QTest::keyClick(&popover, Qt::Key_Escape);
+        EXPECT_EQ(popover.isVisible(), !lets);
     }
 }
 
