@@ -1,4 +1,8 @@
+#include "runtime/console/document/emoji_runs.h"
 #include "tests/console/printing.h"
+
+#include <QFontDatabase>
+#include <QRawFont>
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
@@ -88,8 +92,8 @@ TEST(Pictures, ofTexts)
          [](Page &page) { page.setFontSize(18); page.addString(block, {8, 4}); }},
         {"font name", "............/..kkk+....../..kkk+....../..kkk+....../..kkk+....../..kkk+......",
          [](Page &page) { page.setFontName(u"DejaVu Serif"_s); page.setFontSize(18); page.addString(block, {8, 4}); }},
-        {"cell of 18 points", "............/.....kkk..../.....kkk..../.....kkk..../.....kkk..../.....kkk....",
-         [](Page &page) { page.setFontSize(18); page.setColumnRow(2, 0.25); page.addString(block); }},
+        {"cell of 18 points", "............/............/............/............/.....kkk..../.....kkk....",
+         [](Page &page) { page.setFontSize(18); page.setColumnRow(2, 0.75); page.addString(block); }},
         {"tab", "............/........kk../........kk../........kk../............/............",
          [](Page &page) { page.addString(u"\t\u2588\b"_s, {4, 4}); }},
         {"tab interval", "............/.......kk.../.......kk.../.......kk.../............/............",
@@ -128,7 +132,63 @@ TEST(Pictures, ofUnderlinedAndStruckTexts)
     };
     ConsoleDocument empty({48, 24});
     EXPECT_NE(inkOf(&QFont::setUnderline), pictureOf(empty, 1, {48, 24}));
+    EXPECT_NE(inkOf(&QFont::setStrikeOut), pictureOf(empty, 1, {48, 24}));
     EXPECT_NE(inkOf(&QFont::setStrikeOut), inkOf(&QFont::setUnderline));
+}
+
+TEST(Emoji, areFoundInTheText)
+{
+    const Table<QString, QList<TextRun>> rows = {
+        {"digits never", u"0123456789#*+-/() 1\ufe0f"_s, {}},
+        {"white circle", u"\u26aa Easy"_s, {{0, 1}}},
+        {"level label", u"a 🔴 🔴 Medium"_s, {{2, 2}, {5, 2}}},
+        {"neighbours are one run", u"🟡🟡"_s, {{0, 4}}},
+        {"selector makes one", u"x\u2764\ufe0fy"_s, {{1, 2}}},
+        {"without selector a text", u"\u2764"_s, {}},
+        {"text selector unmakes one", u"\u26aa\ufe0e"_s, {}},
+        {"skin tone and joiner", u"👩🏽\u200d🚀!"_s, {{0, 7}}},
+        {"lone surrogate", QString(QChar(0xD83D)) + QChar(u'a'), {}},
+    };
+    for (const auto &[name, text, runs] : rows) {
+        EXPECT_EQ(emojiRuns(text), runs) << name;
+    }
+}
+
+TEST_F(Console, emojiAreDrawnInTheColourFontAndNothingElseIs)
+{
+    if (!QFontDatabase::hasFamily(u"Noto Color Emoji"_s)) {
+        GTEST_SKIP() << "install fonts-noto-color-emoji";
+    }
+    const ShapedText label(u"\u26aa 0123456789"_s, TextAttributes());
+    QMap<QString, qsizetype> glyphs;
+    for (const QGlyphRun &run : label.glyphRuns()) {
+        glyphs[run.rawFont().familyName()] += run.glyphIndexes().size();
+    }
+    const QString textFamily = QRawFont::fromFont(TextAttributes().facts().font).familyName();
+    EXPECT_EQ(glyphs, (QMap<QString, qsizetype>{{u"Noto Color Emoji"_s, 1}, {textFamily, 11}}));
+    page.addString(u"🔴"_s, {10, 10});
+    EXPECT_GT(pictureOf(page, 1, {40, 40}).pixelColor(18, 17).hsvSaturation(), 100);
+}
+
+TEST_F(Console, rowsTouchAtEveryScale)
+{
+    page.setBackgroundColor(QColor(0, 0, 255, 128));
+    page.setForegroundColor(Qt::transparent);
+    page.setCurrentLineWidth(-1);
+    for (int row = 0; row < 12; ++row) {
+        page.addString(u"xxxxxxxxxxxx"_s);
+        page.addRect({200, row * lineHeight, 100, lineHeight}, QColor(), QColor(0, 0, 255, 128));
+    }
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        const QImage rows = pictureOf(page, scale, {400, 300});
+        for (const int x : {qRound(20 * scale), qRound(220 * scale)}) {
+            EXPECT_NE(rows.pixelColor(x, 0), QColor(Qt::white)) << scale;
+            for (int y = 0; y < qFloor(12 * lineHeight * scale); ++y) {
+                EXPECT_EQ(rows.pixelColor(x, y), rows.pixelColor(x, 0))
+                    << "seam or overlap at " << y << " of " << scale;
+            }
+        }
+    }
 }
 
 } // namespace

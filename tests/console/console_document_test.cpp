@@ -1,0 +1,320 @@
+#include "tests/console/printing.h"
+
+#include <QGuiApplication>
+#include <QTextLayout>
+
+using namespace tetrad;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST_F(Console, putsOnePieceAfterTheOther)
+{
+    // The items as Console::items gives them, then where printing ended: columns from the inset, and lines.
+    const Table<QString, const char *, double, double> rows = {
+        {"line", u"abc"_s, "abc@3,0 @3,1", 0, 1},
+        {"nothing is an empty line", u""_s, "@3,0 @3,1", 0, 1},
+        {"backspace stays on the line", u"abc\b"_s, "abc\b@3,0", 3, 0},
+        {"newline inside", u"a\nb"_s, "a@3,0 b@3,1 @3,2", 0, 2},
+        {"own newline and one more", u"a\n"_s, "a@3,0 @3,1 @3,2", 0, 2},
+        {"every newline", u"1\n2\v3\f4\r5\u00856\u20287\u20298"_s,
+         "1@3,0 2@3,1 3@3,2 4@3,3 5@3,4 6@3,5 7@3,6 8@3,7 @3,8", 0, 8},
+        {"other controls have no width", u"\x01\x02z\u007f\u0090\b"_s, "\x01\x02z\x7f\xc2\x90\b@3,0", 1, 0},
+        {"blanks at the end count", u"a  \b"_s, "a  \b@3,0", 3, 0},
+    };
+    for (const auto &[name, printed, expected, endColumn, endLine] : rows) {
+        SCOPED_TRACE(name);
+        page.clear();
+        const QPointF end = page.addString(printed);
+        EXPECT_EQ(items(), QString::fromUtf8(expected));
+        EXPECT_DOUBLE_EQ(end.x(), 3 + endColumn * advance);
+        EXPECT_DOUBLE_EQ(end.y(), endLine * lineHeight);
+        EXPECT_EQ(page.currentPoint(), end);
+        EXPECT_DOUBLE_EQ(page.viewH(), (endLine + 1) * lineHeight + 20);
+        EXPECT_DOUBLE_EQ(page.documentSize().height(), page.viewH());
+    }
+}
+
+TEST_F(Console, tabsCellsAndAlignmentHaveTheirColumns)
+{
+    page.setTabInterval(50);
+    EXPECT_DOUBLE_EQ(page.addString(u"abc\t"_s).x(), 3 + 50);
+    EXPECT_DOUBLE_EQ(page.addString(u"12345678\t"_s).x(), 3 + 50 + 100);
+    page.setTabInterval(0);
+    EXPECT_DOUBLE_EQ(page.addString(u"\t"_s).x(), 3 + 50 + 100);
+    page.setColumnRow(4, 30);
+    EXPECT_EQ(page.currentPoint(), QPointF(4 * advance, 30 * lineHeight)) << "without the inset";
+    EXPECT_DOUBLE_EQ(page.viewH(), 30 * lineHeight + 20);
+    const double lefts[] = {7, (400 - 4 * advance) / 2, 400 - 4 * advance, 7};
+    for (const int alignment : {0, 1, 2, 3}) {
+        page.setCurrentPoint({7, 0});
+        page.setAlignment(alignment);
+        page.addString(u"abcd\b"_s);
+        EXPECT_DOUBLE_EQ(page.currentPoint().x(), 7 + 4 * advance) << "moves on as ever";
+        EXPECT_DOUBLE_EQ(page.items().at(page.items().size() - 1).pt().x(), lefts[alignment]) << alignment;
+    }
+}
+
+TEST_F(Console, theDocumentOnlyGrows)
+{
+    for (const auto &[bottom, height] :
+         QList<std::pair<double, double>>{{100, 120}, {119.5, 120}, {120, 140}, {10, 140}, {qQNaN(), 140}}) {
+        page.fixFrameHeight(bottom);
+        EXPECT_EQ(page.viewH(), height) << bottom;
+    }
+    page.setViewH(0);
+    page.fixFrameHeight(10);
+    EXPECT_EQ(page.viewH(), 30);
+    EXPECT_EQ(page.documentSize().height(), 140);
+    page.setCurrentLineWidth(3);
+    page.addRect({10, 200, 400, 15}, Qt::black, Qt::white);
+    EXPECT_EQ(page.viewH(), 200 + 15 + 1.5 + 20);
+}
+
+TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
+{
+    page.setForegroundColor(Qt::green);
+    page.setFontSize(18);
+    page.setAlignment(2);
+    page.setTextInset(5);
+    page.addString(u"abc"_s, {50, 500});
+    page.clear();
+    EXPECT_TRUE(page.textString().isNull());
+    EXPECT_EQ(QPointF(page.viewH(), page.documentSize().height()), QPointF(0, 1));
+    EXPECT_EQ(page.currentPoint(), QPointF(5, 0));
+    EXPECT_EQ(page.currentAlignment(), 2);
+    page.addString(u"x\b"_s, {1, 2});
+    page.resetAttributes();
+    EXPECT_EQ(page.currentAlignment(), 0);
+    page.addString(u"y\b"_s, {1, 2});
+    EXPECT_TRUE(page.items().dump().endsWith(u"\"x\\x08\" size 18 color #00ff00\n"
+                                             "text (1,2) \"y\\x08\" size 12 color standard\n"_s));
+}
+
+TEST_F(Console, anItemKeepsTheAttributesItWasPrintedWith)
+{
+    const QColor standard = QGuiApplication::palette().color(QPalette::WindowText);
+    EXPECT_EQ(page.currentAttributes().value(u"foregroundColor"_s).value<QColor>(), standard);
+    page.addString(u"a\b"_s);
+    page.setFontName(u"No Such Family"_s);
+    QFont tooLarge(u"DejaVu Serif"_s);
+    tooLarge.setPixelSize(5000);
+    page.setAttributes({{u"font"_s, tooLarge}, {u"backgroundColor"_s, QColor(Qt::blue)}, {u"mood"_s, 7}});
+    for (const double size : {-1.0, 0.0, 0.5, 4097.0, qQNaN()}) {
+        page.setFontSize(size);
+    }
+    const QVariantMap now = page.currentAttributes();
+    const auto font = now.value(u"font"_s).value<QFont>();
+    EXPECT_TRUE(font.family() == u"DejaVu Serif" && font.pixelSize() == 12) << font.toString().toStdString();
+    EXPECT_EQ(now.value(u"mood"_s), 7);
+    EXPECT_EQ(now.value(u"backgroundColor"_s).value<QColor>(), QColor(Qt::blue));
+    EXPECT_EQ(page.items().at(0).attributes().backgroundColor(), QColor(Qt::transparent));
+}
+
+TEST_F(Console, aProgramChangesItsItems)
+{
+    const auto text = [](const QString &string) { return CUI_PrintToWindowItem::itemWithString(string, {}, {}); };
+    for (const QString &string : {u"a"_s, u"c"_s, u"e"_s}) {
+        page.items().append(text(string));
+    }
+    page.items().insert(1, text(u"b"_s));
+    page.items().replace(3, text(u"d"_s));
+    page.items().removeAt(0);
+    page.items().removeAt(3);
+    page.items().replace(-1, text(u"x"_s));
+    EXPECT_EQ(items(), u"b@0,0 c@0,0 d@0,0"_s);
+    EXPECT_EQ(page.items().itemsIn({0, 0, 9, 9}), (std::vector<quint32>{0, 1, 2}));
+    EXPECT_EQ(page.reader().text().text(), u"b c d"_s);
+}
+
+TEST(Measuring, agreesWithLayingOut)
+{
+    for (const double size : {9.0, 12.0, 12.5, 18.0}) {
+        TextAttributes attributes;
+        attributes.setFontSize(size);
+        for (const QString &text : {u"1-3/4"_s, u" 24 "_s, u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_s}) {
+            QTextLayout layout(text, attributes.facts().font);
+            layout.beginLayout();
+            QTextLine line = layout.createLine();
+            line.setLineWidth(9000);
+            layout.endLayout();
+            const double trailing = line.cursorToX(static_cast<int>(text.size()));
+            EXPECT_DOUBLE_EQ(measureText(text, attributes).width, trailing) << size << text.toStdString();
+        }
+    }
+}
+
+TEST(Measuring, theBoundingRectangleIsNotWiderThanTheLimit)
+{
+    for (const QString &text : {QString(5000, u'x'), QString(5000, u'\u00e9'), u"ab "_s.repeated(3000)}) {
+        const double width = measureText(text, TextAttributes()).width;
+        EXPECT_LE(width, 10000);
+        EXPECT_GT(width, 9900);
+    }
+}
+
+TEST_F(Console, aPolylineIsASegmentPerPoint)
+{
+    page.addLines({{1, 2}}, false);
+    EXPECT_EQ(page.items().size(), 0);
+    EXPECT_EQ(page.currentLinePoint(), QPointF(1, 2));
+    EXPECT_EQ(page.viewH(), 0);
+    page.addLines({}, true);
+    EXPECT_EQ(page.viewH(), 20) << "grown to no height, as by any line";
+    page.setCurrentLineWidth(4);
+    page.setCurrentLineCapStyle(1);
+    page.setCurrentLineDashPattern({5, 2.5});
+    page.setCurrentLineDashPhase(1);
+    page.setCurrentStrokeColor(Qt::red);
+    page.addLines({{10, 100}, {20, 50}}, false);
+    page.addLines({{30, 99}}, true);
+    page.addLines({}, false);
+    const QString style = u" width 4 cap 1 dash 5,2.5 phase 1 stroke #ff0000\n"_s;
+    EXPECT_EQ(page.items().dump(), QString(u"line (10,100) to (10,100)" + style + u"line (10,100) to (20,50)" + style +
+                                           u"line (20,50) to (30,99)" + style));
+    EXPECT_EQ(page.viewH(), 122);
+}
+
+TEST_F(Console, theArchiveIsTheSameAsEver)
+{
+    page.addString(u"abc\b"_s);
+    page.addOval({1, 2, 3, 4}, Qt::red, QColor());
+    page.setCurrentLineWidth(2.5);
+    page.setCurrentLineCapStyle(1);
+    page.setCurrentLineDashPattern({1, 2});
+    page.setCurrentLineDashPhase(0.5);
+    page.setCurrentStrokeColor(Qt::blue);
+    page.addLines({{5, 6}, {7, 8}}, true);
+    page.addRect({1, 2, 3, 4}, Qt::black, Qt::green);
+    CUI_PrintToWindowItem flagged = page.items().at(4);
+    flagged.setStrokeFlag(true);
+    flagged.setFillFlag(true);
+    page.items().append(flagged);
+    const QVariantMap plain{{u"type"_s, 0U},         {u"pt"_s, QPointF()},      {u"pt1"_s, QPointF()},
+                            {u"pt2"_s, QPointF()},   {u"rect"_s, QRectF()},     {u"lineWidth"_s, 0.0},
+                            {u"lineCapStyle"_s, 0U}, {u"lineDashPhase"_s, 0.0}, {u"fillFlag"_s, false},
+                            {u"strokeFlag"_s, false}};
+    const QVariantMap style{{u"lineWidth"_s, 2.5},
+                            {u"lineCapStyle"_s, 1U},
+                            {u"lineDashPhase"_s, 0.5},
+                            {u"lineDashPattern"_s, QVariantList{1.0, 2.0}},
+                            {u"strokeColor"_s, QColor(Qt::blue)}};
+    const QRectF rect(1, 2, 3, 4);
+    const QVariantMap filled{
+        {u"type"_s, 2U}, {u"rect"_s, rect}, {u"strokeColor"_s, QColor(Qt::black)}, {u"fillColor"_s, QColor(Qt::green)}};
+    const QVariantMap flags{{u"strokeFlag"_s, true}, {u"fillFlag"_s, true}};
+    const Table<QList<QVariantMap>> rows = {
+        {"text", {{{u"pt"_s, QPointF(3, 0)}, {u"text"_s, u"abc\b"_s}, {u"attributes"_s, u"abc\b"_s}}}},
+        {"oval", {{{u"type"_s, 3U}, {u"rect"_s, rect}, {u"lineWidth"_s, 1.0}, {u"strokeColor"_s, QColor(Qt::red)}}}},
+        {"line", {style, {{u"type"_s, 1U}, {u"pt2"_s, QPointF(5, 6)}}}},
+        {"next line", {style, {{u"type"_s, 1U}, {u"pt1"_s, QPointF(5, 6)}, {u"pt2"_s, QPointF(7, 8)}}}},
+        {"rectangle", {style, filled}},
+        {"rectangle with flags", {style, filled, flags}},
+    };
+    QVariantList expected;
+    for (const auto &[name, parts] : rows) {
+        QVariantMap item = plain;
+        for (const QVariantMap &given : parts) {
+            item.insert(given);
+        }
+        EXPECT_EQ(page.itemArray().value(expected.size()).toMap(), item) << name;
+        expected << item;
+    }
+    EXPECT_EQ(page.itemArray(), expected);
+}
+
+TEST_F(Console, strokesAreSeenInTheMiddleOfALine)
+{
+    // The pixels from x 4 to 35, '#' dark, along a line from x 10 to 30.
+    const Table<LineStyle, std::string> rows = {
+        {"thinnest", {.lineWidth = 0}, "......####################......"},
+        {"dashes in pixels", {.lineWidth = 3, .lineDashPattern = {5, 3}}, "......#####...#####...####......"},
+        {"dashes of the thinnest", {.lineWidth = 0, .lineDashPattern = {5, 3}}, "......#####...#####...####......"},
+        {"phase", {.lineWidth = 3, .lineDashPattern = {5, 3}, .lineDashPhase = 2}, "......###...#####...#####......."},
+        {"odd pattern", {.lineWidth = 2, .lineDashPattern = {4}}, "......####....####....####......"},
+        {"useless pattern", {.lineWidth = 3, .lineDashPattern = {0, 0}}, "......####################......"},
+    };
+    for (const auto &[name, style, expected] : rows) {
+        page.clear();
+        page.setCurrentLineWidth(style.lineWidth);
+        page.setCurrentLineDashPattern(style.lineDashPattern);
+        page.setCurrentLineDashPhase(style.lineDashPhase);
+        page.setCurrentLinePoint({10, 20.5});
+        page.addLines({{30, 20.5}}, true);
+        const QImage image = pictureOf(page, 1, {36, 40});
+        std::string row;
+        for (int x = 4; x < 36; ++x) {
+            row += image.pixelColor(x, 20).lightness() < 128 ? '#' : '.';
+        }
+        EXPECT_EQ(row, expected) << name;
+    }
+}
+
+TEST_F(Console, readsAsOneText)
+{
+    page.addString(u"Numbers:\b"_s);
+    page.addString(u" 1\b"_s);
+    page.addString(u" 3\b"_s);
+    page.addString(u""_s);
+    page.addRect({0, 0, 9, 9}, Qt::black, QColor());
+    page.addString(u"left\b"_s, {3, 100});
+    page.addString(u"right\b"_s, {200, 100});
+    page.addString(u"below\tit"_s, {3, 150});
+    EXPECT_EQ(page.reader().text().text(), u"Numbers: 1 3\nleft right\nbelow it\n"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"Numbers: 1 3\nleft right\nbelow it"_s);
+    page.addString(u"\nnews"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"news"_s);
+}
+
+// A program that clears and prints its whole screen again: a paragraph that was spoken is news no more.
+TEST_F(Console, givesParagraphsThatWereThereBeforeTheClearOnce)
+{
+    const std::pair<QString, QString> screens[] = {{u"rules\nmore rules\n\n1 2"_s, u"rules\nmore rules\n1 2"_s},
+                                                   {u"rules\nmore rules\n\n3 4"_s, u"3 4"_s},
+                                                   {u"rules\nless rules\n\n1 2"_s, u"rules\nless rules\n1 2"_s}};
+    for (const auto &[printed, spoken] : screens) {
+        page.clear();
+        page.addString(printed);
+        EXPECT_EQ(page.reader().takeNew(), spoken);
+        for (int time = 0; time < 2; ++time) {
+            page.addString(u"error"_s);
+            EXPECT_EQ(page.reader().takeNew(), u"error"_s) << "said each time";
+        }
+    }
+    // A screen that nobody was asked about changes nothing.
+    page.clear();
+    page.addString(u"\nunread"_s);
+    page.clear();
+    page.addString(u"rules\nless rules\n\nnew"_s);
+    EXPECT_EQ(page.reader().takeNew(), u"new"_s);
+}
+
+/// As the game prints: gaps between lines, an error line that was erased and printed again.
+TEST_F(Console, theCaretReachesEveryLine)
+{
+    for (const auto &[y, text] : QList<std::pair<int, QString>>{{10, u"one"_s}, {25, u"two"_s}, {900, u"far"_s}}) {
+        page.addString(text, {10.0, static_cast<double>(y)});
+    }
+    page.addString(u"false"_s, {10, 2000});
+    page.addRect({10, 2000, 400, 15}, Qt::black, Qt::black);
+    page.addString(u"wrong"_s, {10, 2000});
+    ConsoleReader &reader = page.reader();
+    QString read;
+    for (const int direction : {1, 1, 1, 1, -1, -1, -1, -1}) {
+        const qsizetype caret = reader.caretBeyond(direction);
+        reader.select(caret, caret);
+        read += reader.text().text().mid(caret, 1);
+    }
+    EXPECT_EQ(read, u"tfwwftoo"_s);
+    QString stepped;
+    for (qsizetype at = 0, next = reader.stepFrom(at, 1); next != at; at = next, next = reader.stepFrom(at, 1)) {
+        stepped += reader.text().text().mid(at, next - at);
+        EXPECT_EQ(reader.stepFrom(next, -1), at);
+    }
+    EXPECT_EQ(stepped, reader.text().text());
+    page.addString(u"e\u0301\b"_s);
+    const qsizetype end = reader.text().text().size();
+    EXPECT_EQ(reader.stepFrom(end, -1), end - 2) << "never within a character";
+}
+
+} // namespace

@@ -1,0 +1,351 @@
+#include <tetrad/console/console_view.h>
+
+#include "tests/console/printing.h"
+#include "tests/support/windows.h"
+#include <tetrad/app/content_view.h>
+#include <tetrad/app/popover.h>
+#include <tetrad/console/console_statements.h>
+
+#include <QAccessible>
+#include <QBackingStore>
+#include <QLineEdit>
+#include <QRandomGenerator>
+#include <QScrollBar>
+
+using namespace tetrad;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Operations at random places, colours, sizes, widths and alignments, many on top of each other.
+void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int count, int height)
+{
+    const auto place = [&] {
+        return QPointF(random.bounded(440) - 20 + random.generateDouble(), random.bounded(height));
+    };
+    const auto rect = [&] {
+        const int tall = random.bounded(20) == 0 ? height : random.bounded(4) == 0 ? 6 : 40;
+        return QRectF(place(), QSizeF(random.bounded(120) - 20, random.bounded(tall) - 5));
+    };
+    const auto color = [&] {
+        return random.bounded(4) == 0 ? QColor() : QColor::fromRgba(random.generate() | 0x40000000);
+    };
+    const QStringList texts{u"Make 24"_s,
+                            u"gjpqy ÅÉ"_s,
+                            u"🔴 Medium\b"_s,
+                            u"a\tb\t"_s,
+                            u"שלום 12"_s,
+                            u"two\nlines"_s,
+                            u"e\u0301\u0302\u0303\u0304"_s,
+                            u""_s};
+    for (int i = 0; i < count; ++i) {
+        view.setCurrentLineWidth(random.bounded(random.bounded(4) == 0 ? 40 : 12) - 2 + random.bounded(2) * 0.5);
+        view.setCurrentLineCapStyle(random.bounded(4));
+        view.setCurrentLineDashPattern(random.bounded(3) == 0 ? QList<double>{6, 3, 1} : QList<double>());
+        view.setCurrentStrokeColor(color());
+        view.setForegroundColor(color());
+        view.setBackgroundColor(color());
+        view.setAlignment(random.bounded(4));
+        switch (random.bounded(8)) {
+        case 0:
+            view.addRect(rect(), color(), color());
+            break;
+        case 1:
+            view.addOval(rect(), color(), color());
+            break;
+        case 2:
+            view.addLines({place(), place()}, random.bounded(2) == 0);
+            break;
+        case 3:
+            view.setFontSize(6 + random.bounded(30));
+            break;
+        default:
+            view.addString(texts.at(random.bounded(static_cast<int>(texts.size()))), place());
+        }
+    }
+}
+
+/// A window with a console over which a translucent view of its own lies, and a field.
+class Screen : public testing::Test
+{
+protected:
+    ContentViewSC content;
+    CUI_PrintToWindowScrollView *scrollView = new CUI_PrintToWindowScrollView(&content);
+    CUI_PrintToWindowView &view = *CUI_PrintToWindowView::viewWithFrame({0, 0, 400, 1});
+    QWidget *other = new QWidget(&content);
+    QLineEdit *field = new QLineEdit(other);
+
+    void SetUp() override
+    {
+        content.resize(400, 1200);
+        scrollView->setDocumentView(&view);
+        view.setScrollView(scrollView);
+        other->setAutoFillBackground(true);
+        other->resize(200, 150);
+        other->setPalette(QColor(0, 255, 255, 200)); // Translucent, or nothing would be painted above it.
+        field->hide();
+        content.show();
+        content.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&content));
+    }
+
+    /// A hundred lines of which some are to be seen.
+    void printNumbers()
+    {
+        content.resize(400, 200);
+        other->setGeometry(0, 180, 20, 20);
+        field->show();
+        field->setFocus();
+        for (int i = 0; i < 100; ++i) {
+            view.addString(QString::number(i));
+        }
+        QCoreApplication::processEvents();
+    }
+
+    /// What the window shows.
+    QImage shown() const
+    {
+        const auto *const pixels = static_cast<const QImage *>(content.backingStore()->paintDevice());
+        return pixels->convertToFormat(QImage::Format_RGB32);
+    }
+
+    QScrollBar *bar() const { return scrollView->verticalScrollBar(); }
+};
+
+/// Run at four scales.
+TEST_F(Screen, showsWhatTheWholeListDoes)
+{
+    QRandomGenerator random(20260102);
+    const auto print = [&] { printAtRandom(view, random, 40, 300); };
+    const auto dot = CUI_PrintToWindowItem::itemWithType(3, {20, 20, 90, 90}, Qt::red, Qt::green);
+    const Table<std::function<void()>> changes = {
+        {"printed", print},
+        {"printed over", print},
+        {"replaced", [&] { view.items().replace(9, dot); }},
+        {"inserted", [&] { view.items().insert(5, dot); }},
+        {"removed", [&] { view.items().removeAt(7); }},
+        {"selected", [&] { view.select(20, 200); }},
+        {"printed over the selection", print},
+        {"other text colour", [&] { view.setPalette(QPalette(Qt::red, Qt::blue)); }},
+        {"other ground", [&] { content.setBackgroundColor(Qt::yellow); }},
+        {"focused", [&] { view.setFocus(); }},
+        {"grown", [&] { view.fixFrameHeight(500); }},
+        {"upside down", [&] { view.setFlipView(false); }},
+        {"grown upside down", [&] { view.fixFrameHeight(900); }},
+        {"cleared", [&] { view.clear(); }},
+        {"printed upside down", print},
+        {"grown far", [&] { view.fixFrameHeight(2000); }},
+        {"scrolled", [&] { bar()->setValue(3); }},
+        {"resized", [&] { content.resize(380, 1000); }},
+        {"printed after scrolling", print},
+        {"on another view", [&] { other->lower(); }},
+        {"on another view of other colour", [&] { other->setPalette(QColor(255, 0, 255, 200)); }},
+    };
+    for (const auto &[name, change] : changes) {
+        change();
+        for (int part = 0; part < 9; ++part) {
+            content.repaint(random.bounded(100), random.bounded(200), 300, 1 + random.bounded(30));
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(shown(), content.grab().toImage().convertToFormat(QImage::Format_RGB32)) << name;
+    }
+}
+
+/// Run at four scales. A whole drawing needs the size of the visible part: Qt rounds differently what an edge clips.
+TEST_F(Screen, showsWhatTheWholeListDoesNextToAScrollBar)
+{
+    QRandomGenerator random(20260103);
+    const auto print = [&] { printAtRandom(view, random, 200, 300); };
+    content.resize(400, 200);
+    other->hide();
+    view.fixFrameHeight(300);
+    const Table<std::function<void()>> changes = {
+        {"printed", print},
+        {"printed over", print},
+        {"scrolled", [&] { bar()->setValue(37); }},
+        {"printed after scrolling", print},
+        {"upside down", [&] { view.setFlipView(false); }},
+        {"printed upside down", print},
+        {"grown upside down", [&] { view.fixFrameHeight(2000); }},
+        {"scrolled upside down", [&] { bar()->setValue(1790); }},
+    };
+    for (const auto &[name, change] : changes) {
+        change();
+        QCoreApplication::processEvents();
+        const double scale = content.devicePixelRatioF();
+        QImage whole((QSizeF(scrollView->viewport()->size()) * scale).toSize(), QImage::Format_RGB32);
+        whole.fill(content.backgroundColor());
+        QPainter painter(&whole);
+        painter.setTransform(QTransform::fromTranslate(0, -bar()->value()) * QTransform::fromScale(scale, scale));
+        for (qsizetype i = 0; i < view.items().size(); ++i) {
+            drawItem({painter, view.mirror(), view.palette()}, view, static_cast<quint32>(i));
+        }
+        EXPECT_EQ(shown().copy(whole.rect()), whole) << name;
+    }
+}
+
+TEST_F(Screen, isThereWhenTheStatementReturnsAndFollowsTheWidth)
+{
+    printNumbers();
+    EXPECT_LT(view.width(), 400) << "next to the bar";
+    EXPECT_NE(content.grab({0, 0, 150, 180}).toImage(), content.grab({200, 0, 150, 180}).toImage());
+    bar()->setValue(10000);
+    EXPECT_EQ(bar()->value() + scrollView->viewport()->height(), view.height());
+    view.clear();
+    EXPECT_EQ(bar()->value(), 0);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(bar()->maximum(), 0);
+    EXPECT_EQ(view.width(), 400);
+    content.resize(300, 100);
+    EXPECT_EQ(view.width(), 300);
+    view.resize(view.width(), 700);
+    view.fixFrameHeight(10);
+    EXPECT_EQ(view.height(), 700) << "a program's own height stays";
+    EXPECT_EQ(view.viewH(), 30);
+}
+
+TEST(Culling, looksAtNoMoreThanWhatIsNear)
+{
+    CUI_PrintToWindowView view({0, 0, 400, 1});
+    for (int i = 0; i < 20000; ++i) {
+        view.addString(u"line"_s);
+    }
+    view.addRect({0, 0, 10, 200000}, Qt::black, QColor());
+    const double middle = view.documentSize().height() / 2;
+    const auto near = view.items().itemsIn({0, middle, 400, 250});
+    EXPECT_EQ(static_cast<qsizetype>(near.back()), view.items().size() - 1) << "the tall one is near everywhere";
+    EXPECT_LT(near.size(), 60U);
+}
+
+// Roles, events and reading by keys are seen by a client of the accessibility bus in the end-to-end tests.
+TEST_F(Screen, givesAssistiveTechnologyLinesAttributesAndPositions)
+{
+    printNumbers();
+    QAccessibleInterface *console = QAccessible::queryAccessibleInterface(&view);
+    ASSERT_TRUE(console && console->textInterface());
+    QAccessibleTextInterface *text = console->textInterface();
+    EXPECT_EQ(text->characterCount(), 10 * 2 + 90 * 3);
+    int start = 0;
+    int stop = 0;
+    EXPECT_EQ(text->textAtOffset(21, QAccessible::LineBoundary, &start, &stop), u"10\n"_s);
+    EXPECT_TRUE(text->attributes(21, &start, &stop).contains(u"font-family:\"Menlo\""_s));
+    const QRect zero = text->characterRect(21);
+    EXPECT_EQ(text->offsetAtPoint(zero.center() + QPoint(100, 0)), -1);
+    text->scrollToSubstring(text->characterCount() - 3, text->characterCount());
+    EXPECT_GT(bar()->value(), 1000);
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(278).center()), 278);
+}
+
+TEST_F(Screen, isSelectedByDragging)
+{
+    printNumbers();
+    const auto cell = [this](qsizetype at) { return view.reader().characterRect(at).toAlignedRect(); };
+    QTest::mouseClick(&view, Qt::LeftButton, {}, cell(0).center());
+    EXPECT_TRUE(field->hasFocus()) << "a click leaves the focus where it is";
+    QTest::mousePress(&view, Qt::LeftButton, {}, cell(0).topLeft() + QPoint(1, 3));
+    QTest::mouseMove(&view, cell(20).topRight() + QPoint(3, 3));
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, cell(21).center());
+    EXPECT_TRUE(view.reader().selectedText().startsWith(u"0\n1\n2"_s));
+    view.clear();
+    EXPECT_FALSE(view.property("canCopy").toBool());
+}
+
+using Statements = WindowTest;
+
+CUI_PrintToWindowView *outputView()
+{
+    return CUI_PrintToWindowViewObj(CUI_PrintToWindowWindow());
+}
+
+TEST_F(Statements, aWindowHasOneConsoleBelowItsOtherChildren)
+{
+    CUI_Window(1, u"Game"_s, notGiven, QRectF(0, 0, 300, 200));
+    Window *window = CUI_WindowWithTag(1);
+    auto *other = new QWidget(window->contentView());
+    CUI_PrintToWindowView *view = outputView();
+    EXPECT_EQ(CUI_PrintToWindowViewObj(window), view);
+    EXPECT_EQ(window->contentView()->children().first(), view->scrollView());
+    EXPECT_EQ(window->contentView()->children().last(), other);
+    EXPECT_EQ(view->scrollView()->geometry(), window->contentView()->rect());
+    EXPECT_EQ(CUI_PrintToWindowViewObj(nullptr), nullptr);
+    Popover popover(5, QSize(100, 80));
+    EXPECT_EQ(CUI_PrintToWindowPrint(&popover, u"x\b"_s).y(), 0);
+    EXPECT_NE(CUI_PrintToWindowViewObj(&popover), view);
+}
+
+TEST_F(Statements, printJoinsUpToTheFirstNullText)
+{
+    CUI_PrintToWindowPrintStatement({u"a"_s, u""_s, u"b"_s, u"\b"_s, QString(), u"c"_s});
+    CUI_PrintToWindowPrintStatement({QString()});
+    CUI_PrintToWindowPrintStatement({});
+    EXPECT_EQ(outputView()->textString(), u"ab\b\n\n"_s);
+    CUI_PrintToWindowClearStatement();
+    CUI_PrintToWindowSetXYStatement(15, 110);
+    CUI_PrintToWindowPrintFStatement(u"%d of %@"_s, 3, u"4"_s);
+    EXPECT_TRUE(outputView()->dump().startsWith(u"text (15,110) \"3 of 4\""_s));
+    const Window *window = CUI_WindowWithTag(999999);
+    ASSERT_TRUE(window != nullptr && window->isVisible()) << "the default window, made by printing";
+    EXPECT_EQ(window->windowTitle(), u"\u2022 Print to Window \u2022"_s);
+}
+
+TEST_F(Statements, textAppliesOnlyWhatIsGiven)
+{
+    const auto look = [] {
+        CUI_PrintToWindowClearStatement();
+        CUI_PrintToWindowPrintStatement({u"x\b"_s});
+        const QString dump = outputView()->dump();
+        const auto font = outputView()->currentAttributes().value(u"font"_s).value<QFont>();
+        return QString(dump.mid(dump.indexOf(u"size")).trimmed() + u" align " +
+                       QString::number(outputView()->currentAlignment()) + u' ' + font.family());
+    };
+    CUI_PrintToWindowTextStatement(QString(), QColor(), QColor(), notGiven, notGiven, -18);
+    EXPECT_EQ(look(), u"size 12 color standard align 0 Menlo"_s);
+    CUI_PrintToWindowTextStatement(u"No Such Family"_s, ColorGreen(), ColorBlack(), 2, 50, 18);
+    EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2 Menlo"_s);
+    CUI_PrintToWindowTextStatement(QString(), ColorWhite(), QColor(), notGiven, notGiven, 0);
+    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2 Menlo"_s);
+    const QVariantMap now = outputView()->currentAttributes();
+    EXPECT_EQ(now.value(u"paragraphStyle"_s).value<ParagraphStyle>().defaultTabInterval, 50);
+}
+
+TEST_F(Statements, aRectangleChasesTheFillColour)
+{
+    const Table<QColor, bool, const char *, QColor> rows = {{"given", Qt::red, true, "#ff0000", Qt::red},
+                                                            {"remembered", QColor(), true, "#0000ff", Qt::blue},
+                                                            {"only remembering", Qt::red, false, "none", Qt::red},
+                                                            {"outline", QColor(), false, "none", Qt::blue}};
+    for (const auto &[name, given, fill, drawnFill, rememberedAfter] : rows) {
+        SCOPED_TRACE(name);
+        CUI_PrintToWindowClearStatement();
+        outputView()->setCurrentFillColor(Qt::blue);
+        CUI_DrawToWindowRectStatement(given, fill, QRectF(10, 200, 400, 15));
+        EXPECT_EQ(outputView()->dump().toStdString(),
+                  std::string("rect (10,200) size 400x15 width 1 stroke #000000 fill ") + drawnFill + "\n");
+        EXPECT_EQ(outputView()->currentFillColor(), rememberedAfter);
+    }
+}
+
+TEST_F(Statements, onAGivenWindowActOnThatOne)
+{
+    Window *const given = open(1);
+    open(2);
+    CUI_PrintToWindowSetXY(given, 15, 110);
+    CUI_PrintToWindowTextSetFontName(given, u"DejaVu Serif"_s);
+    CUI_PrintToWindowTextSetFontSize(given, 18);
+    CUI_PrintToWindowTextSetForegroundColor(given, Qt::red);
+    CUI_PrintToWindowTextSetBackgroundColor(given, Qt::blue);
+    CUI_PrintToWindowTextSetAlignment(given, 3);
+    CUI_PrintToWindowTextSetTabInterval(given, 50);
+    EXPECT_EQ(CUI_PrintToWindowPrint(given, u"\t\b"_s), QPointF(65, 110));
+    CUI_DrawToWindowRect(given, Qt::green, true, QRectF(1, 2, 3, 4));
+    CUI_PrintToWindowView *const view = CUI_PrintToWindowViewObj(given);
+    EXPECT_EQ(view->dump(), u"text (15,110) \"\\x09\\x08\" size 18 color #ff0000 background #0000ff\n"
+                            "rect (1,2) size 3x4 width 1 stroke #000000 fill #00ff00\n"_s);
+    EXPECT_EQ(view->items().at(0).attributes().fontName(), u"DejaVu Serif"_s);
+    EXPECT_EQ(view->currentAlignment(), 3);
+    CUI_PrintToWindowClear(given);
+    EXPECT_EQ(view->dump(), QString());
+    EXPECT_EQ(outputView()->dump(), QString());
+}
+
+} // namespace
