@@ -50,7 +50,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 
 # A layer of the runtime: a static library. Its public headers are in include/, as in <tetrad/app/windows.h>; private ones
-# stay beside their sources and are included from the repository's root, as in "runtime/app/menus/menu_keys.h".
+# stay beside their sources and are included from the repository's root, as in "runtime/app/menus/edit_actions.h".
 #   tetrad_add_layer(tetrad_app SOURCES a.cpp b.cpp LINKS tetrad_strings Qt6::Widgets)
 # Everything in LINKS is public: a layer's headers name the types of the layers below.
 function(tetrad_add_layer target)

@@ -63,5 +63,6 @@ struct ErrorObject;
 struct EventRange;
 struct LineStyle;
 struct ParagraphStyle;
+struct ReportingView;
 
 } // namespace tetrad

@@ -14,10 +14,6 @@ class QPushButton;
 
 namespace tetrad {
 
-class Alert;
-class CUI_AlertDelegate;
-struct ErrorObject;
-
 /// Reports what happens to alerts to the dialog function.
 class CUI_AlertDelegate : public QObject
 {

@@ -9,8 +9,6 @@
 
 namespace tetrad {
 
-class Alert;
-
 enum AlertStyle : qint64 {
     alertStyleWarning = 0,
     alertStyleInformational = 1,

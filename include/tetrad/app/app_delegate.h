@@ -2,6 +2,7 @@
 
 // Implemented in runtime/app/process/app_delegate.cpp and application.cpp
 
+#include <tetrad/fwd.h>
 #include <tetrad/strings/error_object.h>
 
 #include <QObject>
@@ -15,8 +16,6 @@ class QMenu;
 class QTimer;
 
 namespace tetrad {
-
-class Window;
 
 /// Codes of the application events, in the order of CUI_AppDelegate's callbacks. 18 and 32 are not used.
 enum AppEvent : qint64 {
@@ -138,8 +137,14 @@ public:
     virtual bool applicationShouldOpenUntitledFile() { return ask(appEventShouldOpenUntitledFile, false); }
     virtual bool printFile(const QString &fileName) { return ask(appEventPrintFile, true, fileName); }
     virtual qint64 printFiles(const QStringList &files, const QVariantMap &settings, bool showPrintPanels);
-    virtual void didRegisterForRemoteNotificationsWithDeviceToken(const QByteArray &token);
-    virtual void didFailToRegisterForRemoteNotificationsWithError(const ErrorObject &error);
+    virtual void didRegisterForRemoteNotificationsWithDeviceToken(const QByteArray &token)
+    {
+        forwardApplicationEvent(appEventDidRegisterForRemoteNotifications, token);
+    }
+    virtual void didFailToRegisterForRemoteNotificationsWithError(const ErrorObject &error)
+    {
+        forwardApplicationEvent(appEventDidFailToRegisterForRemoteNotifications, QVariant::fromValue(error));
+    }
     virtual void didReceiveRemoteNotification(const QVariantMap &payload);
     virtual void didDecodeRestorableState(const QVariant &coder)
     {

@@ -2,6 +2,8 @@
 
 // Implemented in runtime/app/windows/content_view.cpp and event_view.cpp
 
+#include <tetrad/fwd.h>
+
 #include <QColor>
 #include <QStringList>
 #include <QWidget>
@@ -11,8 +13,6 @@
 class QMimeData;
 
 namespace tetrad {
-
-struct ReportingView;
 
 /// What the views share that report their own mouse, key, drag and drawing events to the dialog function (ContentViewSC
 /// and ViewSC). The default handling is done only of what the function left unhandled (boolVal false).

@@ -2,13 +2,11 @@
 
 // Implemented in runtime/app/modal/modal.cpp
 
-#include <QtGlobal>
+#include <tetrad/fwd.h>
 
 class QWidget;
 
 namespace tetrad {
-
-class Window;
 
 /// How a modal run ended. Any other code is the one that stopModalWithCode was given.
 enum ModalResponse : qint64 {

@@ -8,8 +8,6 @@
 
 namespace tetrad {
 
-class ContentViewSC;
-
 /// When a popover closes automatically.
 enum PopoverBehavior : qint64 {
     popoverApplicationDefined = 0, ///< never

@@ -12,10 +12,6 @@
 
 namespace tetrad {
 
-class CUI_WindowController;
-class CUI_WindowDelegate;
-class ContentViewSC;
-class Window;
 class WindowTranslator;
 
 /// Bits of a window's style mask.

@@ -12,8 +12,6 @@ class QWidget;
 
 namespace tetrad {
 
-class Window;
-
 /// Creates a window, not shown yet. An empty rectangle stands for 550 x 400 at (0, 0); an origin of
 /// exactly (0, 0) means centred. The tag is stored as given and not checked against other windows.
 /// The window deletes itself when closed.

@@ -96,16 +96,6 @@ qint64 CUI_AppDelegate::printFiles(const QStringList &files, const QVariantMap &
     return longVal;
 }
 
-void CUI_AppDelegate::didRegisterForRemoteNotificationsWithDeviceToken(const QByteArray &token)
-{
-    forwardApplicationEvent(appEventDidRegisterForRemoteNotifications, token);
-}
-
-void CUI_AppDelegate::didFailToRegisterForRemoteNotificationsWithError(const ErrorObject &error)
-{
-    forwardApplicationEvent(appEventDidFailToRegisterForRemoteNotifications, QVariant::fromValue(error));
-}
-
 void CUI_AppDelegate::didReceiveRemoteNotification(const QVariantMap &payload)
 {
     dictVal = payload;

@@ -37,23 +37,15 @@ void onSignal(int number)
     errno = saved;
 }
 
-// A write to a closed pipe then fails instead of ending the program.
-void ignore(int number)
-{
-    struct sigaction before = {};
-    if (sigaction(number, nullptr, &before) == 0 && before.sa_handler == SIG_DFL) {
-        std::signal(number, SIG_IGN);
-    }
-}
-
-void listenFor(int number)
+// A signal that already has another action than its default keeps it.
+void setAction(int number, void (*function)(int))
 {
     struct sigaction before = {};
     if (sigaction(number, nullptr, &before) != 0 || before.sa_handler != SIG_DFL) {
         return;
     }
     struct sigaction action = {};
-    action.sa_handler = &onSignal;
+    action.sa_handler = function;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
     sigaction(number, &action, nullptr);
@@ -72,9 +64,10 @@ void terminateOnSignals()
     }
     auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, qApp);
     QObject::connect(notifier, &QSocketNotifier::activated, qApp, &terminateWithoutAsking);
-    listenFor(SIGTERM);
-    listenFor(SIGHUP);
-    ignore(SIGPIPE);
+    setAction(SIGTERM, &onSignal);
+    setAction(SIGHUP, &onSignal);
+    // A write to a closed pipe then fails instead of ending the program.
+    setAction(SIGPIPE, SIG_IGN);
 }
 
 void setServingEvents(bool serving)
