@@ -49,10 +49,11 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    void confirmFocus(const QPointer<ViewSC> &start, bool forward);
+    void confirmFocus(bool forward);
 
     QPointer<QMenu> m_menu;
     QStringList m_draggedTypes;
+    QPointer<ViewSC> m_searchStart;
 };
 
 /// The view statement: makes the ViewSC |tag| in the output window or moves it; shows it when the tag is

@@ -5,20 +5,17 @@
 #include "runtime/controls/statements/view_statement.h"
 #include <tetrad/events/view_relay.h>
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
 namespace tetrad {
 
 namespace {
-
-// While a view that refused the keyboard passes it on: where the search for one that takes it began.
-QPointer<ViewSC> searchStart;
 
 // Whether the platform chose the view: by Tab, or as the first of a window that became active.
 bool isPlatformsChoice(Qt::FocusReason reason)
@@ -102,28 +99,25 @@ void ViewSC::paintEvent(QPaintEvent *event)
 void ViewSC::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
-    if (!isPlatformsChoice(event->reason())) {
-        return;
+    if (isPlatformsChoice(event->reason())) {
+        m_searchStart = this;
+        callSoon(this, [this, forward = event->reason() != Qt::BacktabFocusReason] { confirmFocus(forward); });
     }
-    if (searchStart == this) {
-        callSoon(this, [this] { clearFocus(); });
-        return;
-    }
-    const QPointer<ViewSC> start = searchStart ? searchStart.data() : this;
-    const bool forward = event->reason() != Qt::BacktabFocusReason;
-    callSoon(this, [this, start, forward] { confirmFocus(start, forward); });
 }
 
-void ViewSC::confirmFocus(const QPointer<ViewSC> &start, bool forward)
+// A view that refuses the keyboard passes it on, until the view where the search began would have it again.
+void ViewSC::confirmFocus(bool forward)
 {
     const QPointer<ViewSC> guard(this);
     if (!hasFocus() || CUI_ViewSubclassAcceptsFirstResponder(source()) || !guard || !hasFocus()) {
         return;
     }
-    const QScopedValueRollback passingOn(searchStart, start);
     focusNextPrevChild(forward);
-    if (hasFocus()) {
-        clearFocus();
+    auto *const next = qobject_cast<ViewSC *>(QApplication::focusWidget());
+    if (next && (next == this || next == m_searchStart)) {
+        next->clearFocus();
+    } else if (next) {
+        next->m_searchStart = m_searchStart;
     }
 }
 
