@@ -17,8 +17,7 @@ class QButtonGroup;
 
 namespace tetrad {
 
-/// A row of buttons of which at most one is down. It counts as one control: lookups by tag never look
-/// into it.
+/// A row of buttons of which at most one is down. It counts as one control: lookups by tag never look into it.
 class SegmentedControlSC : public QWidget
 {
     Q_OBJECT
@@ -49,7 +48,7 @@ private:
 using ControlCallback = qint64 (*)(Tag tag, Tag wndTag, void *userData);
 
 /// A control's callback and user data (dynamic properties "callbackValue" and "userDataValue"), both null
-/// when never set. The user data is never looked at.
+/// when never set. The user data is passed through.
 ControlCallback cuiControlCallback(const QObject *control);
 void setCuiControlCallback(QObject *control, ControlCallback callback);
 void *cuiControlUserData(const QObject *control);
@@ -113,8 +112,8 @@ void ViewSetFocus(Tag tag);
 /// filter that is there. Another control shows an alert.
 void ControlSetFormat(Tag tag, const QString &characters, bool pass, quint64 length, qint64 caseOption);
 
-/// The control's own callback in place of the dialog function, with the user data it is called with; null takes
-/// the callback out again.
+/// The control's own callback in place of the dialog function, with the user data it is called with; null removes
+/// the callback.
 void ControlSetCallback(Tag tag, ControlCallback callback, void *userData);
 
 /// A combo box: a class of its own, so that a pop-up button is not taken for one.

@@ -14,10 +14,9 @@ namespace tetrad {
 /// object of a delegate's event, 0 for an action.
 using AllControlsCallback = qint64 (*)(Tag tag, Tag wndTag, Tag obj);
 
-/// The target of every control of the runtime. Its actions are invokable by name; each makes the
-/// control's window the output window and calls the control's own callback, else the callback for all
-/// controls, else the dialog function with controlEventAction, the control's tag, its window's tag
-/// and the control. A callback may delete the control.
+/// The target of every control of the runtime. Its actions are invokable by name; each makes the control's window the
+/// output window and calls the control's own callback, else the callback for all controls, else the dialog function
+/// with controlEventAction, the control's tag, its window's tag and the control. A callback may delete the control.
 class CUI_ControlTarget : public QObject
 {
     Q_OBJECT
@@ -65,7 +64,7 @@ qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *contr
 /// the view's tag and the event (dynamic property "delegateCallback"); null when never set.
 using DelegateCallback = qint64 (*)(Tag tag, qint64 event);
 DelegateCallback delegateCallback(const QObject *view);
-/// Null takes the callback out again. A missing view shows an alert.
+/// Null removes the callback. A missing view shows an alert.
 void ViewSetDelegateCallback(Tag tag, DelegateCallback callback);
 
 /// What the delegates of views share. Each makes the view's window (see objectWindowTag) the output window, calls a

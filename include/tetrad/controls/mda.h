@@ -9,7 +9,7 @@
 
 namespace tetrad {
 
-/// A dynamic array of values with any number of dimensions, and values by key besides. An element is named by one index
+/// A dynamic array of values with any number of dimensions, and of values by key. An element is named by one index
 /// for each dimension, counting from 0. Only elements that were set take room.
 ///
 ///     MDAObj board({3, 3});

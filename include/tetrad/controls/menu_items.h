@@ -15,10 +15,10 @@ enum MenuItemState : qint64 {
 };
 
 /// The menu statement: makes or changes the item |item| of the menu |menuTag| in the menu bar, or with the item 0 the
-/// menu's own title and whether it can be opened. The menu is made, behind those there, when none has the tag.
+/// menu's own title and whether it can be opened. A tag that no menu has adds a menu after the others.
 /// state: a MenuItemState, or notGiven to leave it. A null title leaves the title, "-" makes a separator. key: the
 /// character that chooses the item together with Ctrl (Command on macOS), in upper case with Shift too; null leaves it,
-/// empty removes it. A tag that is no tag shows an alert.
+/// empty removes it. An invalid tag shows an alert.
 ///
 /// A chosen item sends 1400 with the menu's tag, longVal the item; before a menu opens, 1401 asks about each of its
 /// items whether to disable it.

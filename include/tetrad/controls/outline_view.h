@@ -27,9 +27,8 @@ private:
     bool m_isLoaded = false;
 };
 
-/// A tree whose items the program answers (codes 1800 to 1807): how many children an item has, each child, its
-/// text in each column. Children are asked for when their parent is first opened, so a tree may be
-/// endless. A view with a delegate callback reports to that instead of the dialog function.
+/// A tree whose items the program answers (codes 1800 to 1807): how many children an item has, each child, its text in
+/// each column. Children are asked for when their parent is first opened, so a tree may be endless.
 class OutlineViewSC : public QTreeWidget
 {
     Q_OBJECT

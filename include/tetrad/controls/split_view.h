@@ -48,8 +48,7 @@ private:
 /// The split view statement. Subviews are put in by SplitViewAddSubview.
 void CUI_SplitView(Tag tag, Qt::Orientation orientation, const QRectF &rect);
 
-/// Both show an alert when a view is missing. A view moved into a split view takes the room
-/// behind those already there.
+/// Both show an alert when a view is missing. A view moved into a split view takes the room behind those already there.
 void SplitViewAddSubview(Tag tag, Tag subview);
 void SplitViewSetPosition(Tag tag, qint64 position, qint64 divider);
 

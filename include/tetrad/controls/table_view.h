@@ -11,7 +11,7 @@ namespace tetrad {
 
 /// A table whose contents the program answers: reloadData asks (codes 1700 to 1709, and 4200 and 4300 for the
 /// headers) how many rows there are and what each cell contains, and keeps the answers until the next time. The
-/// columns come from the statement. A view with a delegate callback reports to that instead of the dialog function.
+/// columns come from the statement.
 class TableViewSC : public QTableWidget
 {
     Q_OBJECT

@@ -13,8 +13,7 @@ namespace tetrad {
 
 /// A field of words separated by commas. While a word is typed the program is asked for completions of it (code 2300).
 /// When a comma, Return or the loss of the keyboard ends the word, the program is asked which words to keep (2301), and
-/// a change of the words is reported (2302). Return also sends the field's action. A view with a delegate callback
-/// reports to that instead of the dialog function.
+/// a change of the words is reported (2302). Return also sends the field's action.
 class TokenFieldSC : public QLineEdit
 {
     Q_OBJECT

@@ -115,8 +115,8 @@ void ControlSetCallback(Tag tag, ControlCallback callback, void *userData)
 
 qint64 CUI_ControlCallUserDefinedOnDialogOrCallback(qint64 event, QWidget *control, Tag obj)
 {
-    // Deliberately the control's own number, not the one worked out for the callbacks: a control that
-    // never got one leaves no output window behind.
+    // Deliberately the control's own number, not the one that the callbacks get: after a control without one there
+    // is no output window.
     CUI_OutputWindowSetTag(objectWindowTag(control));
     return dispatch(event, control, controlWindowTag(control), obj, obj);
 }

@@ -246,7 +246,7 @@ int SegmentedControlSC::selectedSegment() const
 
 void SegmentedControlSC::setSelectedSegment(int index)
 {
-    // An exclusive group does not let go of its last button.
+    // An exclusive group never unchecks its last button.
     m_segments->setExclusive(false);
     for (QAbstractButton *segment : m_segments->buttons()) {
         segment->setChecked(m_segments->id(segment) == index);

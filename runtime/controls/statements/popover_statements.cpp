@@ -95,19 +95,6 @@ private:
     QPoint m_pressedAt;
 };
 
-bool canBePopover(Tag tag)
-{
-    if (!canBeTag(tag, QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1."))) {
-        return false;
-    }
-    if (CUI_WindowWithTag(tag)) {
-        showStatementAlert(QT_TRANSLATE_NOOP("Runtime", "Window tag error."),
-                           QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value."));
-        return false;
-    }
-    return true;
-}
-
 // Null after an alert.
 Popover *popoverWithTag(Tag tag)
 {
@@ -123,7 +110,12 @@ Popover *popoverWithTag(Tag tag)
 void CUI_Popover(Tag tag, const QSizeF &contentSize, PopoverBehavior behavior)
 {
     const Tag popoverTag = tagIdentity(tag);
-    if (!canBePopover(popoverTag)) {
+    if (!canBeTag(popoverTag, QT_TRANSLATE_NOOP("Runtime", "A popover needs a tag from 1 to 1000000, not %1."))) {
+        return;
+    }
+    if (CUI_WindowWithTag(popoverTag)) {
+        showStatementAlert(QT_TRANSLATE_NOOP("Runtime", "Window tag error."),
+                           QT_TRANSLATE_NOOP("Runtime", "Windows and Popovers cannot have same tag value."));
         return;
     }
     Popover *popover = CUI_PopoverWithTag(popoverTag);

@@ -65,12 +65,11 @@ Window *targetWindow()
     return window;
 }
 
-QToolBar *newToolbar(Window *window, Tag tag)
+QToolBar *newToolbar(Window *window)
 {
     auto *const toolbar = new QToolBar(window);
     toolbar->setMovable(false);
     toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    setObjectTag(toolbar, tag);
     setObjectWindowTag(toolbar, window->tag());
     window->addToolBar(toolbar);
     return toolbar;
@@ -145,11 +144,10 @@ QToolBar *CUI_Toolbar(Tag tag)
         return nullptr;
     }
     QToolBar *toolbar = CUI_WindowToolbar(window);
-    if (toolbar) {
-        setObjectTag(toolbar, tagIdentity(tag));
-    } else {
-        toolbar = newToolbar(window, tagIdentity(tag));
+    if (!toolbar) {
+        toolbar = newToolbar(window);
     }
+    setObjectTag(toolbar, tagIdentity(tag));
     toolbar->setVisible(tag > 0);
     return toolbar;
 }

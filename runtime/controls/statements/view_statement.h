@@ -7,9 +7,8 @@
 
 namespace tetrad {
 
-/// What the statements for views share. A statement names its view by |tag|; a positive tag shows it, a
-/// negative one hides it. The view is looked up in the output window, else in the frontmost one, and made
-/// there when that has none.
+/// What the statements for views share. A statement names its view by |tag|; a positive tag shows it, a negative one
+/// hides it. The view is looked up in the output window, else in the frontmost one, and made there when that has none.
 
 /// The content view that a statement makes its view in. Null after an alert when there is no window, or when
 /// the tag is 0 or an object's address.

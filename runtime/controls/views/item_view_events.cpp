@@ -15,8 +15,8 @@ namespace tetrad {
 
 namespace {
 
-// Lends what the views keep protected.
-struct Lender : QAbstractItemView
+// Gives access to what the views keep protected.
+struct Protected : QAbstractItemView
 {
     // Invalid when the key moves nothing.
     static std::pair<bool, QModelIndex> target(QAbstractItemView *view, const QKeyEvent &event)
@@ -28,7 +28,7 @@ struct Lender : QAbstractItemView
         };
         for (const auto &[key, action] : actions) {
             if (event.key() == key) {
-                return {true, (view->*(&Lender::moveCursor))(action, event.modifiers())};
+                return {true, (view->*(&Protected::moveCursor))(action, event.modifiers())};
             }
         }
         return {false, {}};
@@ -41,7 +41,7 @@ bool editsOrLeaves(const QKeyEvent &event)
     return std::ranges::count(keys, event.key()) > 0 || event.modifiers() & Qt::ControlModifier;
 }
 
-// In an outline Left and Right first of all open and close.
+// In an outline, Left and Right open and close before they move.
 bool opensOrCloses(const QAbstractItemView *view, const QKeyEvent &event)
 {
     const auto *const tree = qobject_cast<const QTreeView *>(view);
@@ -72,7 +72,7 @@ ItemViewEvents::ItemViewEvents(QAbstractItemView *view, QHeaderView *header, con
 // A key that moves the selection, if the program lets it, and those that select nothing.
 bool ItemViewEvents::letsKey(QKeyEvent *event)
 {
-    const auto [moves, target] = Lender::target(m_view, *event);
+    const auto [moves, target] = Protected::target(m_view, *event);
     if (!moves) {
         event->setAccepted(editsOrLeaves(*event));
         return event->isAccepted();
@@ -95,7 +95,7 @@ bool ItemViewEvents::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-// False also when the question was answered by deleting or reloading the view.
+// False also when the program deleted or reloaded the view instead of answering.
 bool ItemViewEvents::lets(const QModelIndex &item)
 {
     if (!item.isValid() || m_view->selectionModel()->isSelected(item)) {

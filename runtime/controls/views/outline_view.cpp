@@ -13,7 +13,7 @@ namespace tetrad {
 
 namespace {
 
-// Every item of an outline is made here.
+// All items of an outline are made in this file.
 OutlineItem *outlineItem(QTreeWidgetItem *item)
 {
     return static_cast<OutlineItem *>(item);
@@ -23,19 +23,6 @@ int childCount(OutlineViewSC *outlineView, const QVariant &item)
 {
     CUI_DialogEventObj()->object = item;
     return countAnswer(outlineView, outlineViewEventChildCount);
-}
-
-QVariant child(OutlineViewSC *outlineView, int index, const QVariant &item)
-{
-    CUI_DialogEventObj()->longVal = index;
-    return answerTo(outlineView, outlineViewEventChild, &CUI_DialogEvent::object, item);
-}
-
-QString text(OutlineViewSC *outlineView, const QVariant &item, int column)
-{
-    CUI_DialogEventObj()->object = item;
-    CUI_DialogEventObj()->tableColumnObj = column;
-    return answerTo(outlineView, outlineViewEventText, &CUI_DialogEvent::stringObj, QString());
 }
 
 void report(OutlineViewSC *outlineView, qint64 event, const QVariant &item)
@@ -85,7 +72,8 @@ void OutlineViewSC::loadChildren(const QPersistentModelIndex &parent, const QVar
     };
     const int count = childCount(this, parentObject);
     for (int index = 0; parentExists() && index < count; ++index) {
-        const QVariant object = child(this, index, parentObject);
+        CUI_DialogEventObj()->longVal = index;
+        const QVariant object = answerTo(this, outlineViewEventChild, &CUI_DialogEvent::object, parentObject);
         if (!parentExists() || !addChild(parent, object)) {
             return;
         }
@@ -99,7 +87,9 @@ bool OutlineViewSC::addChild(const QPersistentModelIndex &parent, const QVariant
     (parent.isValid() ? itemFromIndex(parent) : invisibleRootItem())->addChild(item);
     const QPersistentModelIndex index(indexFromItem(item));
     for (int column = 0; index.isValid() && column < columnCount(); ++column) {
-        const QString answer = text(this, object, column);
+        CUI_DialogEventObj()->object = object;
+        CUI_DialogEventObj()->tableColumnObj = column;
+        const QString answer = answerTo(this, outlineViewEventText, &CUI_DialogEvent::stringObj, QString());
         if (index.isValid()) {
             item->setText(column, answer);
         }

@@ -16,7 +16,7 @@ namespace tetrad {
 
 namespace {
 
-// Deliberately through the record's single precision: that is how exact a program's answer is.
+// Deliberately in single precision, as the program's answer is.
 int askCoordinate(const SplitViewSC *view, qint64 event, int divider, int proposal)
 {
     CUI_DialogEventObj()->longVal = divider;
@@ -88,7 +88,7 @@ private:
     int index() { return m_splitView->indexOf(this) - 1; }
 
     SplitViewSC *m_splitView = nullptr;
-    // Where in the divider it was taken hold of.
+    // Where the divider was pressed, from its own edge.
     int m_grip = 0;
     bool m_isHiddenByProgram = false;
 };
@@ -98,7 +98,7 @@ private:
 SplitViewSC::SplitViewSC(QWidget *parent) : QSplitter(parent)
 {
     setOpaqueResize(true);
-    // The program is asked instead, each time.
+    // The program decides each time instead.
     setChildrenCollapsible(false);
 }
 
@@ -132,8 +132,8 @@ void SplitViewSC::setPosition(int position, int divider)
     }
 }
 
-// Where the program lets the divider go; any answer when the view is gone. Only a subview that can collapse loses more
-// room than its smallest size allows.
+// Where the program lets the divider go; any position when the view is gone. Only a subview that can collapse loses
+// more room than its smallest size allows.
 int SplitViewSC::constrained(int position, int divider)
 {
     const QPointer<SplitViewSC> guard(this);
@@ -188,7 +188,7 @@ void SplitViewSC::askAboutDividers()
     }
 }
 
-// Asked about the dividers that stand at an edge: hiding is what takes them out of the picture.
+// Asks about the dividers that are at an edge, the only ones that a program may hide.
 void SplitViewSC::hideDividers()
 {
     const QPointer<SplitViewSC> guard(this);
@@ -225,7 +225,7 @@ void SplitViewSC::layOut()
     m_layOutIsQueued = false;
     const QPointer<SplitViewSC> guard(this);
     forwardDelegateEvent(this, splitViewEventWillResizeSubviews);
-    // With no subview that may, all of them change.
+    // If no subview may change its size, all of them do.
     for (int index = 0; guard && index < count(); ++index) {
         const bool adjusts = askAboutIndex(this, splitViewEventShouldAdjustSizeOfSubview, index);
         if (guard && index < count()) {

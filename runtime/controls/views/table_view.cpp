@@ -39,6 +39,12 @@ Field cellAnswer(const TableViewSC *view, qint64 event, int row, int column, Fie
     return answerTo(view, event, field, Field());
 }
 
+// Null outside the table.
+QTableWidgetItem *itemAt(const TableViewSC *view, qint64 row, qint64 column)
+{
+    return view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr;
+}
+
 } // namespace
 
 TableViewSC::TableViewSC(QWidget *parent) : QTableWidget(parent)
@@ -70,7 +76,7 @@ void TableViewSC::reloadData()
 
 int TableViewSC::selectedRow() const
 {
-    return selectionModel()->hasSelection() ? selectionModel()->selectedIndexes().constFirst().row() : -1;
+    return selectionModel()->selectedIndexes().value(0).row();
 }
 
 void TableViewSC::reloadHeader(int column)
@@ -178,16 +184,14 @@ void TableViewSelectRow(Tag tag, qint64 row)
 
 QVariant TableViewCell(Tag tag, qint64 row, qint64 column)
 {
-    const auto *const view = viewOfClass<TableViewSC>(tag);
-    const QTableWidgetItem *const item = view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr;
+    const QTableWidgetItem *const item = itemAt(viewOfClass<TableViewSC>(tag), row, column);
     return item ? item->data(Qt::EditRole) : QVariant();
 }
 
 void TableViewSetCell(Tag tag, qint64 row, qint64 column, const QVariant &value)
 {
-    auto *const view = viewOfClass<TableViewSC>(tag);
-    if (QTableWidgetItem *const item = view ? view->item(saturatedTo<int>(row), saturatedTo<int>(column)) : nullptr) {
-        const QSignalBlocker blocker(view);
+    if (QTableWidgetItem *const item = itemAt(viewOfClass<TableViewSC>(tag), row, column)) {
+        const QSignalBlocker blocker(item->tableWidget());
         item->setData(Qt::EditRole, value);
     }
 }

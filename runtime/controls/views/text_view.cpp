@@ -38,7 +38,7 @@ bool isBackspace(const QKeyEvent *event)
     return event->key() == Qt::Key_Backspace && !(event->modifiers() & ~Qt::ShiftModifier);
 }
 
-// What a key deletes when pressed at this cursor; none when it deletes nothing.
+// What a key deletes when pressed at this cursor; nothing for every other key.
 std::optional<QTextCursor> deletedBy(const QKeyEvent *event, QTextCursor cursor)
 {
     for (const Deletion &deletion : deletions) {
@@ -125,7 +125,7 @@ void TextViewSC::inputMethodEvent(QInputMethodEvent *event)
 
 void TextViewSC::insertFromMimeData(const QMimeData *source)
 {
-    // The question may take its time, and the data is the clipboard's.
+    // The clipboard, which owns the data, may change during the question.
     const QString text = source->text();
     if (!isReadOnly() && source->hasText() && mayReplace(textCursor(), text)) {
         textCursor().insertText(text);
@@ -155,7 +155,7 @@ void TextViewSC::focusOutEvent(QFocusEvent *event)
     callSoon(this, [this] { sendObjectEvent(this, textViewEventDidEndEditing); });
 }
 
-// False also when the question was answered by deleting the view.
+// False also when the program deleted the view instead of answering.
 bool TextViewSC::mayReplace(const QTextCursor &replaced, const QString &text)
 {
     const QPointer<TextViewSC> guard(this);

@@ -37,7 +37,7 @@ QStringList answeredWords(TokenFieldSC *tokenField, qint64 event, const QStringL
 TokenFieldSC::TokenFieldSC(QWidget *parent) : QLineEdit(parent)
 {
     m_completer = new QCompleter(QStringList(), this);
-    // The program's list is shown as it is.
+    // Shows the program's list unfiltered.
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setWidget(this);
     connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this, &TokenFieldSC::complete);
@@ -59,7 +59,7 @@ void TokenFieldSC::setTokenText(const QString &text)
 void TokenFieldSC::focusOutEvent(QFocusEvent *event)
 {
     QLineEdit::focusOutEvent(event);
-    // The list of completions takes the keyboard too, and the word goes on.
+    // The list of completions takes the keyboard while the word is still being typed.
     if (event->reason() != Qt::PopupFocusReason) {
         callSoon(this, [this] { finishTokens(); });
     }
