@@ -14,8 +14,8 @@ constexpr int shadowMargin = 14;
 /// The application's font at the largest size, 13 pixels at most, whose lines fit a label.
 QFont panelFont();
 
-/// The application's palette with every colour set, so that nothing is inherited from the content. Typed text stands
-/// on the panel's body in the colour of the prompt.
+/// The application's palette with every colour set, so that nothing is inherited from the content. Typed text has the
+/// colour of the prompt.
 QPalette panelPalette();
 
 /// Paints a floating panel's translucent body with its rounded edge, and its shadow around it. panel: body and margin.

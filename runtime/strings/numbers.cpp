@@ -35,7 +35,7 @@ QString fractionDigits(double fraction)
     return printed;
 }
 
-// The text after blanks: its sign apart, and the rest if it starts with a number.
+// A text without the blanks around it, its sign apart. The digits are empty unless a number starts there.
 struct NumberText
 {
     bool negative = false;

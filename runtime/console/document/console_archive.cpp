@@ -23,7 +23,7 @@ QVariantMap archived(const CUI_PrintToWindowItem &item)
     };
     if (!item.string().isNull()) {
         map.insert(u"text"_s, item.string());
-        // Deliberately the string and not the attributes: readers of archives have always found it there.
+        // Deliberately the string and not the attributes: readers of archives expect it there.
         map.insert(u"attributes"_s, item.string());
     }
     if (!style.lineDashPattern.isEmpty()) {

@@ -59,8 +59,8 @@ QPointF ConsoleDocument::addString(const QString &string, QPointF at)
     return addString(string);
 }
 
-// Deliberately neither the inset nor the current x counts for a centred or right-aligned piece, yet the current x
-// moves on as for any other: programs place what follows by it.
+// A centred or right-aligned piece deliberately ignores the inset and the current x. The current x still moves on as
+// for any other piece: programs position what follows by it.
 double ConsoleDocument::pieceX(double width) const
 {
     switch (m_alignment) {

@@ -108,7 +108,7 @@ const ConsoleText::Piece *ConsoleReader::pieceNear(QPointF point, double below, 
             }
             const std::pair away(distance(point.y(), box.top(), box.bottom()),
                                  distance(point.x(), box.left(), box.right()));
-            // Of texts on top of each other the last one printed is the one that is seen.
+            // Where texts overlap, the last one printed is visible.
             if (away <= best) {
                 best = away;
                 nearest = piece;
@@ -120,7 +120,7 @@ const ConsoleText::Piece *ConsoleReader::pieceNear(QPointF point, double below, 
 
 qsizetype ConsoleReader::stepFrom(qsizetype offset, int direction)
 {
-    // Characters do not extend over lines, and analysing a long text takes long.
+    // No character spans lines, and analysing one line takes less time than a long text.
     const QStringView all(text().text());
     const qsizetype start =
         all.first(std::max<qsizetype>(0, direction < 0 ? offset - 1 : offset)).lastIndexOf(u'\n') + 1;

@@ -22,7 +22,7 @@ public:
     /// As it was when it was last brought up to date.
     const QString &knownText() const { return m_text.text(); }
     QString takeNew();
-    /// Starts over, after the list was changed otherwise than by appending.
+    /// Starts over after the list changed in any other way than by appending.
     void clear();
 
     /// From the character's left edge to the next one's; a line's end has no width.

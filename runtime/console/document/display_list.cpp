@@ -157,7 +157,7 @@ void DisplayList::removeAt(qsizetype index)
 
 void DisplayList::clear()
 {
-    // A new one: a deque keeps the memory of what it once held.
+    // A new deque, because a cleared one keeps its memory.
     m_contents = std::make_unique<Contents>();
     changed();
 }

@@ -78,22 +78,6 @@ double widestLine(const QTextLayout &layout)
     return std::min(width, measuringLimit);
 }
 
-QRectF boxInk(double width, const FontFacts &facts)
-{
-    const double room = facts.lineHeight;
-    return QRectF(0, 0, width, facts.lineHeight).adjusted(-room, -room, room, room);
-}
-
-QRectF glyphInk(const ShapedText &shaped, const FontFacts &facts)
-{
-    QRectF ink = boxInk(0, facts);
-    for (const QGlyphRun &run : shaped.glyphRuns()) {
-        const double room = facts.lineHeight;
-        ink |= run.boundingRect().translated(0, shaped.baseline()).adjusted(-room, -room, room, room);
-    }
-    return ink;
-}
-
 } // namespace
 
 QString drawnText(const QString &text, const TextAttributes &attributes)
@@ -119,21 +103,25 @@ TextExtent measureText(const QString &text, const TextAttributes &attributes)
         return {};
     }
     const FontFacts &facts = attributes.facts();
-    if (facts.plainAdvance > 0 && std::all_of(drawn.begin(), drawn.end(), isPlain)) {
-        const double width = static_cast<double>(drawn.size()) * facts.plainAdvance;
-        if (width <= measuringLimit) {
-            return {width, boxInk(width, facts)};
-        }
+    const double room = facts.lineHeight;
+    const auto extent = [&](double width, const QRectF &glyphs) {
+        return TextExtent{width, (QRectF(0, 0, width, facts.lineHeight) | glyphs).adjusted(-room, -room, room, room)};
+    };
+    const double plainWidth = static_cast<double>(drawn.size()) * facts.plainAdvance;
+    if (plainWidth > 0 && plainWidth <= measuringLimit && std::all_of(drawn.begin(), drawn.end(), isPlain)) {
+        return extent(plainWidth, QRectF());
     }
     const auto shape = shapedText(text, attributes);
-    const QRectF ink = glyphInk(*shape, facts);
-    if (const double width = shape->width(); width <= measuringLimit) {
-        return {width, boxInk(width, facts) | ink};
+    QRectF glyphs;
+    for (const QGlyphRun &run : shape->glyphRuns()) {
+        glyphs |= run.boundingRect().translated(0, shape->baseline());
+    }
+    if (shape->width() <= measuringLimit) {
+        return extent(shape->width(), glyphs);
     }
     QTextLayout layout;
     layOut(layout, drawn, attributes, measuringLimit);
-    const double width = widestLine(layout);
-    return {width, boxInk(width, facts) | ink};
+    return extent(widestLine(layout), glyphs);
 }
 
 std::shared_ptr<const ShapedText> shapedText(const QString &text, const TextAttributes &attributes)

@@ -13,7 +13,7 @@ namespace tetrad {
 class CUI_PrintToWindowView;
 
 /// Selects by mouse and keyboard, moves the caret, scrolls, copies, and gives the keyboard focus
-/// back to the widget that had it before as soon as one types, or presses F6 or Escape.
+/// back to the widget that had it before as soon as the user types or presses F6 or Escape.
 class ConsoleSelection : public QObject
 {
     Q_OBJECT

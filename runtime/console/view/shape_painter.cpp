@@ -91,8 +91,8 @@ void fill(QPainter &painter, const Item &item, const QRectF &extent)
     painter.drawEllipse(extent.normalized());
 }
 
-// Whether the painter loses its position in a dash pattern at what it need not repaint, so that a part drawn again
-// would have other dashes. It does not where it follows a line of one device pixel.
+// Whether the painter skips what is clipped without advancing in the dash pattern, so that a partial repaint would put
+// the dashes elsewhere. Lines of one device pixel are followed exactly.
 bool losesItsPosition(const QPainter &painter, const QPen &pen, const QRectF &extent)
 {
     const QRectF bounds = extent.normalized();
