@@ -124,8 +124,14 @@ class Game:
         self.desktop.type(text)
         self.wait_for_field_text(result or text)
 
+    def press(self, *keys):
+        self.desktop.press(*keys)
+
     def click(self, role, name=None):
         self.desktop.click(*self.wait_for(role, name).centre)
+
+    def click_close_box(self, name="Tetrad Game"):
+        self.desktop.click_close_box(self.identifier(name))
 
     def open_menu(self, menu):
         """Opens a menu of the window by mouse and waits for its items."""
@@ -211,6 +217,11 @@ class PlayingTest(unittest.TestCase):
         self.addCleanup(game.end)
         self.games.append(game)
         return game
+
+    def carry_out(self, steps, game):
+        """Each step is the name of a method, of the test or of the running program, and its arguments."""
+        for step, *arguments in steps:
+            getattr(self if hasattr(self, step) else game, step)(*arguments)
 
     def assert_clean_end(self, game):
         self.assertEqual(game.wait_for_end(), (0, ""))

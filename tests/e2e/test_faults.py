@@ -5,6 +5,7 @@ import signal
 from desktop import until
 from playing import PROGRAM, REPOSITORY, PlayingTest
 
+HALF_TYPED, ALERT = [("wait_for_prompt",), ("type", "1+(2")], [("win",)]
 ONE_SENTENCE = r"\A[^\n]*display[^\n]*\.\n\Z"
 
 
@@ -20,25 +21,14 @@ class FaultTest(PlayingTest):
         self.assertEqual(status, 0)
         return errors
 
-    def to_half_typed_answer(self, game):
-        game.wait_for_prompt()
-        game.type("1+(2")
-
-    def to_menu(self, game):
-        game.wait_for_prompt()
-        game.open_menu("Edit")
-
-    def to_alert(self, game):
-        game.win()
-
 
 class TestSignals(FaultTest):
     def test_term_and_hangup_end_it_in_order(self):
-        for number, reach in [(signal.SIGTERM, self.to_half_typed_answer), (signal.SIGTERM, self.to_menu),
-                              (signal.SIGHUP, self.to_alert)]:
-            with self.subTest(signal=number.name, during=reach.__name__):
+        for number, steps in [(signal.SIGTERM, HALF_TYPED), (signal.SIGTERM, [("wait_for_prompt",), ("open_menu", "Edit")]),
+                              (signal.SIGHUP, ALERT)]:
+            with self.subTest(signal=number.name, after=steps):
                 game = self.start()
-                reach(game)
+                self.carry_out(steps, game)
                 game.process.send_signal(number)
                 self.assert_clean_end(game)
 
@@ -47,12 +37,12 @@ class TestDisplay(FaultTest):
     def test_a_display_that_closes_ends_it_with_status_1(self):
         usual = self.desktop.environment["DISPLAY"]
         self.addCleanup(self.desktop.environment.update, DISPLAY=usual)
-        for reach in (self.to_half_typed_answer, self.to_alert):
-            with self.subTest(during=reach.__name__):
+        for steps in (HALF_TYPED, ALERT):
+            with self.subTest(after=steps):
                 server = self.desktop.start_display("800x600x24")
                 self.desktop.start_window_manager()
                 game = self.start()
-                reach(game)
+                self.carry_out(steps, game)
                 server.kill()
                 status, errors = game.wait_for_end()
                 self.assertEqual(status, 1)
@@ -125,7 +115,7 @@ class TestSurroundings(FaultTest):
         self.addCleanup(owner.kill)
         until(lambda: "xclip" in self.desktop.clipboard(), "the clipboard's owner")
         game = self.start()
-        self.to_half_typed_answer(game)
+        self.carry_out(HALF_TYPED, game)
         owner.send_signal(signal.SIGSTOP)
         self.desktop.press("ctrl+v")
         game.type("+3)", "1+(2+3)")

@@ -64,19 +64,16 @@ class TestLeaving(PlayingTest):
     """Every way out ends the program with status 0 and not a word on standard error."""
 
     def test_each_way_out(self):
-        for name, reach, leave in [
-            ("q after a rejected answer", lambda game: game.answer("9"), lambda game: game.answer("q", prompt_after("9"))),
-            ("quit item with a half-typed answer", lambda game: (game.wait_for_prompt(), game.type("1+(2")),
-             lambda game: self.desktop.press("ctrl+q")),
-            ("close box", lambda game: game.wait_for_prompt(),
-             lambda game: self.desktop.click_close_box(game.identifier())),
-            ("quit item at the alert", lambda game: game.win(), lambda game: self.desktop.press("ctrl+q")),
-            ("mouse at the alert", lambda game: game.win(), lambda game: game.click("push button", "Quit")),
+        for name, steps in [
+            ("q after a rejected answer", [("answer", "9"), ("answer", "q", prompt_after("9"))]),
+            ("quit item with a half-typed answer", [("wait_for_prompt",), ("type", "1+(2"), ("press", "ctrl+q")]),
+            ("close box", [("wait_for_prompt",), ("click_close_box",)]),
+            ("quit item at the alert", [("win",), ("press", "ctrl+q")]),
+            ("mouse at the alert", [("win",), ("click", "push button", "Quit")]),
         ]:
             with self.subTest(name):
                 game = self.start()
-                reach(game)
-                leave(game)
+                self.carry_out(steps, game)
                 self.assert_clean_end(game)
 
     def test_escape_and_the_close_box_leave_the_alert_open(self):

@@ -14,7 +14,7 @@ MANAGER = os.path.join(os.path.dirname(__file__), "clipboard_manager.py")
 ONE, OTHER = "open 1 100 100", "open 2 600 300"
 DRAGGED = "1000[356]|10026"
 
-# What a scene shows, the commands that the program starts with, and what then happens: methods of the test.
+# What a scene shows, the commands that the program starts with, and what happens then.
 SCENES = [
     ("a window is not closed while it is asked about", [ONE], [
         ("close", 1), ("close", 1), ("press", "Return"), ("front", "Window 1"), ("answer", "still"), ("count", "10031", 1),
@@ -25,8 +25,8 @@ SCENES = [
         ("activate", "Window 2"), ("settle",), ("front", "Window 1"), ("answer", "1"),
         ("click", 2, 80, 60), ("settle",), ("front", "Window 1"), ("answer", "2")]),
     ("the panel follows the program to another window; each close box", [OTHER, ONE, "silent"], [
-        ("answer", "front 2"), ("front", "Window 2"), ("click_close_box", 1), ("await_said", "gone"), ("answer", "still"),
-        ("click_close_box", 2), ("ends",)]),
+        ("answer", "front 2"), ("front", "Window 2"), ("click_close_box", "Window 1"), ("await_said", "gone"), ("answer", "still"),
+        ("click_close_box", "Window 2"), ("ends",)]),
     ("a window made in a run stays in front", [ONE], [
         ("do", "open 2 160 160"), ("front", "Window 2"),
         *[("await_said", event) for event in ("10033 2", "10034 1", "10035 2", "10036 1")], ("settle",),
@@ -112,22 +112,13 @@ class TestStranger(PlayingTest):
     def frame(self):
         return self.desktop.framed_rectangle(self.id())
 
-    def activate(self, title):
-        self.program.activate(title)
-
-    def press(self, *keys):
-        self.desktop.press(*keys)
-
     def click(self, window, x, y):
         left, top, *_ = self.desktop.content_rectangle(self.id(window))
         self.desktop.click(left + x, top + y)
 
-    def click_close_box(self, window):
-        self.desktop.click_close_box(self.id(window))
-
     def close(self, window):
         """Clicks the close box and waits for the question: Stay or Close."""
-        self.click_close_box(window)
+        self.program.click_close_box(f"Window {window}")
         self.settle()
         self.front("Close?")
 
@@ -149,8 +140,7 @@ class TestStranger(PlayingTest):
         for shows, commands, steps in SCENES:
             with self.subTest(shows):
                 self.start(*commands)
-                for step, *arguments in steps:
-                    getattr(self, step)(*arguments)
+                self.carry_out(steps, self.program)
 
     def test_the_end_without_windows(self):
         for commands, reported in (["bare", "quit"], b""), (["bare", "report", "quit"], b"Full 100 %\n"):
