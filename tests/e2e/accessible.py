@@ -126,6 +126,8 @@ def replayed(events, text):
     """What a client that follows only the events makes of the text it had before."""
     for kind, start, changed in events:
         if kind == "text-changed:insert":
+            if start > len(text):
+                raise AssertionError(f"{changed!r} was said to be inserted at {start} of {text!r}")
             text = text[:start] + changed + text[start:]
         elif kind == "text-changed:delete":
             if not text.startswith(changed, start):

@@ -89,7 +89,7 @@ class TestStranger(PlayingTest):
         """What the program says about window 1 last: "content" width and height, "frame" or "chrome"."""
         return [int(number) for number in re.findall(r"-?\d+", self.said("content")[-1].split(name)[1])[:count]]
 
-    def id(self, window=1):
+    def window_id(self, window=1):
         return self.program.identifier(f"Window {window}")
 
     def front(self, title):
@@ -110,10 +110,10 @@ class TestStranger(PlayingTest):
         until(lambda: number() == wanted, "the window manager")
 
     def frame(self):
-        return self.desktop.framed_rectangle(self.id())
+        return self.desktop.framed_rectangle(self.window_id())
 
     def click(self, window, x, y):
-        left, top, *_ = self.desktop.content_rectangle(self.id(window))
+        left, top, *_ = self.desktop.content_rectangle(self.window_id(window))
         self.desktop.click(left + x, top + y)
 
     def close(self, window):
@@ -168,7 +168,7 @@ class TestStranger(PlayingTest):
         self.start(ONE)
         for is_titled in (True, False, True):
             with self.subTest(titled=is_titled):
-                until(lambda: (self.desktop.frame_extents(self.id())[2] > 0) == is_titled, "the style")
+                until(lambda: (self.desktop.frame_extents(self.window_id())[2] > 0) == is_titled, "the style")
                 until(lambda: self.numbers("frame", 4) == list(self.frame()), "the frame that is on the screen")
                 self.do("restyle")
 
@@ -186,7 +186,7 @@ class TestStranger(PlayingTest):
                     self.settle()
                 self.desktop.run("xdotool", "mouseup", "1")
                 self.settle()
-                *_, width, height = self.desktop.content_rectangle(self.id())
+                *_, width, height = self.desktop.content_rectangle(self.window_id())
                 shown = [width, height - bar]
                 until(lambda: self.numbers("content", 2) == shown, "the size that is on the screen")
                 self.assertTrue(is_right(shown), shown)
