@@ -1,11 +1,12 @@
 #include <tetrad/app/alert.h>
+
+#include "runtime/app/modal/modal_focus.h"
 #include <tetrad/app/menus.h>
 #include <tetrad/app/window.h>
 #include <tetrad/app/window_delegate.h>
 
 #include <QApplication>
 #include <QMenuBar>
-#include <QPointerEvent>
 #include <QWindow>
 
 #include <utility>
@@ -33,7 +34,7 @@ public:
         case QEvent::MouseButtonDblClick:
         case QEvent::TouchBegin:
         case QEvent::TabletPress:
-            return !isOnMenuBar(static_cast<QPointerEvent *>(event)) && bringSheet();
+            return !isInMenus() && !isInMenu(m_window->childAt(pressPosition(event))) && bringSheet();
         case QEvent::KeyPress:
         case QEvent::Close:
             event->setAccepted(isInMenus());
@@ -47,12 +48,6 @@ private:
     static bool isInMenus()
     {
         return QApplication::activePopupWidget() || qobject_cast<QMenuBar *>(QApplication::focusWidget());
-    }
-
-    bool isOnMenuBar(const QPointerEvent *event) const
-    {
-        const QPointF position = event->points().isEmpty() ? QPointF() : event->points().first().position();
-        return isInMenus() || qobject_cast<QMenuBar *>(m_window->childAt(position.toPoint()));
     }
 
     bool bringSheet()

@@ -54,12 +54,6 @@ bool isPointer(QEvent::Type type)
     }
 }
 
-QPoint pressPosition(QEvent *event)
-{
-    const auto *pointer = static_cast<const QPointerEvent *>(event);
-    return pointer->pointCount() > 0 ? pointer->points().first().position().toPoint() : QPoint();
-}
-
 } // namespace
 
 bool ModalFilter::eventFilter(QObject *receiver, QEvent *event)

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointerEvent>
 #include <QWindow>
 
 namespace tetrad {
@@ -128,6 +129,12 @@ bool isIdleBar(const QWidget *widget)
 {
     const auto *bar = qobject_cast<const QMenuBar *>(widget);
     return bar && !bar->activeAction();
+}
+
+QPoint pressPosition(const QEvent *event)
+{
+    const auto *pointer = static_cast<const QPointerEvent *>(event);
+    return pointer->pointCount() > 0 ? pointer->points().first().position().toPoint() : QPoint();
 }
 
 QWidget *widgetOfWindow(const QWindow *window)

@@ -62,6 +62,9 @@ bool isInMenu(const QWidget *widget);
 /// Whether the widget is a menu bar without a highlighted title.
 bool isIdleBar(const QWidget *widget);
 
+/// Where a press is in the window that it was sent to.
+QPoint pressPosition(const QEvent *event);
+
 /// The widget that a platform window shows, or null.
 QWidget *widgetOfWindow(const QWindow *window);
 

@@ -93,8 +93,8 @@ void WindowTranslator::translate(QEvent *event)
 
 void WindowTranslator::shown()
 {
-    if (m_place.isNull()) {
-        m_place = m_window->contentRect();
+    if (m_reported.isNull()) {
+        m_reported = m_window->contentRect();
     }
     QWindow *const handle = m_window->windowHandle();
     if (handle && handle != m_watchedHandle) {
@@ -108,7 +108,7 @@ void WindowTranslator::shown()
 // come in either order, and a drag comes in more steps than the delegate should be queried about.
 void WindowTranslator::changed(bool byWindowSystem)
 {
-    if (m_place.isNull()) {
+    if (m_reported.isNull()) {
         return;
     }
     if (!byWindowSystem) {
@@ -122,7 +122,7 @@ void WindowTranslator::changed(bool byWindowSystem)
 
 void WindowTranslator::reportProgramsChange()
 {
-    if (m_window->isVisible()) {
+    if (m_window->isVisible() && !m_reported.isNull()) {
         report(false, false);
     }
 }
@@ -160,7 +160,7 @@ void WindowTranslator::report(bool userMoved, bool userResized)
 {
     const QPointer<Window> window = m_window;
     const QRectF now = window->contentRect();
-    const QRectF before = std::exchange(m_place, now);
+    const QRectF before = std::exchange(m_reported, now);
     if (now.topLeft() != before.topLeft()) {
         // As on the platform that the codes come from, only the user's moves are announced.
         if (userMoved) {

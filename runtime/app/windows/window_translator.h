@@ -58,7 +58,7 @@ private:
     QSizeF m_held;
     bool m_isSettled = false;
     // The content rectangle last reported; null until the window was first shown.
-    QRectF m_place;
+    QRectF m_reported;
     QPointer<QWindow> m_watchedHandle;
 };
 
