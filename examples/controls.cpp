@@ -2,8 +2,6 @@
 
 #include <tetrad/tetrad.h>
 
-#include <QCoreApplication>
-
 using namespace tetrad;
 
 static qint64 onDialog(qint64 event, Tag tag, Tag wndTag, qint64)
@@ -32,7 +30,7 @@ static qint64 onDialog(qint64 event, Tag tag, Tag wndTag, qint64)
 
 int main()
 {
-    QCoreApplication::setApplicationName("Controls");
+    AppSetName("Controls");
     CocoaInit();
     CUI_EditMenu(1);
     CUI_Window(1, "Controls", windowStyleTitled | windowStyleClosable, QRectF(0, 0, 820, 420));
@@ -55,10 +53,10 @@ int main()
     SplitViewAddSubview(18, 20);
     CUI_TableView(21, {"Name", "Size"}, {10, 240, 340, 170});
     // What says nothing by itself is read aloud by these names.
-    CUI_ViewWithTag(13)->setAccessibleName("Amount");
-    CUI_ViewWithTag(14)->setAccessibleName("Number");
-    CUI_ViewWithTag(21)->setAccessibleName("Cells");
+    ViewSetAccessibleName(13, "Amount");
+    ViewSetAccessibleName(14, "Number");
+    ViewSetAccessibleName(21, "Cells");
 
-    runModalForWindow(CUI_WindowWithTag(1)); // until the window is closed
+    WindowRunModal(1); // until the window is closed
     AppTerminate();
 }

@@ -2,13 +2,11 @@
 
 #include <tetrad/tetrad.h>
 
-#include <QCoreApplication>
-
 using namespace tetrad;
 
 int main()
 {
-    QCoreApplication::setApplicationName("Hello");
+    AppSetName("Hello");
     CocoaInit();
     CUI_EditMenu(1); // right of the application's own menu
     CUI_Window(1, "Hello", notGiven, QRectF(0, 0, 420, 180));

@@ -2,8 +2,6 @@
 
 #include <tetrad/tetrad.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 using namespace tetrad;
@@ -23,7 +21,7 @@ static void draw(int column, int row)
 
 int main()
 {
-    QCoreApplication::setApplicationName("Keys");
+    AppSetName("Keys");
     CocoaInit();
     CUI_EditMenu(1);
     CUI_Window(1, "Keys", windowStyleTitled | windowStyleClosable, QRectF(0, 0, 420, 260));

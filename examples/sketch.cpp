@@ -2,13 +2,11 @@
 
 #include <tetrad/tetrad.h>
 
-#include <QCoreApplication>
-
 using namespace tetrad;
 
 int main()
 {
-    QCoreApplication::setApplicationName("Sketch");
+    AppSetName("Sketch");
     CocoaInit();
     CUI_EditMenu(1);
     CUI_Window(1, "Sketch", notGiven, QRectF(0, 0, 480, 330));

@@ -150,6 +150,8 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_s);
     auto *const view = new QSlider;
     CUI_ToolbarAddViewItem(50, 43, tagFromObject(view));
+    EXPECT_EQ(CUI_ToolbarTag(toolbar), 50);
+    EXPECT_EQ(ToolbarItemWithTag(toolbar, 44), item);
     CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_s);
     CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_s);
     QWidget *const inContent = tagged(content, 42);

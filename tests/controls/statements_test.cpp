@@ -86,7 +86,10 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
     EXPECT_EQ(alertsOf([] { ControlSetFormat(14, u"1"_s, true, 0, 0); }), QString());
     EXPECT_TRUE(ControlWithTag(14)->findChild<QLineEdit *>()->validator());
     ViewSetHidden(16, true);
-    EXPECT_TRUE(CUI_ViewWithTag(16)->isHidden());
+    ControlSetEnabled(16, false);
+    ViewSetAccessibleName(16, u"Done"_s);
+    const QWidget *const bar = CUI_ViewWithTag(16);
+    EXPECT_TRUE(bar->isHidden() && !bar->isEnabled() && bar->accessibleName() == u"Done");
 }
 
 TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)

@@ -27,11 +27,19 @@ void CocoaInit();
 void AppTerminate();
 
 /// The application's name as the menu titles show it, its version, and its reverse-domain id. All
-/// come from the one definition in the build; a program of its own sets its names with
-/// QCoreApplication before CocoaInit.
+/// come from the one definition in the build; a program of its own sets its name with AppSetName and the others with
+/// QCoreApplication.
 QString applicationName();
 QString applicationVersion();
 QString applicationId();
+
+/// Gives the program its name; call it before CocoaInit.
+void AppSetName(const QString &name);
+
+/// What the program keeps for the user from one run to the next, under the application's name; invalid when nothing was
+/// set. Setting it writes it at once.
+QVariant PreferenceValue(const QString &key);
+void PreferenceSetValue(const QString &key, const QVariant &value);
 
 /// Shows the application's name, and its version if it has one, modally until the panel is closed.
 void orderFrontStandardAboutPanel();

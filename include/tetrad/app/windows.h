@@ -34,6 +34,9 @@ void WindowCenter(Tag tag);
 /// Does nothing when the tag is unknown.
 void WindowSetWorksWhenModal(Tag tag, bool works);
 
+/// Serves the window until it is closed or the run is ended; see runModalForWindow.
+qint64 WindowRunModal(Tag tag);
+
 /// All runtime windows, front to back: the order in which they were last active or shown.
 QList<Window *> orderedWindows();
 

@@ -106,6 +106,8 @@ void ControlSetItems(Tag tag, const QStringList &items);
 void ControlSetEnabled(Tag tag, bool enabled);
 void ViewSetHidden(Tag tag, bool hidden);
 void ViewSetFocus(Tag tag);
+/// What assistive technology calls a view that has no text of its own.
+void ViewSetAccessibleName(Tag tag, const QString &name);
 
 /// Filters what the user may enter into a text field, combo box or token field: `pass` says whether `characters` are
 /// allowed or refused; length: in characters, 0 for no limit; caseOption as in ZRInput. It replaces the

@@ -12,6 +12,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QPointer>
+#include <QSettings>
 
 #include <cerrno>
 #include <cstdio>
@@ -240,6 +241,21 @@ void setAppDelegate(CUI_AppDelegate *delegate)
 QString applicationName()
 {
     return QCoreApplication::applicationName();
+}
+
+void AppSetName(const QString &name)
+{
+    QCoreApplication::setApplicationName(name);
+}
+
+QVariant PreferenceValue(const QString &key)
+{
+    return QSettings(applicationName(), applicationName()).value(key);
+}
+
+void PreferenceSetValue(const QString &key, const QVariant &value)
+{
+    QSettings(applicationName(), applicationName()).setValue(key, value);
 }
 
 QString applicationVersion()

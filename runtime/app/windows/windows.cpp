@@ -104,6 +104,11 @@ void WindowSetWorksWhenModal(Tag tag, bool works)
     }
 }
 
+qint64 WindowRunModal(Tag tag)
+{
+    return runModalForWindow(CUI_WindowWithTag(tag));
+}
+
 QList<Window *> orderedWindows()
 {
     return TagRegistry<Window>::instance().frontToBack();

@@ -289,6 +289,13 @@ void ViewSetFocus(Tag tag)
     }
 }
 
+void ViewSetAccessibleName(Tag tag, const QString &name)
+{
+    if (QWidget *const view = viewOfClass<QWidget>(tag)) {
+        view->setAccessibleName(name);
+    }
+}
+
 void ControlSetFormat(Tag tag, const QString &characters, bool pass, quint64 length, qint64 caseOption)
 {
     const auto *const box = qobject_cast<QComboBox *>(CUI_ViewWithTag(tag));

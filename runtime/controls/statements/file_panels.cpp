@@ -4,6 +4,7 @@
 #include <tetrad/controls/panels.h>
 #include <tetrad/events/event_codes.h>
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QIdentityProxyModel>
@@ -92,12 +93,13 @@ private:
     {
         const QPointer<FilePanel> guard(this);
         if (acceptMode() == AcceptSave) {
-            const QString entered = QFileInfo(selectedFiles().value(0)).fileName();
-            const QString name = answerTo(this, filePanelEventUserEnteredName, &CUI_DialogEvent::stringObj, entered);
+            const QFileInfo entered(selectedFiles().value(0));
+            const QString name =
+                answerTo(this, filePanelEventUserEnteredName, &CUI_DialogEvent::stringObj, entered.fileName());
             if (!guard || name.isEmpty()) {
                 return false;
             }
-            findChild<QLineEdit *>()->setText(name);
+            findChild<QLineEdit *>()->setText(entered.dir().filePath(name));
         }
         return !m_files || (asks(filePanelEventValidateUrl, selectedFiles().value(0)) && guard);
     }

@@ -52,6 +52,8 @@ TableViewSC::TableViewSC(QWidget *parent) : QTableWidget(parent)
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
+    setWordWrap(false);
+    horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->hide();
     connect(this, &QTableWidget::cellChanged, this, &TableViewSC::reportEdit);
     new ItemViewEvents(this, horizontalHeader(),
@@ -156,6 +158,9 @@ void CUI_TableView(Tag tag, const QStringList &columns, const QRectF &rect)
     if (view && !columns.isEmpty()) {
         view->setColumnCount(int(columns.size()));
         view->setHorizontalHeaderLabels(columns);
+        for (int column = 0; column < view->columnCount(); ++column) {
+            view->setColumnWidth(column, view->viewport()->width() / view->columnCount());
+        }
     }
 }
 
