@@ -3,6 +3,7 @@
 import contextlib
 import os
 import sys
+from pathlib import Path
 
 from desktop import Desktop
 from playing import REPOSITORY, Game
@@ -42,6 +43,14 @@ def main(folder):
             controls.click(role, name)
         controls.wait_for_line(r"event 1707, tag 21, window 1: .*")
         camera.take(controls, "example-controls", "Controls")
+    book = Path(desktop.folder, "people.book")
+    book.write_text("Ada Lovelace\t020 7946 0001\tWork\nGrace Hopper\t020 7946 0002\tWork\nMy Aunt\t020 7946 0003\tFriend\n")
+    settings = Path(desktop.folder, ".config", "Form", "Form.conf")
+    settings.parent.mkdir(parents=True)
+    settings.write_text(f"[General]\nbook={book}\nrow=1\n")
+    with running(desktop, "form") as form:
+        form.wait_for("table cell", "Grace Hopper", "selected")
+        camera.take(form, "example-form", "Address book")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
 """The example programs, driven by keys and mouse as a person would."""
 
 import os
+from pathlib import Path
 
 from playing import REPOSITORY, PlayingTest
 
@@ -70,3 +71,41 @@ class TestExamples(PlayingTest):
         x, y = (left[0] + left[2] + right[0]) // 2, left[1] + left[3] // 2
         self.desktop.drag((x, y), (x + 30, y))
         self.example.wait(lambda: self.example.wait_for("push button", "Left").rectangle[2] == left[2] + 30, "a wider left")
+
+    def test_form_keeps_an_address_book_until_the_next_start(self):
+        book = Path(self.desktop.folder, "people.book")
+        self.open_form()
+        for name, kind in [("Ada", "Friend"), ("Bob", "Work")]:
+            self.form.click("text", "Name")
+            self.desktop.press("ctrl+a")
+            self.desktop.type(f"{name}\t{len(name)}")
+            self.form.click("radio button", kind)
+            self.form.click("push button", "Add")
+            self.form.wait_for("table cell", name, "selected")
+        self.choose_file("ctrl+s", "Save the address book", book.with_suffix(""))
+        self.form.wait(lambda: book.exists() and book.read_text() == "Ada\t3\tFriend\nBob\t3\tWork\n", "the saved book")
+        self.form.click("table cell", "Ada")
+        self.form.wait_for("radio button", "Friend", "checked")
+        for button in ("Remove", "Change"):
+            self.form.click("push button", button)
+        self.form.wait(lambda: not self.form.application.find("table cell", name="Ada"), "one person less")
+        self.choose_file("ctrl+o", "Open an address book", book)
+        self.form.click("table cell", "Bob")
+        self.form.wait_for("radio button", "Work", "checked")
+        self.desktop.press("alt+F4")
+        # Not its standard error, where Qt reports each cell that the client asks for and that has just gone.
+        self.assertEqual(self.form.wait_for_end()[0], 0)
+        self.open_form()
+        self.form.wait_for("table cell", "Bob", "selected")
+        self.assertEqual(self.form.wait_for("text", "Name").text, "Bob")
+
+    def open_form(self):
+        self.form = self.start(command=[f"{EXAMPLES}/form"])
+        self.form.wait_for("frame", "Address book", "active")
+
+    def choose_file(self, shortcut, title, path):
+        self.desktop.press(shortcut)
+        self.form.wait_for("dialog", title, "active")
+        self.desktop.type(str(path))
+        self.desktop.press("Return")
+        self.form.wait_for("frame", "Address book", "active")
