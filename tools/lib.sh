@@ -9,7 +9,7 @@ packages_build=(g++ cmake ninja-build qt6-base-dev librsvg2-bin fonts-dejavu-cor
 # shellcheck disable=SC2034
 packages_wayland=(qt6-wayland)
 # shellcheck disable=SC2034
-packages_test=(libgtest-dev xvfb xauth openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core
+packages_test=(libgtest-dev fonts-noto-core xvfb xauth openbox xdotool xclip x11-utils imagemagick dbus-daemon at-spi2-core
     python3-gi gir1.2-atspi-2.0 python3-xlib locales strace sway wtype qt6-wayland)
 # shellcheck disable=SC2034
 packages_package=(dpkg-dev fakeroot lintian file desktop-file-utils appstream mandoc)

@@ -80,11 +80,13 @@ void FloatingPanel::resize()
         parts.body.translated(host.topLeft()).adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
     m_label->fitInto(parts.label.translated(shadowMargin, shadowMargin));
     m_entry->setGeometry(parts.entry.translated(shadowMargin, shadowMargin));
-    // A label rounds the middle of its line down, a line edit up; both baselines must be one.
-    const int textTop = (panelLineHeight - m_label->fontMetrics().height() + 1) / 2;
+    // A label rounds the middle of its line down, a line edit up; both baselines must be one. A label takes no negative
+    // margin.
+    const int textTop = panelTextTop(m_label->fontMetrics().height());
     const auto labels = findChildren<QLabel *>();
     for (QLabel *const each : labels) {
-        each->setContentsMargins(PromptLabel::inset, textTop, 0, 0);
+        each->setContentsMargins(PromptLabel::inset, std::max(0, textTop), 0, 0);
+        each->setGeometry(each->geometry().adjusted(0, std::min(0, textTop), 0, 0));
     }
 }
 

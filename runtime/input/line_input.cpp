@@ -2,6 +2,7 @@
 
 #include "runtime/controls/events/current_event.h"
 #include "runtime/input/field_formatter.h"
+#include "runtime/input/panel_layout.h"
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
@@ -80,6 +81,10 @@ ZRInputWindow::ZRInputWindow(const QString &prompt, qint64 xPos, qint64 yPos)
     : FloatingPanel(prompt, xPos, yPos), m_field(makeField(this))
 {
     connect(m_field, &QLineEdit::textChanged, this, &ZRInputWindow::controlTextDidChange);
+    if (const int room = panelLineHeight - fontMetrics().height(); room < 0) {
+        const int top = panelTextTop(fontMetrics().height());
+        m_field->setTextMargins(0, top, 0, room - top);
+    }
     setEntry(m_field);
     setKeyReceiver(m_field);
     center();

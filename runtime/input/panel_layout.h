@@ -24,6 +24,14 @@ struct PanelGeometry
 inline constexpr int panelHeight = 36;
 inline constexpr int panelLineHeight = 16; ///< of label and entry
 
+/// Where the text of a label or entry begins below its top, for a font of this height; above it, where the font's line
+/// is higher, so that both ends are cut alike.
+constexpr int panelTextTop(int fontHeight)
+{
+    const int room = panelLineHeight - fontHeight;
+    return room < 0 ? room / 2 : (room + 1) / 2;
+}
+
 /// The requested position of the body's top left corner, for that of its bottom left corner. With notGiven in both it
 /// is 20 pixels from the left, vertically centred.
 QPoint requestedPosition(qint64 xPos, qint64 yPos, QSize content);

@@ -89,7 +89,7 @@ QFont panelFont()
     int size = 13;
     do {
         font.setPixelSize(size);
-    } while (QFontMetrics(font).height() > panelLineHeight && --size > 8);
+    } while (QFontMetrics(font).tightBoundingRect(u"Ay(|)"_s).height() > panelLineHeight && --size > 8);
     return font;
 }
 

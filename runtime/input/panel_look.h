@@ -11,7 +11,8 @@ namespace tetrad {
 /// How far the shadow reaches from the body to each side, in pixels.
 constexpr int shadowMargin = 14;
 
-/// The application's font at the largest size, 13 pixels at most, whose lines fit a label.
+/// The application's font at the largest size, 13 pixels at most, whose letters and parentheses fit a label. The room
+/// that some fonts keep above them for accents may be cut off.
 QFont panelFont();
 
 /// The application's palette with every colour set, so that nothing is inherited from the content. Typed text has the
