@@ -236,7 +236,7 @@ TEST_F(Screen, givesAssistiveTechnologyLinesAttributesAndPositions)
     EXPECT_EQ(text->offsetAtPoint(text->characterRect(278).center()), 278);
 }
 
-TEST_F(Screen, isSelectedByDragging)
+TEST_F(Screen, isSelectedByDraggingAndLeftByTyping)
 {
     printNumbers();
     const auto cell = [this](qsizetype at) { return view.reader().characterRect(at).toAlignedRect(); };
@@ -246,6 +246,9 @@ TEST_F(Screen, isSelectedByDragging)
     QTest::mouseMove(&view, cell(20).topRight() + QPoint(3, 3));
     QTest::mouseRelease(&view, Qt::LeftButton, {}, cell(21).center());
     EXPECT_TRUE(view.reader().selectedText().startsWith(u"0\n1\n2"_s));
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_5);
+    EXPECT_EQ(field->text(), u"5"_s) << "what is typed on the console goes to the field";
     view.clear();
     EXPECT_FALSE(view.property("canCopy").toBool());
 }
