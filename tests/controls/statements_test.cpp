@@ -62,6 +62,7 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
         {"text field", 4, [] { ControlSetStringValue(4, u"7 pears"_s); }, 7, u"7 pears"_s},
         {"pop-up button", 5, [] { ControlSetIntegerValue(5, 0); }, 0, u"a"_s},
         {"segmented control", 6, [] { ControlSetIntegerValue(6, 0); }, 0, {}},
+        {"segmented control by its statement", 6, [] { CUI_SegmentedControl(6, {}, 1, {}); }, 1, {}},
         {"radio buttons exclude each other", 11, [] { ControlSetIntegerValue(12, 1); }, 0, u"One"_s},
         {"stepper", 13, [] { ControlSetDoubleValue(13, 2.5); }, 2, u"2.50"_s},
         {"combo box", 14, [] { ControlSetIntegerValue(14, 0); }, 0, u"red"_s},
