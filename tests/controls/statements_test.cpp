@@ -64,7 +64,7 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
         {"segmented control", 6, [] { ControlSetIntegerValue(6, 0); }, 0, {}},
         {"segmented control by its statement", 6, [] { CUI_SegmentedControl(6, {}, 1, {}); }, 1, {}},
         {"radio buttons exclude each other", 11, [] { ControlSetIntegerValue(12, 1); }, 0, u"One"_s},
-        {"stepper", 13, [] { ControlSetDoubleValue(13, 2.5); }, 2, u"2.50"_s},
+        {"stepper", 13, [] { ControlSetStringValue(13, u"2.5"_s); }, 2, u"2.5"_s},
         {"combo box", 14, [] { ControlSetIntegerValue(14, 0); }, 0, u"red"_s},
         {"date field", 15, [] { ControlSetStringValue(15, u"2026-11-22"_s); }, 0, u"2026-11-22"_s},
         {"progress indicator", 16, [] { ControlSetIntegerValue(16, 7); }, 7, u"70%"_s},
@@ -95,11 +95,12 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
 
 TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
 {
-    CUI_Button(-5, u"Press"_s, QRectF(10, 10, 80, 30));
+    CUI_Button(-5, u"Try & see"_s, QRectF(10, 10, 80, 30));
     QWidget *const button = ControlWithTag(5);
     EXPECT_TRUE(button->isHidden());
     CUI_Button(5, {}, {});
-    EXPECT_EQ(ControlStringValue(5), u"Press"_s);
+    EXPECT_EQ(ControlStringValue(5), u"Try & see"_s);
+    EXPECT_EQ(button->property("text"), u"Try && see"_s) << "or Alt and a letter would press it";
     EXPECT_EQ(button->geometry(), QRect(10, 10, 80, 30));
     EXPECT_TRUE(button->isVisible());
     CUI_TextLabel(16, u"9 lives"_s, QRectF(10, 60, 80, 30));

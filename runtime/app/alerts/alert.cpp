@@ -1,6 +1,7 @@
 #include <tetrad/app/alert.h>
 
 #include "runtime/app/alerts/alert_text.h"
+#include "runtime/app/menus/mnemonic.h"
 #include <tetrad/app/alerts.h>
 #include <tetrad/app/application.h>
 #include <tetrad/app/modal.h>
@@ -135,7 +136,7 @@ void Alert::updateAccessibleName()
 QPushButton *Alert::addAlertButton(const QString &title)
 {
     // Only this role keeps the order of insertion on every desktop.
-    QPushButton *const button = addButton(QString(title).replace(u'&', u"&&"_s), QMessageBox::ActionRole);
+    QPushButton *const button = addButton(escapedMnemonics(title), QMessageBox::ActionRole);
     m_buttons.append(button);
     if (m_buttons.size() == 1) {
         m_returnButton = button;

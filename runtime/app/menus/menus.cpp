@@ -1,6 +1,7 @@
 #include <tetrad/app/menus.h>
 
 #include "runtime/app/menus/edit_actions.h"
+#include "runtime/app/menus/mnemonic.h"
 #include "runtime/app/process/termination.h"
 #include <tetrad/app/application.h>
 
@@ -21,12 +22,6 @@ namespace {
 
 MainMenu *theMainMenu = nullptr;
 QList<QPointer<QMenuBar>> bars;
-
-// A name's own "&" must not become an underlined letter.
-QString verbatim(QString title)
-{
-    return title.replace(u'&', u"&&"_s);
-}
 
 MainMenu *takeMainMenu()
 {
@@ -133,12 +128,12 @@ MainMenu *mainMenu()
 void CUI_BuildMinimalMenu()
 {
     const QString name = applicationName();
-    auto *menu = new QMenu(verbatim(name));
-    QAction *about = addItem(menu, verbatim(u"About %1"_s.arg(name)), QAction::AboutRole);
+    auto *menu = new QMenu(escapedMnemonics(name));
+    QAction *about = addItem(menu, escapedMnemonics(u"About %1"_s.arg(name)), QAction::AboutRole);
     // The panel runs modally; it must not do so inside the menu that is still closing.
     QObject::connect(about, &QAction::triggered, qApp, &orderFrontStandardAboutPanel, Qt::QueuedConnection);
     menu->addSeparator();
-    QAction *quit = addItem(menu, verbatim(u"Quit %1"_s.arg(name)), QAction::QuitRole);
+    QAction *quit = addItem(menu, escapedMnemonics(u"Quit %1"_s.arg(name)), QAction::QuitRole);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setShortcutContext(Qt::ApplicationShortcut);
     QObject::connect(quit, &QAction::triggered, qApp, &quitByUser);

@@ -1,5 +1,6 @@
 #include <tetrad/controls/control_statements.h>
 
+#include "runtime/app/menus/mnemonic.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
 #include "runtime/input/field_formatter.h"
@@ -52,7 +53,7 @@ void textStatement(Tag tag, const QString &text, const QRectF &rect, WhenMade wh
 {
     auto *const view = statementView<View>(tag, rect, whenMade);
     if (view && !text.isNull()) {
-        view->setText(text);
+        view->setText(std::is_base_of_v<QAbstractButton, View> ? escapedMnemonics(text) : text);
     }
 }
 

@@ -1,5 +1,6 @@
 #include <tetrad/controls/control_statements.h>
 
+#include "runtime/app/menus/mnemonic.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/strings/saturate.h"
 #include <tetrad/controls/token_field.h>
@@ -36,7 +37,7 @@ const ValueProperties valueTable[] = {
     {&TokenFieldSC::staticMetaObject, "tokenText", "tokenText", "tokens"},
     {&QLineEdit::staticMetaObject, "text", "text"},
     {&QAbstractSlider::staticMetaObject, nullptr, "value"},
-    {&QDoubleSpinBox::staticMetaObject, "cleanText", "value"},
+    {&QDoubleSpinBox::staticMetaObject, "value", "value"},
     {&QProgressBar::staticMetaObject, "text", "value"},
     {&QDateEdit::staticMetaObject, "date", nullptr},
     {&SegmentedControlSC::staticMetaObject, nullptr, "selectedSegment", "labels"},
@@ -62,6 +63,11 @@ QWidget *viewWithValue(Tag tag)
     return bar ? bar : ControlWithTag(tag);
 }
 
+bool isButton(Tag tag)
+{
+    return qobject_cast<QAbstractButton *>(viewWithValue(tag));
+}
+
 QVariant value(Tag tag, Property property)
 {
     const QWidget *const control = viewWithValue(tag);
@@ -84,12 +90,13 @@ void setValue(Tag tag, Property property, const QVariant &value)
 
 QString ControlStringValue(Tag tag)
 {
-    return value(tag, &ValueProperties::text).toString();
+    const QString text = value(tag, &ValueProperties::text).toString();
+    return isButton(tag) ? unescapedMnemonics(text) : text;
 }
 
 void ControlSetStringValue(Tag tag, const QString &text)
 {
-    setValue(tag, &ValueProperties::text, text);
+    setValue(tag, &ValueProperties::text, isButton(tag) ? escapedMnemonics(text) : text);
 }
 
 double ControlDoubleValue(Tag tag)

@@ -1,5 +1,6 @@
 #include <tetrad/controls/menu_items.h>
 
+#include "runtime/app/menus/mnemonic.h"
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include <tetrad/app/menus.h>
@@ -95,7 +96,7 @@ void CUI_Menu(Tag menuTag, qint64 item, qint64 state, const QString &title, cons
         action = newItem(menu, item);
     }
     if (!title.isNull()) {
-        action->setText(QString(title).replace(u'&', u"&&"_s));
+        action->setText(escapedMnemonics(title));
         action->setSeparator(title == u"-");
     }
     if (state != notGiven) {

@@ -1,5 +1,6 @@
 #include <tetrad/controls/tab_view.h>
 
+#include "runtime/app/menus/mnemonic.h"
 #include "runtime/controls/dispatch/event_site.h"
 #include "runtime/controls/lookup/tag_lookup.h"
 #include "runtime/controls/statements/view_statement.h"
@@ -17,17 +18,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A shortcut taken from an ampersand would select without asking.
-QString plainLabel(QString label)
-{
-    return label.replace(u'&', u"&&"_s);
-}
-
 void insertTab(TabViewSC *tabView, int index, const QString &label)
 {
     auto *const page = new QWidget;
     setObjectWindowTag(page, objectWindowTag(tabView));
-    tabView->insertTab(index, page, plainLabel(label));
+    tabView->insertTab(index, page, escapedMnemonics(label));
 }
 
 // The tabs of a tab view, where the user selects.
@@ -144,7 +139,7 @@ void TabViewSC::forwardItem(qint64 event, int index)
 {
     CUI_DialogEventObj()->longVal = index;
     CUI_DialogEventObj()->viewObj = widget(index);
-    CUI_DialogEventObj()->stringObj = tabText(index).replace(u"&&"_s, u"&"_s);
+    CUI_DialogEventObj()->stringObj = unescapedMnemonics(tabText(index));
     sendObjectEvent(this, event);
 }
 
@@ -153,7 +148,7 @@ void CUI_TabView(Tag tag, const QStringList &labels, const QRectF &rect)
     auto *const view = statementView<TabViewSC>(tag, rect);
     for (int index = 0; view && index < labels.size(); ++index) {
         if (index < view->count()) {
-            view->setTabText(index, plainLabel(labels.at(index)));
+            view->setTabText(index, escapedMnemonics(labels.at(index)));
         } else {
             insertTab(view, index, labels.at(index));
         }
