@@ -20,12 +20,17 @@ namespace {
 /// Operations at random places, colours, sizes, widths and alignments, many on top of each other.
 void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int count, int height)
 {
+    // Now and then any double whatever, and as often one that is infinite or NaN.
+    const auto orAny = [&](double usual) {
+        const quint64 any = random.generate64() | (random.bounded(2) == 0 ? 0x7FF0'0000'0000'0000 : 0);
+        return random.bounded(20) == 0 ? std::bit_cast<double>(any) : usual;
+    };
     const auto place = [&] {
-        return QPointF(random.bounded(440) - 20 + random.generateDouble(), random.bounded(height));
+        return QPointF(orAny(random.bounded(440) - 20 + random.generateDouble()), random.bounded(height));
     };
     const auto rect = [&] {
         const int tall = random.bounded(20) == 0 ? height : random.bounded(4) == 0 ? 6 : 40;
-        return QRectF(place(), QSizeF(random.bounded(120) - 20, random.bounded(tall) - 5));
+        return QRectF(place(), QSizeF(orAny(random.bounded(120) - 20), random.bounded(tall) - 5));
     };
     const auto color = [&] {
         return random.bounded(4) == 0 ? QColor() : QColor::fromRgba(random.generate() | 0x40000000);
@@ -41,7 +46,7 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
     for (int i = 0; i < count; ++i) {
         view.setCurrentLineWidth(random.bounded(random.bounded(4) == 0 ? 40 : 12) - 2 + random.bounded(2) * 0.5);
         view.setCurrentLineCapStyle(random.bounded(4));
-        view.setCurrentLineDashPattern(random.bounded(3) == 0 ? QList<double>{6, 3, 1} : QList<double>());
+        view.setCurrentLineDashPattern(random.bounded(3) == 0 ? QList<double>{orAny(6), 3, 1} : QList<double>());
         view.setCurrentStrokeColor(color());
         view.setForegroundColor(color());
         view.setBackgroundColor(color());
@@ -57,7 +62,7 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
             view.addLines({place(), place()}, random.bounded(2) == 0);
             break;
         case 3:
-            view.setFontSize(6 + random.bounded(30));
+            view.setFontSize(orAny(6 + random.bounded(30)));
             break;
         default:
             view.addString(texts.at(random.bounded(static_cast<int>(texts.size()))), place());

@@ -1,7 +1,6 @@
-// Answers, judged whole. Input: a puzzle's position, then the answer. That the values are right is seen by
-// tests/game/evaluator_against_python.py.
+// Answers, judged whole: by libFuzzer, and by rules_test with damaged solutions. Input: a puzzle's position, then the
+// answer. That the values are right is seen by tests/game/evaluator_against_python.py.
 
-#include "tests/fuzz/fuzz_input.h"
 #include "tests/game/puzzles.h"
 
 #include "game/rules/answer.h"
@@ -11,7 +10,6 @@
 #include <tetrad/strings/pascal_strings.h>
 
 using namespace tetrad;
-using namespace tetrad::fuzz;
 
 namespace {
 
@@ -39,8 +37,9 @@ void judge(const QString &answer, const QString &puzzle)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    Input input(data, size);
-    const QString puzzle = puzzleText(input.below(puzzleCount));
-    judge(input.textUntil('\0'), puzzle);
+    const QByteArrayView input(data, static_cast<qsizetype>(size));
+    if (!input.isEmpty()) {
+        judge(QString::fromUtf8(input.sliced(1)), puzzleText(static_cast<quint8>(input.front()) % puzzleCount));
+    }
     return 0;
 }

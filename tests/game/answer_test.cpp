@@ -5,8 +5,12 @@
 #include "tests/support/table.h"
 #include <tetrad/strings/pascal_strings.h>
 
+#include <random>
+
 using namespace tetrad;
 using namespace Qt::StringLiterals;
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 namespace {
 
@@ -81,5 +85,20 @@ TEST(Answer, OfEverySolutionIsCorrectAndOfADamagedOneIsNot)
             EXPECT_EQ(judgeAnswer(solution.chopped(1), numbers), Outcome::incorrect);
             EXPECT_EQ(judgeAnswer(QString(solution + u"*1"), numbers), Outcome::extraNumbers);
         }
+    }
+}
+
+TEST(Answer, OfAnyTextHasOneOutcome)
+{
+    std::mt19937 random(1); // NOLINT(bugprone-random-generator-seed): the same texts every time
+    const QByteArray bytes = "0123456789+-*/().xqs #%\t\xC3\xA9\xF0";
+    const QMap<QString, QStringList> solved = solvedPuzzles();
+    for (int i = 0; i < 50'000; ++i) {
+        const auto position = static_cast<qsizetype>(random() % puzzleCount);
+        QByteArray input = char(position) + solved[puzzleText(position)].first().toLatin1();
+        for (auto changes = random() % 12; changes > 0; --changes) {
+            input.replace(1 + random() % input.size(), random() % 4, bytes.mid(random() % bytes.size(), random() % 3));
+        }
+        LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t *>(input.constData()), static_cast<size_t>(input.size()));
     }
 }

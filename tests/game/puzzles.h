@@ -6,7 +6,19 @@
 #include <QMap>
 #include <QStringList>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace tetrad {
+
+/// Ends the program, for a fuzzer a finding.
+inline void require(bool holds, const char *what, const QString &input = QString())
+{
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %s, for \"%s\"\n", what, qUtf8Printable(input.left(1000)));
+        std::abort();
+    }
+}
 
 /// The four numbers of a puzzle's text, unchecked.
 inline PuzzleNumbers numbersOf(const QString &puzzle)

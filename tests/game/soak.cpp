@@ -4,7 +4,6 @@
 //   soak [PUZZLES]
 
 #include "game/rules/puzzle_deck.h"
-#include "tests/fuzz/fuzz_input.h"
 #include "tests/game/puzzles.h"
 
 #include <tetrad/app/alert.h>
@@ -42,7 +41,6 @@ quint32 drawnRandom()
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
-using fuzz::require;
 
 namespace {
 
