@@ -70,6 +70,18 @@ void printAtRandom(CUI_PrintToWindowView &view, QRandomGenerator &random, int co
     }
 }
 
+QImage everyItem(CUI_PrintToWindowView &view, const QSize &pixels, const QColor &ground, const QTransform &transform)
+{
+    QImage image(pixels, QImage::Format_RGB32);
+    image.fill(ground);
+    QPainter painter(&image);
+    painter.setTransform(transform);
+    for (qsizetype i = 0; i < view.items().size(); ++i) {
+        drawItem({painter, view.mirror(), view.palette()}, view, static_cast<quint32>(i));
+    }
+    return image;
+}
+
 /// A window with a console over which a translucent view of its own lies, and a field.
 class Screen : public testing::Test
 {
@@ -178,14 +190,30 @@ TEST_F(Screen, showsWhatTheWholeListDoesNextToAScrollBar)
         change();
         QCoreApplication::processEvents();
         const double scale = content.devicePixelRatioF();
-        QImage whole((QSizeF(scrollView->viewport()->size()) * scale).toSize(), QImage::Format_RGB32);
-        whole.fill(content.backgroundColor());
-        QPainter painter(&whole);
-        painter.setTransform(QTransform::fromTranslate(0, -bar()->value()) * QTransform::fromScale(scale, scale));
-        for (qsizetype i = 0; i < view.items().size(); ++i) {
-            drawItem({painter, view.mirror(), view.palette()}, view, static_cast<quint32>(i));
-        }
+        const QSize pixels = (QSizeF(scrollView->viewport()->size()) * scale).toSize();
+        const QImage whole =
+            everyItem(view, pixels, content.backgroundColor(),
+                      QTransform::fromTranslate(0, -bar()->value()) * QTransform::fromScale(scale, scale));
         EXPECT_EQ(shown().copy(whole.rect()), whole) << name;
+    }
+}
+
+TEST(Culling, leavesOutNothingThatAPartShows)
+{
+    QRandomGenerator random(20260104);
+    for (int round = 0; round < 40; ++round) {
+        CUI_PrintToWindowView view({0, 0, 400, 300});
+        view.setFlipView(round % 2 == 0);
+        printAtRandom(view, random, 40, 300);
+        for (int at = round % 7; at < 300; at += 7) {
+            for (const QRect &part : {QRect(0, at, 400, 3), QRect(at, 0, 3, 300)}) {
+                QImage seen(part.size(), QImage::Format_RGB32);
+                seen.fill(Qt::white);
+                view.render(&seen, QPoint(), part, QWidget::RenderFlags());
+                ASSERT_EQ(seen,
+                          everyItem(view, part.size(), Qt::white, QTransform::fromTranslate(-part.x(), -part.y())));
+            }
+        }
     }
 }
 

@@ -1,20 +1,19 @@
 """A monkey at the keyboard and the mouse: whatever it does, the game neither crashes nor hangs, and asks again.
 
-    test_monkey.py [SECONDS [SEED]]    plays for that time; a failing seed plays the same again
+TETRAD_MONKEY_SECONDS and TETRAD_MONKEY_SEED make it play for that time; a failing seed plays the same again.
 """
 
 import os
 import random
-import sys
 import time
-import unittest
 
 from desktop import until
 from playing import REPOSITORY, PlayingTest
 from solver import solve
 
-SEEDS_IN_TESTS = (3, 11, 24)
-BURSTS_IN_TESTS = 40
+SECONDS = float(os.environ.get("TETRAD_MONKEY_SECONDS", 0))
+SEEDS = [int(os.environ.get("TETRAD_MONKEY_SEED", 0)) or random.randrange(2**32)] if SECONDS else (3, 11, 24)
+BURSTS_WITHOUT_SECONDS = 40
 SANITIZERS = {
     "ASAN_OPTIONS": "detect_leaks=1",
     "LSAN_OPTIONS": f"suppressions={REPOSITORY / '.lsan'}:print_suppressions=0",
@@ -71,38 +70,32 @@ class Monkey:
 class TestMonkey(PlayingTest):
     # A sanitizer's report is told in full.
     maxDiff = None
-    seeds = SEEDS_IN_TESTS
-    seconds = None
 
     def test_whatever_it_does_the_game_asks_again(self):
-        for seed in self.seeds:
-            self.play(seed)
+        for seed in SEEDS:
+            with self.subTest(seed=seed):
+                self.play(Monkey(seed))
 
-    def play(self, seed):
-        monkey = Monkey(seed)
+    def play(self, monkey):
         game = None
-        done = []
-        end = time.monotonic() + self.seconds if self.seconds else None
-        try:
-            while time.monotonic() < end if end else len(done) < BURSTS_IN_TESTS:
-                if game is None:
-                    game = self.start(environment=SANITIZERS)
-                    self.settle(game)
-                done.append(monkey.burst())
-                self.do(done[-1])
-                # Both are dealt each time: what comes after must not depend on how the game went.
-                settles, tries = monkey.chance(0.3), monkey.chance(0.05)
-                if settles and not self.settle(game):
-                    game = None
-                elif tries:
-                    self.try_to_win(game)
-            if game and self.settle(game):
-                self.xdotool("key", "ctrl+q")
-                self.assert_clean_end(game)
-        except AssertionError as error:
-            told = "\n".join(str(burst)[:300] for burst in done[-10:])
-            raise AssertionError(f"seed {seed}, burst {len(done)}: {error}\nthe last of them:\n{told}") from error
-        print(f"seed {seed}: {len(done)} bursts, {len(self.games)} games", file=sys.stderr)
+        bursts = 0
+        end = time.monotonic() + SECONDS
+        while time.monotonic() < end if SECONDS else bursts < BURSTS_WITHOUT_SECONDS:
+            if game is None:
+                game = self.start(environment=SANITIZERS)
+                self.settle(game)
+            bursts += 1
+            self.do(monkey.burst())
+            # Both are dealt each time: what comes after must not depend on how the game went.
+            settles, tries = monkey.chance(0.3), monkey.chance(0.05)
+            if settles and not self.settle(game):
+                game = None
+            elif tries:
+                self.try_to_win(game)
+        if game and self.settle(game):
+            self.xdotool("key", "ctrl+q")
+            self.assert_clean_end(game)
+        print(f"{bursts} bursts, {len(self.games)} games")
 
     def do(self, burst):
         if isinstance(burst, str):
@@ -152,10 +145,3 @@ class TestMonkey(PlayingTest):
         # One Escape may have gone to a window that was just being minimised, and the About panel may lie over a menu.
         self.xdotool("key", "Escape")
         return False
-
-
-if __name__ == "__main__":
-    TestMonkey.seconds = float(sys.argv[1]) if len(sys.argv) > 1 else 60
-    TestMonkey.seeds = [int(sys.argv[2]) if len(sys.argv) > 2 else int.from_bytes(os.urandom(4), "big")]
-    print(f"seed {TestMonkey.seeds[0]}, {TestMonkey.seconds:.0f} seconds", flush=True)
-    unittest.main(argv=sys.argv[:1])

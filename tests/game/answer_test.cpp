@@ -64,6 +64,7 @@ TEST(Answer, HasATextOfItsValue)
         {"rounded to whole", u"24-1/9999"_s, "24"},
         {"more than a float's bits", u"16777217"_s, "16777217.000"},
         {"infinite", u"-1/0"_s, "-inf"},
+        {"divided by it", u"1/(3/0)"_s, "0"},
         {"none", u"2+"_s, "missing operand after '+' at position 4"},
     };
     for (const auto &[name, answer, text] : rows) {
