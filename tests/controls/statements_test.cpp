@@ -200,7 +200,7 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
     for (const auto &[name, statement, asks, typed, chosen, calls] : rows) {
         SCOPED_TRACE(name);
         FilePanelSetAsks(9, asks);
-        whenRuns<QFileDialog>([&, text = typed, expected = calls](QFileDialog *panel) {
+        whenRuns<QFileDialog>([&, asks = asks, text = typed, expected = calls](QFileDialog *panel) {
             EXPECT_EQ(CUI_OpenPanel(9, {}, {}, {}), QString()) << "one at a time";
             auto *const field = panel->findChild<QLineEdit *>();
             takeSiteCalls();

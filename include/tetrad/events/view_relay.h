@@ -41,26 +41,26 @@ bool reportQuestion(const ReportingView &view)
 /// While it draws, a view must be deleted with deleteLater.
 ///
 /// These take the view and the platform event, which may be null: `bool (const ReportingView &, QEvent *)`.
-inline constexpr auto CUI_ViewSubclassMouseDown = detail::reportPlatformEvent<viewEventMouseDown>;
-inline constexpr auto CUI_ViewSubclassMouseDragged = detail::reportPlatformEvent<viewEventMouseDragged>;
-inline constexpr auto CUI_ViewSubclassMouseUp = detail::reportPlatformEvent<viewEventMouseUp>;
-inline constexpr auto CUI_ViewSubclassMouseMoved = detail::reportPlatformEvent<viewEventMouseMoved>;
-inline constexpr auto CUI_ViewSubclassMouseEntered = detail::reportPlatformEvent<viewEventMouseEntered>;
-inline constexpr auto CUI_ViewSubclassMouseExited = detail::reportPlatformEvent<viewEventMouseExited>;
-inline constexpr auto CUI_ViewSubclassRightMouseDown = detail::reportPlatformEvent<viewEventRightMouseDown>;
-inline constexpr auto CUI_ViewSubclassRightMouseDragged = detail::reportPlatformEvent<viewEventRightMouseDragged>;
-inline constexpr auto CUI_ViewSubclassRightMouseUp = detail::reportPlatformEvent<viewEventRightMouseUp>;
-inline constexpr auto CUI_ViewSubclassKeyDown = detail::reportPlatformEvent<viewEventKeyDown>;
-inline constexpr auto CUI_ViewSubclassKeyUp = detail::reportPlatformEvent<viewEventKeyUp>;
-inline constexpr auto CUI_ViewSubclassFlagsChanged = detail::reportPlatformEvent<viewEventFlagsChanged>;
-inline constexpr auto CUI_ViewSubclassDraggingExited = detail::reportPlatformEvent<viewEventDraggingExited>;
+inline const auto CUI_ViewSubclassMouseDown = detail::reportPlatformEvent<viewEventMouseDown>;
+inline const auto CUI_ViewSubclassMouseDragged = detail::reportPlatformEvent<viewEventMouseDragged>;
+inline const auto CUI_ViewSubclassMouseUp = detail::reportPlatformEvent<viewEventMouseUp>;
+inline const auto CUI_ViewSubclassMouseMoved = detail::reportPlatformEvent<viewEventMouseMoved>;
+inline const auto CUI_ViewSubclassMouseEntered = detail::reportPlatformEvent<viewEventMouseEntered>;
+inline const auto CUI_ViewSubclassMouseExited = detail::reportPlatformEvent<viewEventMouseExited>;
+inline const auto CUI_ViewSubclassRightMouseDown = detail::reportPlatformEvent<viewEventRightMouseDown>;
+inline const auto CUI_ViewSubclassRightMouseDragged = detail::reportPlatformEvent<viewEventRightMouseDragged>;
+inline const auto CUI_ViewSubclassRightMouseUp = detail::reportPlatformEvent<viewEventRightMouseUp>;
+inline const auto CUI_ViewSubclassKeyDown = detail::reportPlatformEvent<viewEventKeyDown>;
+inline const auto CUI_ViewSubclassKeyUp = detail::reportPlatformEvent<viewEventKeyUp>;
+inline const auto CUI_ViewSubclassFlagsChanged = detail::reportPlatformEvent<viewEventFlagsChanged>;
+inline const auto CUI_ViewSubclassDraggingExited = detail::reportPlatformEvent<viewEventDraggingExited>;
 
 /// These take the view alone: `bool (const ReportingView &)`.
-inline constexpr auto CUI_ViewSubclassWantsUpdateLayer = detail::reportQuestion<viewEventWantsUpdateLayer>;
-inline constexpr auto CUI_ViewSubclassUpdateLayer = detail::reportQuestion<viewEventUpdateLayer>;
-inline constexpr auto CUI_ViewSubclassResetCursorRects = detail::reportQuestion<viewEventResetCursorRects>;
-inline constexpr auto CUI_ViewSubclassAppearanceChanged = detail::reportQuestion<viewEventAppearanceChanged>;
-inline constexpr auto CUI_ViewSubclassAwakeFromNib = detail::reportQuestion<viewEventAwakeFromNib>;
+inline const auto CUI_ViewSubclassWantsUpdateLayer = detail::reportQuestion<viewEventWantsUpdateLayer>;
+inline const auto CUI_ViewSubclassUpdateLayer = detail::reportQuestion<viewEventUpdateLayer>;
+inline const auto CUI_ViewSubclassResetCursorRects = detail::reportQuestion<viewEventResetCursorRects>;
+inline const auto CUI_ViewSubclassAppearanceChanged = detail::reportQuestion<viewEventAppearanceChanged>;
+inline const auto CUI_ViewSubclassAwakeFromNib = detail::reportQuestion<viewEventAwakeFromNib>;
 
 /// The function above that belongs to a mouse, key, enter or leave event. False without a call for every other event
 /// and for buttons that views do not report. The second press of a double click is a mouse-down like the first.

@@ -88,7 +88,7 @@ bool ModalFilter::isWithheldFromWindow(QWindow *window, QEvent *event)
     }
     const QWidget *child = top->childAt(pressPosition(event));
     const QWidget *target = child ? child : top;
-    if (qobject_cast<const QMenuBar *>(QApplication::focusWidget()) != nullptr && !isInMenu(target)) {
+    if (qobject_cast<const QMenuBar *>(QApplication::focusWidget()) && !isInMenu(target)) {
         m_focus.focusInside();
     }
     if (m_focus.isLive(target) || isScrollBar(target)) {
