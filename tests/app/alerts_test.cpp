@@ -1,20 +1,15 @@
-#include "tests/app/alert_helper.h"
-#include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
+#include "tests/support/windows.h"
 #include <tetrad/strings/error_object.h>
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
-#include <QScreen>
 #include <QSignalSpy>
-#include <QWindow>
 
 #include <thread>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -215,6 +210,7 @@ qint64 openSheet()
 
 TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
 {
+    resetMainMenu();
     Window *const owner = open(1);
     auto *const behind = new QPushButton(owner->contentView());
     behind->show();
@@ -242,6 +238,7 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         Alert *const alert = CUI_AlertWithTag(4);
         ASSERT_TRUE(alert && alert->isRunningAsSheet() && alert->parentWidget() == owner);
         EXPECT_EQ(alert->windowHandle()->flags() & (Qt::WindowType_Mask | Qt::WindowCloseButtonHint), Qt::Sheet);
+        EXPECT_FALSE(alert->actions().isEmpty()) << "the shortcuts of the menus";
         EXPECT_EQ(openSheet(), 0) << "already shown";
         pressBehind();
         EXPECT_EQ(pressed.count(), 0) << "its window takes no input";
@@ -252,19 +249,6 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     }
     pressBehind();
     EXPECT_EQ(pressed.count(), 1);
-}
-
-TEST_F(Alerts, QuitShortcutOverASheetEndsTheProgram)
-{
-    const auto quitOverASheet = [] {
-        CocoaInit();
-        CUI_BuildMinimalMenu();
-        open(1);
-        openSheet();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(CUI_AlertWithTag(4)));
-        pressKey(CUI_AlertWithTag(4), Qt::Key_Q, false, Qt::ControlModifier);
-    };
-    EXPECT_EXIT(quitOverASheet(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)

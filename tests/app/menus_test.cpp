@@ -1,16 +1,9 @@
-#include <tetrad/app/menus.h>
-
 #include "tests/support/windows.h"
-#include <tetrad/app/application.h>
 
-#include <QClipboard>
-#include <QLineEdit>
 #include <QMainWindow>
-#include <QMenuBar>
 #include <QMessageBox>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

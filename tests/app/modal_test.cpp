@@ -1,20 +1,9 @@
-#include <tetrad/app/modal.h>
-
 #include "tests/support/windows.h"
-#include <tetrad/app/application.h>
-#include <tetrad/app/menus.h>
 
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include <algorithm>
-
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

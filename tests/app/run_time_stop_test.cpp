@@ -1,14 +1,11 @@
 #include <tetrad/app/run_time_stop.h>
 
-#include "tests/app/alert_helper.h"
-#include <tetrad/app/app_delegate.h>
-#include <tetrad/app/application.h>
+#include "tests/support/windows.h"
 
 #include <csignal>
 #include <memory>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,18 +1,9 @@
-#include <tetrad/app/window_delegate.h>
-
 #include "runtime/app/windows/window_translator.h"
 #include "runtime/controls/events/current_event.h"
 #include "tests/support/windows.h"
-#include <tetrad/app/app_delegate.h>
-#include <tetrad/app/application.h>
-#include <tetrad/app/content_view.h>
 #include <tetrad/events/event_codes.h>
 
-#include <QScreen>
-#include <QWindow>
-
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

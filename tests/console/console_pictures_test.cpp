@@ -5,7 +5,6 @@
 #include <QRawFont>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -119,22 +118,6 @@ TEST(Pictures, ofTexts)
 }
 
 // clang-format on
-
-TEST(Pictures, ofUnderlinedAndStruckTexts)
-{
-    const auto inkOf = [](void (QFont::*set)(bool)) {
-        QFont font = TextAttributes().toMap().value(u"font"_s).value<QFont>();
-        (font.*set)(true);
-        ConsoleDocument page({48, 24});
-        page.setAttributes({{u"font"_s, font}});
-        page.addString(u"    \b"_s, {8, 4});
-        return pictureOf(page, 1, {48, 24});
-    };
-    ConsoleDocument empty({48, 24});
-    EXPECT_NE(inkOf(&QFont::setUnderline), pictureOf(empty, 1, {48, 24}));
-    EXPECT_NE(inkOf(&QFont::setStrikeOut), pictureOf(empty, 1, {48, 24}));
-    EXPECT_NE(inkOf(&QFont::setStrikeOut), inkOf(&QFont::setUnderline));
-}
 
 TEST(Emoji, areFoundInTheText)
 {

@@ -2,18 +2,14 @@
 
 #include "tests/console/printing.h"
 #include "tests/support/windows.h"
-#include <tetrad/app/content_view.h>
-#include <tetrad/app/popover.h>
 #include <tetrad/console/console_statements.h>
 
 #include <QAccessible>
 #include <QBackingStore>
-#include <QLineEdit>
 #include <QRandomGenerator>
 #include <QScrollBar>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include <tetrad/controls/table_view.h>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -79,10 +78,6 @@ TEST_F(Dispatch, ActionIsChosenByName)
         EXPECT_EQ(lastObject, tagFromObject(button));
         EXPECT_EQ(current, QEvent::MouseButtonRelease);
     }
-    QEvent own(QEvent::User);
-    CUI_EventSetEvent(&own);
-    EXPECT_EQ(CUI_EventEvent(), &own);
-    CUI_EventSetEvent(nullptr);
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 11); }), QString()) << "an id out of range needs no control";
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 1); }), u"Tag error.|Can't find view 6 in window 7."_s);
 }
@@ -124,6 +119,21 @@ TEST_F(Dispatch, SurvivesWhatACallbackDoes)
             EXPECT_TRUE(QTest::qWaitFor([&] { return isHarmed; }));
         }
     }
+}
+
+TEST(DialogEventRecord, ReleasesItsObjectsButTwo)
+{
+    CUI_DialogEvent record;
+    record.arrayObj = {1};
+    record.stringObj = u"text"_s;
+    record.colorObj = Qt::red;
+    record.object = record.tableColumnObj = 1;
+    record.urlObj = QUrl(u"a:b"_s);
+    record.caAction = u"kept"_s;
+    record.releaseObjects();
+    EXPECT_TRUE(record.arrayObj.isEmpty() && record.stringObj.isNull() && !record.colorObj.isValid());
+    EXPECT_FALSE(record.object.isValid() || record.tableColumnObj.isValid());
+    EXPECT_TRUE(record.urlObj == QUrl(u"a:b"_s) && record.caAction == u"kept"_s) << "programs rely on these";
 }
 
 TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)

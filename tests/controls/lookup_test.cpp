@@ -1,21 +1,15 @@
 #include "tests/controls/site_helper.h"
-#include <tetrad/app/content_view.h>
-#include <tetrad/app/popover.h>
-#include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/popovers.h>
 #include <tetrad/controls/toolbar.h>
-#include <tetrad/controls/view_lookup.h>
 #include <tetrad/controls/view_sc.h>
 
 #include <QAction>
 #include <QFrame>
-#include <QMenuBar>
 #include <QSlider>
 #include <QTabWidget>
 #include <QToolBar>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

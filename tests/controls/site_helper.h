@@ -1,13 +1,11 @@
 #pragma once
 
 #include "tests/support/windows.h"
-#include <tetrad/app/alerts.h>
 #include <tetrad/controls/control_statements.h>
 #include <tetrad/controls/view_lookup.h>
 #include <tetrad/events/event_codes.h>
 
 #include <QMessageBox>
-#include <QPushButton>
 
 namespace tetrad {
 

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "tests/controls/site_helper.h"
-#include <tetrad/app/content_view.h>
-#include <tetrad/app/popover.h>
 #include <tetrad/controls/outline_view.h>
 #include <tetrad/controls/panels.h>
 #include <tetrad/controls/popovers.h>
@@ -14,13 +12,9 @@
 #include <tetrad/controls/toolbar.h>
 
 #include <QAction>
-#include <QClipboard>
 #include <QColorDialog>
-#include <QContextMenuEvent>
 #include <QFontDialog>
 #include <QHeaderView>
-#include <QLineEdit>
-#include <QMenu>
 #include <QTabBar>
 #include <QToolBar>
 #include <QWheelEvent>

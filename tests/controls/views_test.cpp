@@ -1,7 +1,6 @@
 #include "tests/controls/views.h"
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,20 +1,32 @@
 #pragma once
 
 #include "tests/support/table.h"
+#include <tetrad/app/alert.h>
+#include <tetrad/app/alerts.h>
+#include <tetrad/app/app_delegate.h>
+#include <tetrad/app/application.h>
+#include <tetrad/app/content_view.h>
 #include <tetrad/app/menus.h>
 #include <tetrad/app/modal.h>
-#include <tetrad/app/window.h>
+#include <tetrad/app/popover.h>
+#include <tetrad/app/window_delegate.h>
 #include <tetrad/app/windows.h>
 #include <tetrad/events/dialog_event.h>
 #include <tetrad/strings/not_given.h>
 
 #include <QApplication>
-#include <QMenu>
-#include <QMouseEvent>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <utility>
@@ -113,6 +125,35 @@ void whenRuns(std::function<void(Widget *)> action)
             whenRuns<Widget>(action);
         }
     });
+}
+
+using Answer = std::function<void(Alert *)>;
+
+inline void whenAlertRuns(const Answer &action)
+{
+    whenRuns<Alert>(action);
+}
+
+/// Answers an alert with a click on one of its buttons.
+inline Answer clicks(int index)
+{
+    return [index](Alert *alert) { alert->alertButtons().at(index)->click(); };
+}
+
+inline QStringList titlesOf(const Alert *alert)
+{
+    QStringList titles;
+    for (const QPushButton *const button : alert->alertButtons()) {
+        titles << button->text().replace(u"&&"_s, u"&"_s);
+    }
+    return titles;
+}
+
+/// Whether every alert is off the screen again.
+inline bool noAlertLeft()
+{
+    const auto isLeft = [](const QWidget *each) { return qobject_cast<const Alert *>(each) && each->isVisible(); };
+    return !modalWindow() && std::ranges::none_of(QApplication::topLevelWidgets(), isLeft);
 }
 
 /// What the mouse does at a place of the widget, with the buttons that are down then.
