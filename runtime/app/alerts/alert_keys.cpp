@@ -107,7 +107,6 @@ void Alert::keyPressEvent(QKeyEvent *event)
 {
     // The base class would press a button that it takes for the one to cancel with.
     if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Cancel)) {
-        event->accept();
         return;
     }
     if (event->matches(QKeySequence::Copy)) {
