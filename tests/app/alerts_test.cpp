@@ -1,5 +1,4 @@
 #include "tests/support/windows.h"
-#include <tetrad/strings/error_object.h>
 
 #include <QCheckBox>
 #include <QLabel>

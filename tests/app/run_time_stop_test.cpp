@@ -1,5 +1,3 @@
-#include <tetrad/app/run_time_stop.h>
-
 #include "tests/support/windows.h"
 
 #include <csignal>

@@ -1,7 +1,6 @@
 #include "runtime/app/windows/window_translator.h"
 #include "runtime/controls/events/current_event.h"
 #include "tests/support/windows.h"
-#include <tetrad/events/event_codes.h>
 
 using namespace tetrad;
 
@@ -13,12 +12,6 @@ class WindowDelegate : public WindowTest
 {
 protected:
     void SetUp() override { openWindow(); }
-
-    void TearDown() override
-    {
-        CUI_WindowDelegateObj()->allWindowsCallback = nullptr;
-        WindowTest::TearDown();
-    }
 
     void openWindow()
     {

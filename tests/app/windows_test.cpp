@@ -251,6 +251,9 @@ TEST_F(Windows, PopoverIsNextToItsAnchor)
     EXPECT_EQ(CUI_PopoverShown(), &popover);
     EXPECT_EQ(popover.contentView()->size(), QSize(100, 50));
     EXPECT_EQ(popover.y(), view->mapToGlobal(QPoint(100, 110)).y());
+    Popover later(8, QSize(100, 50));
+    later.showRelativeTo(view, QRect(), Qt::BottomEdge);
+    EXPECT_EQ(CUI_PopoverShown(), &later);
 }
 
 } // namespace

@@ -143,15 +143,6 @@ TEST(Measuring, agreesWithLayingOut)
     }
 }
 
-TEST(Measuring, theBoundingRectangleIsNotWiderThanTheLimit)
-{
-    for (const QString &text : {QString(5000, u'x'), QString(5000, u'\u00e9'), u"ab "_s.repeated(3000)}) {
-        const double width = measureText(text, TextAttributes()).width;
-        EXPECT_LE(width, 10000);
-        EXPECT_GT(width, 9900);
-    }
-}
-
 TEST_F(Console, aPolylineIsASegmentPerPoint)
 {
     page.addLines({{1, 2}}, false);

@@ -95,17 +95,11 @@ TEST(Pictures, ofTexts)
          [](Page &page) { page.setFontSize(18); page.setColumnRow(2, 0.75); page.addString(block); }},
         {"tab", "............/........kk../........kk../........kk../............/............",
          [](Page &page) { page.addString(u"\t\u2588\b"_s, {4, 4}); }},
-        {"tab interval", "............/.......kk.../.......kk.../.......kk.../............/............",
-         [](Page &page) { page.setTabInterval(12); page.addString(u"\t\t\u2588\b"_s, {4, 4}); }},
         {"tab stops", "............/..kk.kk...../..kk.kk...../..kk.kk...../............/............",
          [](Page &page) {
              const ParagraphStyle style{.defaultTabInterval = 20, .tabStops = {8}};
              page.setAttributes({{u"paragraphStyle"_s, QVariant::fromValue(style)}});
              page.addString(u"\t\u2588\t\u2588\b"_s, {0, 4});
-         }},
-        {"aligned", "............/.....kk...kk/.....kk...kk/.....kk...kk/............/............",
-         [](Page &page) {
-             page.setAlignment(1); page.addString(block, {7, 4}); page.setAlignment(2); page.addString(block, {7, 4});
          }},
         {"upwards", "............/..kk......../..kk......../..kk......../..kk......../............",
          [](Page &page) { page.setFlipView(false); page.addString(block, {8, 4}); }},

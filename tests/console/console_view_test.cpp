@@ -1,8 +1,5 @@
-#include <tetrad/console/console_view.h>
-
 #include "tests/console/printing.h"
 #include "tests/support/windows.h"
-#include <tetrad/console/console_statements.h>
 
 #include <QAccessible>
 #include <QBackingStore>
@@ -362,19 +359,14 @@ TEST_F(Statements, onAGivenWindowActOnThatOne)
     Window *const given = open(1);
     open(2);
     CUI_PrintToWindowSetXY(given, 15, 110);
-    CUI_PrintToWindowTextSetFontName(given, u"DejaVu Serif"_s);
     CUI_PrintToWindowTextSetFontSize(given, 18);
     CUI_PrintToWindowTextSetForegroundColor(given, Qt::red);
-    CUI_PrintToWindowTextSetBackgroundColor(given, Qt::blue);
-    CUI_PrintToWindowTextSetAlignment(given, 3);
     CUI_PrintToWindowTextSetTabInterval(given, 50);
     EXPECT_EQ(CUI_PrintToWindowPrint(given, u"\t\b"_s), QPointF(65, 110));
     CUI_DrawToWindowRect(given, Qt::green, true, QRectF(1, 2, 3, 4));
     CUI_PrintToWindowView *const view = CUI_PrintToWindowViewObj(given);
-    EXPECT_EQ(view->dump(), u"text (15,110) \"\\x09\\x08\" size 18 color #ff0000 background #0000ff\n"
+    EXPECT_EQ(view->dump(), u"text (15,110) \"\\x09\\x08\" size 18 color #ff0000\n"
                             "rect (1,2) size 3x4 width 1 stroke #000000 fill #00ff00\n"_s);
-    EXPECT_EQ(view->items().at(0).attributes().fontName(), u"DejaVu Serif"_s);
-    EXPECT_EQ(view->currentAlignment(), 3);
     CUI_PrintToWindowClear(given);
     EXPECT_EQ(view->dump(), QString());
     EXPECT_EQ(outputView()->dump(), QString());

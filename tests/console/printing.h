@@ -59,8 +59,3 @@ inline void PrintTo(const QPointF &point, std::ostream *out)
 }
 
 } // namespace tetrad
-
-inline void PrintTo(const QImage &image, std::ostream *out)
-{
-    *out << image.width() << " x " << image.height() << " pixels";
-}

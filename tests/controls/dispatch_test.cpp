@@ -1,6 +1,4 @@
 #include "tests/controls/site_helper.h"
-#include <tetrad/controls/control_target.h>
-#include <tetrad/controls/table_view.h>
 
 using namespace tetrad;
 
@@ -18,15 +16,7 @@ qint64 allCallback(Tag tag, Tag wndTag, Tag obj)
     return dialogCalls.size();
 }
 
-class Dispatch : public SiteTest
-{
-protected:
-    void TearDown() override
-    {
-        CUI_ControlTargetObj()->allControlsCallback = nullptr;
-        SiteTest::TearDown();
-    }
-};
+using Dispatch = SiteTest;
 
 TEST_F(Dispatch, PrefersTheControlsOwnCallback)
 {
@@ -57,6 +47,7 @@ TEST_F(Dispatch, PrefersTheControlsOwnCallback)
         EXPECT_EQ(CUI_OutputWindowTag(), wndTag) << "the control's own number";
         EXPECT_EQ(takeSiteCalls(), delegateEvent);
     }
+    CUI_ControlTargetObj()->allControlsCallback = nullptr;
 }
 
 TEST_F(Dispatch, ActionIsChosenByName)

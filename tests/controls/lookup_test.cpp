@@ -1,7 +1,4 @@
 #include "tests/controls/site_helper.h"
-#include <tetrad/controls/popovers.h>
-#include <tetrad/controls/toolbar.h>
-#include <tetrad/controls/view_sc.h>
 
 #include <QAction>
 #include <QFrame>
@@ -89,14 +86,9 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPosition)
     EXPECT_EQ(CUI_ViewSubviewWithTag(content, 0), untagged) << "a view without a tag counts as 0";
     box->raise();
     EXPECT_EQ(CUI_ViewWithTag(3), shallow) << "the order is that of the subviews now";
-    const Table<QWidget *, Tag> reported = {
-        {"content view", content, contentViewTag},
-        {"visual-effect view, found by its identifier", effect, 70},
-        {"plain view", plain, 7},
-    };
-    for (const auto &[name, view, tag] : reported) {
+    for (const auto &[view, tag] : {std::pair(content, contentViewTag), {effect, Tag(70)}, {plain, Tag(7)}}) {
         setObjectTag(view, 70);
-        EXPECT_EQ(CUI_ViewTag(view), tag) << name;
+        EXPECT_EQ(CUI_ViewTag(view), tag);
     }
 }
 

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "tests/support/windows.h"
-#include <tetrad/controls/control_statements.h>
-#include <tetrad/controls/view_lookup.h>
-#include <tetrad/events/event_codes.h>
 
 #include <QMessageBox>
 
@@ -89,17 +86,6 @@ protected:
         m_content = open(7)->contentView();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_content->window()));
         CUI_SetOnDialogFunction(recordSite);
-    }
-
-    /// The view with this tag, shown, and with nothing recorded yet.
-    template <typename View>
-    View *settled(Tag tag)
-    {
-        auto *const view = qobject_cast<View *>(CUI_ViewWithTag(tag));
-        EXPECT_TRUE(view);
-        takeSiteCalls();
-        CUI_OutputWindowSetTag(0);
-        return view;
     }
 
     /// Makes an object for each event, brings its events about, and harms it at that one, which must come and be

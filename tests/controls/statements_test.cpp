@@ -1,8 +1,4 @@
 #include "tests/controls/site_helper.h"
-#include <tetrad/controls/mda.h>
-#include <tetrad/controls/menu_items.h>
-#include <tetrad/controls/panels.h>
-#include <tetrad/controls/timers.h>
 
 #include <QDateEdit>
 #include <QFileDialog>

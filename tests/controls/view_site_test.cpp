@@ -1,6 +1,5 @@
 #include "runtime/controls/events/current_event.h"
 #include "tests/controls/site_helper.h"
-#include <tetrad/controls/view_sc.h>
 
 #include <QMimeData>
 #include <QPainter>
@@ -21,7 +20,10 @@ protected:
     ViewSC *makeView(Tag tag = 5)
     {
         CUI_ViewSubclass(tag, QRectF(10, tag == 5 ? 10 : 100, 100, 80));
-        return settled<ViewSC>(tag);
+        takeSiteCalls();
+        auto *const view = qobject_cast<ViewSC *>(CUI_ViewWithTag(tag));
+        CUI_OutputWindowSetTag(0);
+        return view;
     }
 
     QPointer<ViewSC> m_view;

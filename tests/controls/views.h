@@ -1,15 +1,6 @@
 #pragma once
 
 #include "tests/controls/site_helper.h"
-#include <tetrad/controls/outline_view.h>
-#include <tetrad/controls/panels.h>
-#include <tetrad/controls/popovers.h>
-#include <tetrad/controls/split_view.h>
-#include <tetrad/controls/tab_view.h>
-#include <tetrad/controls/table_view.h>
-#include <tetrad/controls/text_view.h>
-#include <tetrad/controls/token_field.h>
-#include <tetrad/controls/toolbar.h>
 
 #include <QAction>
 #include <QColorDialog>

@@ -1,18 +1,7 @@
 #pragma once
 
 #include "tests/support/table.h"
-#include <tetrad/app/alert.h>
-#include <tetrad/app/alerts.h>
-#include <tetrad/app/app_delegate.h>
-#include <tetrad/app/application.h>
-#include <tetrad/app/content_view.h>
-#include <tetrad/app/menus.h>
-#include <tetrad/app/modal.h>
-#include <tetrad/app/popover.h>
-#include <tetrad/app/window_delegate.h>
-#include <tetrad/app/windows.h>
-#include <tetrad/events/dialog_event.h>
-#include <tetrad/strings/not_given.h>
+#include <tetrad/tetrad.h>
 
 #include <QApplication>
 #include <QClipboard>
