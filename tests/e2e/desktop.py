@@ -137,10 +137,6 @@ class Desktop:
     def click(self, x, y):
         self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 
-    def drag(self, start, end):
-        (x, y), (to_x, to_y) = [map(str, place) for place in (start, end)]
-        self.run("xdotool", "mousemove", x, y, "mousedown", "1", "mousemove", to_x, to_y, "mouseup", "1")
-
     def resize(self, window, width, height):
         self.run("xdotool", "windowsize", "--sync", window, str(width), str(height))
 

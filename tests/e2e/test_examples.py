@@ -43,7 +43,6 @@ SCENES = [
         *[("wait_for_line", f"event {event}, tag 15, window 1: bool 0, long 1, .*") for event in (1600, 1601, 1602)],
         ("click", "check box", "On the second page"),
         ("wait_for_line", "event 1, tag 17, window 1: value 1, text On the second page"),
-        ("drag_the_divider",), *[("wait_for_line", f"event {event}, tag 18, window 1: .*") for event in (1510, 1502)],
         ("click", "table cell", "cell 1, 0"),
         *[("wait_for_line", f"event {event}, tag 21, window 1: bool 0, long 1, .*") for event in (1706, 1707)],
         ("press", "Up"), ("wait_for_line", "event 1707, tag 21, window 1: bool 0, long 0, .*"),
@@ -65,12 +64,6 @@ class TestExamples(PlayingTest):
 
     def wait_for_colours(self, colours):
         self.example.wait(lambda: colours <= set(self.desktop.colours(*self.example.console().rectangle)), f"{colours}")
-
-    def drag_the_divider(self):
-        left, right = (self.example.wait_for("push button", name).rectangle for name in ("Left", "Right"))
-        x, y = (left[0] + left[2] + right[0]) // 2, left[1] + left[3] // 2
-        self.desktop.drag((x, y), (x + 30, y))
-        self.example.wait(lambda: self.example.wait_for("push button", "Left").rectangle[2] == left[2] + 30, "a wider left")
 
     def test_form_keeps_an_address_book_until_the_next_start(self):
         book = Path(self.desktop.folder, "people.book")

@@ -20,15 +20,6 @@ _INDENT = "\n" + 18 * " "  # of the further lines of one entry
 _SPOKEN = re.compile(r"SPEECH OUTPUT: '(.*?)'(?:voice=\w+| )*(?:\{.*)?$", re.MULTILINE)
 
 
-def why_not():
-    """Why Orca cannot be started; None when it can."""
-    if not shutil.which("orca"):
-        return "Orca is not installed (apt-get install orca)"
-    if subprocess.run(["pgrep", "-u", str(os.getuid()), "-x", "orca"], stdout=subprocess.DEVNULL).returncode == 0:
-        return "an Orca runs already, and it allows no second one"
-    return None
-
-
 class Listener:
     def __init__(self, desktop):
         self._log = []
@@ -64,39 +55,39 @@ def spoken(puzzle):
     return f"These are your numbers, difficulty level {puzzle.level} {' '.join(map(str, puzzle.numbers))}."
 
 
-def listen(game, listener):
-    """Plays; yields each step, what was said after it and what should be said."""
-    again = prompt_after("1+2")
-    first = game.wait_for_puzzle()
-    yield ("The game starts", listener.wait_for(spoken(first)),
-           ["Tetrad Game frame.", f"{PROMPT} text.", INSTRUCTIONS + spoken(first)])
-    for step, prompt in [("1+2 and Return", PROMPT), ("1+2 and Return again", again)]:
-        game.answer("1+2", prompt)
-        yield step, listener.wait_for(WRONG), [f"{again} text.", WRONG]
-    game.answer("s", again)
-    second = game.wait_for_puzzle(other_than=first)
-    yield "S and Return", listener.wait_for(spoken(second)), [f"{PROMPT} text.", spoken(second)]
-    game.desktop.press("F6")
-    yield "F6", listener.wait_for(spoken(second)), ["Console read only text.", INSTRUCTIONS + spoken(second)]
-    game.desktop.press("F6")
-    yield "F6 again", listener.wait_for(spoken(second)), [f"{PROMPT} text.", spoken(second)]
-    game.answer(solve(second.numbers))
-    yield "A solution and Return", listener.wait_for("Quit push button."), ["alert Correct You won!", "Quit push button."]
-    # Its name can be read only while the alert is there.
-    game.desktop.press("Tab")
-    chosen = listener.wait_for("Play Again push button.")
-    game.desktop.press("space")
-    third = game.wait_for_puzzle(other_than=second)
-    yield ("Tab and the space bar", chosen + listener.wait_for(spoken(third)),
-           ["Play Again push button.", "Tetrad Game frame.", f"{PROMPT} text.", spoken(third)])
-
-
 class TestListening(PlayingTest):
+    def setUp(self):
+        if not shutil.which("orca") or subprocess.run(["pgrep", "-u", str(os.getuid()), "-x", "orca"]).returncode == 0:
+            self.skipTest("Orca is not installed (apt-get install orca), or one runs already, and it allows no second one")
+        super().setUp()
+        self.listener = Listener(self.desktop)
+
+    def hears(self, after, *expected, end=None):
+        """What was said after a step, once something ends with the end."""
+        said = self.listener.wait_for(end or expected[-1])
+        print(after, *said, sep="\n    ", flush=True)
+        with self.subTest(after):
+            self.assertEqual(said, list(expected))
+
     def test_what_is_new_is_said_once_and_nothing_old(self):
-        if why_not():
-            self.skipTest(why_not())
-        listener = Listener(self.desktop)
-        for step, said, expected in listen(self.start(), listener):
-            print(step, *said, sep="\n    ", flush=True)
-            with self.subTest(step):
-                self.assertEqual(said, expected)
+        again = prompt_after("1+2")
+        game = self.start()
+        first = game.wait_for_puzzle()
+        self.hears("the start", "Tetrad Game frame.", f"{PROMPT} text.", INSTRUCTIONS + spoken(first), end=spoken(first))
+        for prompt in (PROMPT, again):
+            game.answer("1+2", prompt)
+            self.hears("1+2 and Return", f"{again} text.", WRONG)
+        game.answer("s", again)
+        second = game.wait_for_puzzle(other_than=first)
+        self.hears("S and Return", f"{PROMPT} text.", spoken(second))
+        self.desktop.press("F6")
+        self.hears("F6", "Console read only text.", INSTRUCTIONS + spoken(second), end=spoken(second))
+        self.desktop.press("F6")
+        self.hears("F6 again", f"{PROMPT} text.", spoken(second))
+        game.answer(solve(second.numbers))
+        self.hears("a solution and Return", "alert Correct You won!", "Quit push button.")
+        self.desktop.press("Tab")
+        self.hears("Tab", "Play Again push button.")
+        self.desktop.press("space")
+        third = game.wait_for_puzzle(other_than=second)
+        self.hears("the space bar", "Tetrad Game frame.", f"{PROMPT} text.", spoken(third))

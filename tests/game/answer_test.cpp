@@ -8,7 +8,6 @@
 #include <random>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 

@@ -4,7 +4,6 @@
 #include "tests/support/table.h"
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 
 using namespace tetrad;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -3,12 +3,10 @@
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/input/key_input.h>
 #include <tetrad/input/line_input.h>
-#include <tetrad/strings/not_given.h>
 
 #include <QLabel>
 
 using namespace tetrad;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -2,15 +2,12 @@
 
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/input/line_input.h>
-#include <tetrad/strings/not_given.h>
 
 #include <QClipboard>
 #include <QLineEdit>
-#include <QMenu>
 #include <QWindow>
 
 using namespace tetrad;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

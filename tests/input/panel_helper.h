@@ -8,8 +8,6 @@
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 /// Types what an input method composed.
 inline void compose(QWidget *target, const QString &text)
 {

@@ -9,7 +9,6 @@
 #include <string>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -9,7 +9,6 @@
 #include <limits>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

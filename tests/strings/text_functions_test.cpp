@@ -5,7 +5,6 @@
 #include <QVariant>
 
 using namespace tetrad;
-using namespace Qt::StringLiterals;
 
 namespace {
 

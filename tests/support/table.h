@@ -16,6 +16,8 @@ inline void PrintTo(const QString &text, std::ostream *out)
 
 namespace tetrad {
 
+using namespace Qt::StringLiterals;
+
 /// Cases of the same shape: in each row what it shows, then its columns, which the loop over the rows names.
 template <typename... Columns>
 using Table = std::vector<std::tuple<const char *, Columns...>>;

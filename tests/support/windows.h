@@ -22,8 +22,6 @@
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 /// The window statement with a place alone, carried out in full.
 inline Window *open(Tag tag, const QRectF &rect = QRectF(40, 60, 300, 200))
 {
