@@ -361,14 +361,14 @@ TEST_F(Views, SurviveTheirDeletionReloadingOrLosingAPageAtEveryEvent)
          {}},
     };
     for (const auto &[victim, events, happenings, other] : rows) {
-        const auto renew = [&] {
+        const auto renew = [&, victim = victim] {
             TearDown();
             SetUp();
             return victim();
         };
         expectSurvival(events, renew, happenings);
         if (other) {
-            expectSurvival(events, renew, happenings, [&](QObject *) { other(); });
+            expectSurvival(events, renew, happenings, [other = other](QObject *) { other(); });
         }
     }
 }
