@@ -52,30 +52,6 @@ TEST_F(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
     EXPECT_FALSE(fire([](QTimer *timer) { return delete timer, true; }));
 }
 
-TEST_F(AppDelegate, QuestionsHaveAPresetAnswerThatTheProgramMayChange)
-{
-    using App = CUI_AppDelegate;
-    const Table<qint64, bool, std::function<bool(App &)>> rows = {
-        {"end after the last window", 4, false, &App::applicationShouldTerminateAfterLastWindowClosed},
-        {"reopened", 16, true, [](App &it) { return it.applicationShouldHandleReopen(true); }},
-        {"file without a window", 20, false, [](App &it) { return it.openFileWithoutUI(u"f"_s); }},
-        {"temporary file", 21, false, [](App &it) { return it.openTempFile(u"f"_s); }},
-        {"untitled file", 22, false, &App::applicationOpenUntitledFile},
-        {"whether untitled", 23, false, &App::applicationShouldOpenUntitledFile},
-        {"print", 24, true, [](App &it) { return it.printFile(u"f"_s); }},
-        {"user activity", 31, false, [](App &it) { return it.willContinueUserActivityWithType(u"a"_s); }},
-    };
-    for (const auto &[name, code, preset, ask] : rows) {
-        App own;
-        own.boolVal = !preset;
-        EXPECT_EQ(ask(own), preset) << name;
-        answer = [&own](qint64) { own.boolVal = !own.boolVal; };
-        EXPECT_NE(ask(own), preset) << name;
-        EXPECT_EQ(std::exchange(seen, {}), (QList<qint64>{code, code})) << name;
-        answer = nullptr;
-    }
-}
-
 void startAndMeetEvents()
 {
     CocoaInit();

@@ -112,21 +112,6 @@ TEST_F(Dispatch, SurvivesWhatACallbackDoes)
     }
 }
 
-TEST(DialogEventRecord, ReleasesItsObjectsButTwo)
-{
-    CUI_DialogEvent record;
-    record.arrayObj = {1};
-    record.stringObj = u"text"_s;
-    record.colorObj = Qt::red;
-    record.object = record.tableColumnObj = 1;
-    record.urlObj = QUrl(u"a:b"_s);
-    record.caAction = u"kept"_s;
-    record.releaseObjects();
-    EXPECT_TRUE(record.arrayObj.isEmpty() && record.stringObj.isNull() && !record.colorObj.isValid());
-    EXPECT_FALSE(record.object.isValid() || record.tableColumnObj.isValid());
-    EXPECT_TRUE(record.urlObj == QUrl(u"a:b"_s) && record.caAction == u"kept"_s) << "programs rely on these";
-}
-
 TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
 {
     TableViewSC table;
