@@ -180,9 +180,10 @@ class TestStranger(PlayingTest):
                 self.start(rule, ONE)
                 bar = self.numbers("chrome", 1)[0]
                 x, y, width, height = self.frame()
-                self.desktop.run("xdotool", "mousemove", str(x + width - 1), str(y + height - 1), "mousedown", "1")
-                for _ in range(10):
-                    self.desktop.run("xdotool", "mousemove_relative", "--", *map(str, step))
+                x, y = x + width - 1, y + height - 1
+                self.desktop.run("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
+                for moved in range(1, 11):
+                    self.desktop.run("xdotool", "mousemove", str(x + moved * step[0]), str(y + moved * step[1]))
                     self.settle()
                 self.desktop.run("xdotool", "mouseup", "1")
                 self.settle()

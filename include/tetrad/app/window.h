@@ -56,7 +56,7 @@ public:
     /// The width of the window's frame at each edge, estimated as long as no window manager has added it.
     QMargins frameMargins() const;
 
-    /// The content may be given no other size until this is called again, with an invalid one.
+    /// The content may be given no other width and height until this is called again; a negative one is free.
     void holdContentSize(const QSizeF &size);
 
     /// WindowStyle bits.

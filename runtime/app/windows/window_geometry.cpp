@@ -61,10 +61,12 @@ void Window::moveBelowScreenTop(QRect geometry)
 void Window::holdContentSize(const QSizeF &size)
 {
     liftSizeLimits(this);
-    if (size.isValid()) {
-        setFixedSize(size.toSize() + m_chrome);
-    } else {
-        limitDrags();
+    limitDrags();
+    if (size.width() >= 0) {
+        setFixedWidth(qRound(size.width()) + m_chrome.width());
+    }
+    if (size.height() >= 0) {
+        setFixedHeight(qRound(size.height()) + m_chrome.height());
     }
 }
 

@@ -179,7 +179,7 @@ void WindowTranslator::report(bool userMoved, bool userResized)
 }
 
 // Queries the delegate once for each size that is offered. A window manager may go on with its own size as long as the
-// user drags, so the window is held at another size in the answer until the drag is over.
+// user drags, so the window is held at another width or height in the answer until the drag is over.
 void WindowTranslator::confirmSize(const QSizeF &size)
 {
     const QPointer<Window> window = m_window;
@@ -193,8 +193,13 @@ void WindowTranslator::confirmSize(const QSizeF &size)
     }
     m_liveResize.start(liveResizePause_ms, window);
     if (answer.isValid() && answer != size) {
-        m_held = answer;
-        window->holdContentSize(answer);
+        if (answer.width() != size.width()) {
+            m_held.setWidth(answer.width());
+        }
+        if (answer.height() != size.height()) {
+            m_held.setHeight(answer.height());
+        }
+        window->holdContentSize(m_held);
         reportProgramsChange();
     } else {
         notify(window, {&CUI_WindowDelegate::windowDidResize});
@@ -203,7 +208,7 @@ void WindowTranslator::confirmSize(const QSizeF &size)
 
 void WindowTranslator::endLiveResize()
 {
-    if (std::exchange(m_held, QSizeF()).isValid()) {
+    if (std::exchange(m_held, QSizeF()) != QSizeF()) {
         m_window->holdContentSize(QSizeF());
     }
     notify(m_window, {&CUI_WindowDelegate::windowDidEndLiveResize});

@@ -54,7 +54,7 @@ private:
     QDeadlineTimer m_spreading = QDeadlineTimer(0);
     // The window's geometries that the program requested, newest first.
     QList<QRect> m_requested;
-    // The size in the answer that the window is held at; invalid when it is not.
+    // The width and height in the answer that the window is held at; negative where it is free.
     QSizeF m_held;
     bool m_isSettled = false;
     // The content rectangle last reported; null until the window was first shown.
