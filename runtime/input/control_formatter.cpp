@@ -64,7 +64,7 @@ QString CUI_ControlFormatter::formatted(const QString &proposal) const
 {
     QList<uint> characters = proposal.toUcs4();
     characters.removeIf([this](char32_t character) { return m_refused.contains(character); });
-    const QString accepted = textOf(characters);
+    QString accepted = textOf(characters);
     switch (m_caseOption) {
     case caseForceLower:
         return accepted.toLower();

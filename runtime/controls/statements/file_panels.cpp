@@ -121,13 +121,16 @@ private:
     void askSoon(const QModelIndex &parent, int first, int last)
     {
         for (int row = first; row <= last; ++row) {
-            callSoon(this, [this, file = QPersistentModelIndex(m_files->index(row, 0, parent))] {
-                const QPointer<FilePanel> guard(this);
-                const QString path = pathOf(file);
-                if (QFileInfo(path).isFile() && !asks(filePanelEventShouldEnableUrl, path) && guard) {
-                    m_files->disable(file);
-                }
-            });
+            callSoon(this, [this, file = QPersistentModelIndex(m_files->index(row, 0, parent))] { ask(file); });
+        }
+    }
+
+    void ask(const QPersistentModelIndex &file)
+    {
+        const QPointer<FilePanel> guard(this);
+        const QString path = pathOf(file);
+        if (QFileInfo(path).isFile() && !asks(filePanelEventShouldEnableUrl, path) && guard) {
+            m_files->disable(file);
         }
     }
 
@@ -151,7 +154,7 @@ QString chosenFile(Tag tag, QFileDialog::AcceptMode mode, const QString &title, 
         panel->setDefaultSuffix(kinds.section(u';', 0, 0));
     }
     const bool isChosen = runModalForWindow(panel) == modalStopped && panel;
-    const QString chosen = isChosen ? panel->selectedFiles().value(0) : QString();
+    QString chosen = isChosen ? panel->selectedFiles().value(0) : QString();
     delete panel;
     return chosen;
 }
