@@ -210,6 +210,17 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
         const QString path = statement(9, u"Choose"_s, folder.path(), u"txt;md"_s);
         EXPECT_EQ(path, chosen.isEmpty() ? QString() : folder.filePath(chosen));
     }
+    FilePanelSetAsks(9, true);
+    for (const qint64 dangerous : {2901, 2905, 2906}) {
+        atEvent = [dangerous](qint64 event) {
+            answer(true);
+            delete (event == dangerous ? objectFromTag(lastObject) : nullptr);
+        };
+        whenRuns<QFileDialog>([dangerous](QFileDialog *panel) {
+            QTest::keyClick(panel, dangerous == 2905 ? Qt::Key_Shift : Qt::Key_Return);
+        });
+        EXPECT_EQ(CUI_SavePanel(9, {}, folder.filePath(u"e"_s), {}), QString()) << dangerous;
+    }
 }
 
 TEST(MDAObj, GrowsAndKeepsElementsAndKeys)
