@@ -91,13 +91,16 @@ TEST(Answer, OfEverySolutionIsCorrectAndOfADamagedOneIsNot)
 TEST(Answer, OfAnyTextHasOneOutcome)
 {
     std::mt19937 random(1); // NOLINT(bugprone-random-generator-seed): the same texts every time
+    const auto below = [&random](qsizetype bound) {
+        return static_cast<qsizetype>(random() % static_cast<std::mt19937::result_type>(bound));
+    };
     const QByteArray bytes = "0123456789+-*/().xqs #%\t\xC3\xA9\xF0";
     const QMap<QString, QStringList> solved = solvedPuzzles();
     for (int i = 0; i < 50'000; ++i) {
-        const auto position = static_cast<qsizetype>(random() % puzzleCount);
+        const auto position = below(puzzleCount);
         QByteArray input = char(position) + solved[puzzleText(position)].first().toLatin1();
-        for (auto changes = random() % 12; changes > 0; --changes) {
-            input.replace(1 + random() % input.size(), random() % 4, bytes.mid(random() % bytes.size(), random() % 3));
+        for (qsizetype changes = below(12); changes > 0; --changes) {
+            input.replace(1 + below(input.size()), below(4), bytes.mid(below(bytes.size()), below(3)));
         }
         LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t *>(input.constData()), static_cast<size_t>(input.size()));
     }
