@@ -109,45 +109,45 @@ void setDialogEventValue(Value value)
 /// The functions below each read or write one field of the shared record and do nothing else: `bool DialogEventBool()`,
 /// `void DialogEventSetBool(bool value)`. A view, menu or pasteboard is a `QObject *`.
 
-inline constexpr auto DialogEventBool = detail::dialogEventValue<&CUI_DialogEvent::boolVal>;
-inline constexpr auto DialogEventSetBool = detail::setDialogEventValue<&CUI_DialogEvent::boolVal>;
-inline constexpr auto DialogEventLong = detail::dialogEventValue<&CUI_DialogEvent::longVal>;
-inline constexpr auto DialogEventSetLong = detail::setDialogEventValue<&CUI_DialogEvent::longVal>;
-inline constexpr auto DialogEventFloat = detail::dialogEventValue<&CUI_DialogEvent::floatVal>;
-inline constexpr auto DialogEventSetFloat = detail::setDialogEventValue<&CUI_DialogEvent::floatVal>;
-inline constexpr auto DialogEventDouble = detail::dialogEventValue<&CUI_DialogEvent::doubleVal>;
-inline constexpr auto DialogEventSetDouble = detail::setDialogEventValue<&CUI_DialogEvent::doubleVal>;
+inline const auto DialogEventBool = detail::dialogEventValue<&CUI_DialogEvent::boolVal>;
+inline const auto DialogEventSetBool = detail::setDialogEventValue<&CUI_DialogEvent::boolVal>;
+inline const auto DialogEventLong = detail::dialogEventValue<&CUI_DialogEvent::longVal>;
+inline const auto DialogEventSetLong = detail::setDialogEventValue<&CUI_DialogEvent::longVal>;
+inline const auto DialogEventFloat = detail::dialogEventValue<&CUI_DialogEvent::floatVal>;
+inline const auto DialogEventSetFloat = detail::setDialogEventValue<&CUI_DialogEvent::floatVal>;
+inline const auto DialogEventDouble = detail::dialogEventValue<&CUI_DialogEvent::doubleVal>;
+inline const auto DialogEventSetDouble = detail::setDialogEventValue<&CUI_DialogEvent::doubleVal>;
 
-inline constexpr auto DialogEventRect = detail::dialogEventValue<&CUI_DialogEvent::rectVal>;
+inline const auto DialogEventRect = detail::dialogEventValue<&CUI_DialogEvent::rectVal>;
 void DialogEventSetNSRect(double x, double y, double width, double height);
 void DialogEventSetNSPoint(double x, double y);
-inline constexpr auto DialogEventNSSize = detail::dialogEventValue<&CUI_DialogEvent::sizeVal>;
+inline const auto DialogEventNSSize = detail::dialogEventValue<&CUI_DialogEvent::sizeVal>;
 void DialogEventSetNSSize(double width, double height);
 void DialogEventSetNSRange(quint64 location, quint64 length);
 
-inline constexpr auto DialogEventNSArray = detail::dialogEventValue<&CUI_DialogEvent::arrayObj>;
-inline constexpr auto DialogEventNSURL = detail::dialogEventValue<&CUI_DialogEvent::urlObj>;
-inline constexpr auto DialogEventSetOtherNSURL = detail::setDialogEventValue<&CUI_DialogEvent::otherUrlObj>;
-inline constexpr auto DialogEventColor = detail::dialogEventValue<&CUI_DialogEvent::colorObj>;
-inline constexpr auto DialogEventSetColor = detail::setDialogEventValue<&CUI_DialogEvent::colorObj>;
-inline constexpr auto DialogEventNSObject = detail::dialogEventValue<&CUI_DialogEvent::object>;
-inline constexpr auto DialogEventSetNSObject = detail::setDialogEventValue<&CUI_DialogEvent::object>;
+inline const auto DialogEventNSArray = detail::dialogEventValue<&CUI_DialogEvent::arrayObj>;
+inline const auto DialogEventNSURL = detail::dialogEventValue<&CUI_DialogEvent::urlObj>;
+inline const auto DialogEventSetOtherNSURL = detail::setDialogEventValue<&CUI_DialogEvent::otherUrlObj>;
+inline const auto DialogEventColor = detail::dialogEventValue<&CUI_DialogEvent::colorObj>;
+inline const auto DialogEventSetColor = detail::setDialogEventValue<&CUI_DialogEvent::colorObj>;
+inline const auto DialogEventNSObject = detail::dialogEventValue<&CUI_DialogEvent::object>;
+inline const auto DialogEventSetNSObject = detail::setDialogEventValue<&CUI_DialogEvent::object>;
 
-inline constexpr auto DialogEventNSMenu = detail::dialogEventValue<&CUI_DialogEvent::menuObj, QObject *>;
-inline constexpr auto DialogEventSetNSMenu = detail::setDialogEventValue<&CUI_DialogEvent::menuObj, QObject *>;
+inline const auto DialogEventNSMenu = detail::dialogEventValue<&CUI_DialogEvent::menuObj, QObject *>;
+inline const auto DialogEventSetNSMenu = detail::setDialogEventValue<&CUI_DialogEvent::menuObj, QObject *>;
 /// Another name for DialogEventSetNSMenu.
-inline constexpr auto DialogEventSetMenu = DialogEventSetNSMenu;
-inline constexpr auto DialogEventView = detail::dialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
-inline constexpr auto DialogEventSetView = detail::setDialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
-inline constexpr auto DialogEventSetPasteboard =
+inline const auto DialogEventSetMenu = DialogEventSetNSMenu;
+inline const auto DialogEventView = detail::dialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
+inline const auto DialogEventSetView = detail::setDialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
+inline const auto DialogEventSetPasteboard =
     detail::setDialogEventValue<&CUI_DialogEvent::pasteboardObj, QObject *>;
 
-inline constexpr auto DialogEventSetContext = detail::setDialogEventValue<&CUI_DialogEvent::context>;
-inline constexpr auto DialogEventSetDraggingInfo = detail::setDialogEventValue<&CUI_DialogEvent::dragInfo>;
-inline constexpr auto DialogEventTintConfiguration = detail::dialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
-inline constexpr auto DialogEventSetTintConfiguration =
+inline const auto DialogEventSetContext = detail::setDialogEventValue<&CUI_DialogEvent::context>;
+inline const auto DialogEventSetDraggingInfo = detail::setDialogEventValue<&CUI_DialogEvent::dragInfo>;
+inline const auto DialogEventTintConfiguration = detail::dialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
+inline const auto DialogEventSetTintConfiguration =
     detail::setDialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
-inline constexpr auto DialogEventSetTableColumn = detail::setDialogEventValue<&CUI_DialogEvent::tableColumnObj>;
+inline const auto DialogEventSetTableColumn = detail::setDialogEventValue<&CUI_DialogEvent::tableColumnObj>;
 
 /// The platform event whose callback is running, or null. Not owned, and valid only until that
 /// callback returns.
