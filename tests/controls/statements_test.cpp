@@ -104,6 +104,8 @@ TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
         {"tag 0", [] { CUI_Button(0, u"x"_s, {}); }, u"Tag error.|A view needs a tag from 1 to 1000000, not 0."_s},
         {"content view", [] { ViewRemoveFromSuperview(contentViewTag); },
          u"Tag error.|A content view stays in its window."_s},
+        {"text of no control, once", [] { ControlSetStringValue(88, ControlStringValue(5)); },
+         u"Tag error.|Can't find view 88 in window 7."_s},
         {"item of no menu", [] { CUI_Menu(0, 1, 0, {}, {}); }, u"Tag error.|There can be no item 1 in a menu 0."_s},
     };
     for (const auto &[name, statement, alert] : wrong) {

@@ -63,21 +63,14 @@ QWidget *viewWithValue(Tag tag)
     return bar ? bar : ControlWithTag(tag);
 }
 
-bool isButton(Tag tag)
+QVariant value(const QWidget *control, Property property)
 {
-    return qobject_cast<QAbstractButton *>(viewWithValue(tag));
-}
-
-QVariant value(Tag tag, Property property)
-{
-    const QWidget *const control = viewWithValue(tag);
     const char *const name = propertyName(control, property);
     return name ? control->property(name) : QVariant();
 }
 
-void setValue(Tag tag, Property property, const QVariant &value)
+void setValue(QWidget *control, Property property, const QVariant &value)
 {
-    QWidget *const control = viewWithValue(tag);
     if (const char *const name = propertyName(control, property)) {
         const QSignalBlocker blocker(control);
         // A conversion to int would wrap.
@@ -90,41 +83,44 @@ void setValue(Tag tag, Property property, const QVariant &value)
 
 QString ControlStringValue(Tag tag)
 {
-    const QString text = value(tag, &ValueProperties::text).toString();
-    return isButton(tag) ? unescapedMnemonics(text) : text;
+    const QWidget *const control = viewWithValue(tag);
+    const QString text = value(control, &ValueProperties::text).toString();
+    return qobject_cast<const QAbstractButton *>(control) ? unescapedMnemonics(text) : text;
 }
 
 void ControlSetStringValue(Tag tag, const QString &text)
 {
-    setValue(tag, &ValueProperties::text, isButton(tag) ? escapedMnemonics(text) : text);
+    QWidget *const control = viewWithValue(tag);
+    const bool isButton = qobject_cast<QAbstractButton *>(control);
+    setValue(control, &ValueProperties::text, isButton ? escapedMnemonics(text) : text);
 }
 
 double ControlDoubleValue(Tag tag)
 {
-    const QVariant number = value(tag, &ValueProperties::number);
+    const QVariant number = value(viewWithValue(tag), &ValueProperties::number);
     return number.typeId() == QMetaType::QString ? StringDoubleValue(number.toString()) : number.toDouble();
 }
 
 void ControlSetDoubleValue(Tag tag, double value)
 {
-    setValue(tag, &ValueProperties::number, value);
+    setValue(viewWithValue(tag), &ValueProperties::number, value);
 }
 
 qint64 ControlIntegerValue(Tag tag)
 {
-    const QVariant number = value(tag, &ValueProperties::number);
+    const QVariant number = value(viewWithValue(tag), &ValueProperties::number);
     return number.typeId() == QMetaType::QString ? StringIntegerValue(number.toString())
                                                  : saturatedTo<qint64>(number.toDouble());
 }
 
 void ControlSetIntegerValue(Tag tag, qint64 value)
 {
-    setValue(tag, &ValueProperties::number, value);
+    setValue(viewWithValue(tag), &ValueProperties::number, value);
 }
 
 QStringList ControlItems(Tag tag)
 {
-    QStringList items = value(tag, &ValueProperties::items).toStringList();
+    QStringList items = value(viewWithValue(tag), &ValueProperties::items).toStringList();
     const auto *const box = qobject_cast<QComboBox *>(CUI_ViewWithTag(tag));
     for (int index = 0; box && index < box->count(); ++index) {
         items << box->itemText(index);
@@ -136,7 +132,7 @@ void ControlSetItems(Tag tag, const QStringList &items)
 {
     auto *const box = qobject_cast<QComboBox *>(CUI_ViewWithTag(tag));
     if (!box) {
-        setValue(tag, &ValueProperties::items, items);
+        setValue(viewWithValue(tag), &ValueProperties::items, items);
         return;
     }
     const QSignalBlocker blocker(box);
