@@ -139,14 +139,12 @@ inline const auto DialogEventSetNSMenu = detail::setDialogEventValue<&CUI_Dialog
 inline const auto DialogEventSetMenu = DialogEventSetNSMenu;
 inline const auto DialogEventView = detail::dialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
 inline const auto DialogEventSetView = detail::setDialogEventValue<&CUI_DialogEvent::viewObj, QObject *>;
-inline const auto DialogEventSetPasteboard =
-    detail::setDialogEventValue<&CUI_DialogEvent::pasteboardObj, QObject *>;
+inline const auto DialogEventSetPasteboard = detail::setDialogEventValue<&CUI_DialogEvent::pasteboardObj, QObject *>;
 
 inline const auto DialogEventSetContext = detail::setDialogEventValue<&CUI_DialogEvent::context>;
 inline const auto DialogEventSetDraggingInfo = detail::setDialogEventValue<&CUI_DialogEvent::dragInfo>;
 inline const auto DialogEventTintConfiguration = detail::dialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
-inline const auto DialogEventSetTintConfiguration =
-    detail::setDialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
+inline const auto DialogEventSetTintConfiguration = detail::setDialogEventValue<&CUI_DialogEvent::tintConfigurationObj>;
 inline const auto DialogEventSetTableColumn = detail::setDialogEventValue<&CUI_DialogEvent::tableColumnObj>;
 
 /// The platform event whose callback is running, or null. Not owned, and valid only until that
