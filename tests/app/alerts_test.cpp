@@ -25,9 +25,9 @@ void pressKey(Alert *alert, Qt::Key key, bool held = false, Qt::KeyboardModifier
     }
 }
 
-Answer presses(Qt::Key key, bool held = false)
+Answer presses(Qt::Key key, bool held = false, Qt::KeyboardModifiers modifiers = {})
 {
-    return [=](Alert *alert) { pressKey(alert, key, held); };
+    return [=](Alert *alert) { pressKey(alert, key, held, modifiers); };
 }
 
 // What must not answer comes first; the second button then ends the run.
@@ -42,9 +42,8 @@ Answer notBy(const Answer &first)
 
 QString lookOf(const Alert *alert)
 {
-    const QStringList parts = {alert->text(), alert->informativeText(), QString::number(alert->alertStyle()),
-                               titlesOf(alert).join(u'/')};
-    return parts.join(u'|');
+    const QString texts = alert->text() % u'|' % alert->informativeText() % u'|';
+    return texts % QString::number(alert->alertStyle()) % u'|' % titlesOf(alert).join(u'/');
 }
 
 class Alerts : public WindowTest
@@ -65,7 +64,7 @@ protected:
     // The result of the alert, shown and answered so.
     static qint64 show(Tag tag, const Answer &answer)
     {
-        whenAlertRuns(answer);
+        whenRuns<Alert>(answer);
         return CUI_Alert(tag, notGiven, {}, {}, {}, notGiven);
     }
     static void dismiss(Tag tag) { EXPECT_EQ(CUI_Alert(-tag, notGiven, {}, {}, {}, notGiven), 0); }
@@ -74,55 +73,40 @@ protected:
 TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
 {
     const auto tabAndReturn = [](Alert *alert) { pressKey(alert, Qt::Key_Tab), pressKey(alert, Qt::Key_Return); };
-    const Table<Answer, qint64> rows = {
-        {"click on the first", clicks(0), 1000},
-        {"click on the second", clicks(1), 1001},
-        {"Return presses the first", presses(Qt::Key_Return), 1000},
-        {"Enter too", presses(Qt::Key_Enter), 1000},
-        {"Tab moves what Return presses", tabAndReturn, 1001},
-        {"not a held Return", notBy(presses(Qt::Key_Return, true)), 1001},
-        {"not a held space", notBy(presses(Qt::Key_Space, true)), 1001},
-        {"not Escape", notBy(presses(Qt::Key_Escape)), 1001},
-        {"not a close request", notBy([](Alert *alert) { alert->close(); }), 1001},
-        {"stopped by the program", [](Alert *) { stopModalWithCode(1001); }, 1001},
-        {"aborted", [](Alert *) { abortModal(); }, 0},
-        {"deleted", [](const Alert *alert) { delete alert; }, 0},
+    // A button, the key that it is given unless that is null, what happens then, and the code.
+    const Table<quint64, QString, Answer, qint64> rows = {
+        {"click on the first", 0, {}, clicks(0), 1000},
+        {"click on the second", 0, {}, clicks(1), 1001},
+        {"Return presses the first", 0, {}, presses(Qt::Key_Return), 1000},
+        {"Enter too", 0, {}, presses(Qt::Key_Enter), 1000},
+        {"Tab moves what Return presses", 0, {}, tabAndReturn, 1001},
+        {"whatever key the focused button has", 1, u"\033"_s, tabAndReturn, 1001},
+        {"not a held Return", 0, {}, notBy(presses(Qt::Key_Return, true)), 1001},
+        {"not a held space", 0, {}, notBy(presses(Qt::Key_Space, true)), 1001},
+        {"not Escape", 0, {}, notBy(presses(Qt::Key_Escape)), 1001},
+        {"not a close request", 0, {}, notBy([](Alert *alert) { alert->close(); }), 1001},
+        {"stopped by the program", 0, {}, [](Alert *) { stopModalWithCode(1001); }, 1001},
+        {"aborted", 0, {}, [](Alert *) { abortModal(); }, 0},
+        {"deleted", 0, {}, [](const Alert *alert) { delete alert; }, 0},
+        {"a key for no button", 2, u"\033"_s, notBy(presses(Qt::Key_Escape)), 1001},
+        {"Escape", 1, u"\033"_s, presses(Qt::Key_Escape), 1001},
+        {"letter", 1, u"p"_s, presses(Qt::Key_P), 1001},
+        {"not a held letter", 1, u"p"_s, notBy(presses(Qt::Key_P, true)), 1001},
+        {"upper case needs Shift", 1, u"P"_s, notBy(presses(Qt::Key_P)), 1001},
+        {"upper case with Shift", 1, u"P"_s, presses(Qt::Key_P, false, Qt::ShiftModifier), 1001},
+        {"space beats the focus", 1, u" "_s, presses(Qt::Key_Space), 1001},
+        {"no key takes Return away", 0, u""_s, notBy(presses(Qt::Key_Return)), 1001},
     };
-    for (const auto &[name, answer, code] : rows) {
+    for (const auto &[name, button, key, answer, code] : rows) {
         SCOPED_TRACE(name);
         define(2);
+        if (!key.isNull()) {
+            AlertButtonSetKeyEquivalent(2, button, key);
+        }
         EXPECT_EQ(show(2, answer), code);
         EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 %1 2"_s.arg(code)});
         EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
     }
-    // A code of 0: nothing happens.
-    const Table<quint64, QString, Qt::Key, Qt::KeyboardModifiers, qint64> ownKeys = {
-        {"past the last button", 2, u"\033"_s, Qt::Key_Escape, {}, 0},
-        {"Escape", 1, u"\033"_s, Qt::Key_Escape, {}, 1001},
-        {"letter", 1, u"p"_s, Qt::Key_P, {}, 1001},
-        {"upper case needs Shift", 1, u"P"_s, Qt::Key_P, {}, 0},
-        {"upper case with Shift", 1, u"P"_s, Qt::Key_P, Qt::ShiftModifier, 1001},
-        {"space beats the focus", 1, u" "_s, Qt::Key_Space, {}, 1001},
-        {"no key takes Return away", 0, u""_s, Qt::Key_Return, {}, 0},
-    };
-    for (const auto &[name, button, equivalent, pressed, modifiers, code] : ownKeys) {
-        define(2);
-        AlertButtonSetKeyEquivalent(2, button, equivalent);
-        const auto press = [key = pressed, with = modifiers, isAnswered = code != 0](Alert *alert) {
-            pressKey(alert, key, true, with); // held down from before: never
-            EXPECT_TRUE(alert->isVisible());
-            pressKey(alert, key, false, with);
-            isAnswered ? void() : alert->dismiss();
-        };
-        EXPECT_EQ(show(2, press), code) << name;
-    }
-    define(2);
-    AlertButtonSetKeyEquivalent(2, 1, u"\033"_s);
-    EXPECT_EQ(show(2, tabAndReturn), 1001) << "Return in the focused button, whatever its key";
-    dialogCalls.clear();
-    define(2);
-    dismiss(2);
-    EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 0 2"_s});
     define(2);
     EXPECT_EQ(show(2, [](Alert *) { dismiss(2); }), 0);
     EXPECT_EQ(dialogCalls, (QStringList{u"1000 0 2"_s, u"1000 0 2"_s})) << "the dismissal and the run's end";
@@ -142,6 +126,7 @@ TEST_F(Alerts, TextsStyleAndButtonsAreThoseGivenFirstAndLater)
         SCOPED_TRACE(name);
         Alert *const alert = define(5, buttons);
         EXPECT_EQ(CUI_Alert(-5, style, message, informative, u"X"_s, notGiven), 0);
+        EXPECT_EQ(dialogCalls.takeLast(), u"1000 0 5"_s) << "dismissed, though it was not shown";
         EXPECT_EQ(lookOf(alert), look);
         EXPECT_EQ(alert->windowTitle(), alert->text());
         EXPECT_EQ(alert->icon() == QMessageBox::Critical, alert->alertStyle() == alertStyleCritical);
@@ -152,7 +137,7 @@ TEST_F(Alerts, TextsStyleAndButtonsAreThoseGivenFirstAndLater)
         EXPECT_FALSE(CUI_AlertWithTag(5));
     }
     const auto error = QVariant::fromValue(ErrorObject{u"disk"_s, 28, u"The disk is full."_s});
-    whenAlertRuns([](Alert *alert) {
+    whenRuns<Alert>([](Alert *alert) {
         EXPECT_EQ(lookOf(alert), u"The disk is full.||0|OK"_s);
         clicks(0)(alert);
     });
@@ -167,7 +152,7 @@ TEST_F(Alerts, TextsAreShownInFullLongOnesOnTheScreenShortOnesUnbroken)
 {
     const QString shortText = u"At line 128 of Game.zr\nIndex 98 is outside the range 0 to 97"_s;
     for (const QString &text : {QString(5000, u'x'), u"one line\n"_s.repeated(2000), shortText}) {
-        whenAlertRuns([&](Alert *alert) {
+        whenRuns<Alert>([&](Alert *alert) {
             EXPECT_FALSE(alert->windowHandle()->flags() & Qt::WindowCloseButtonHint);
             EXPECT_EQ(alert->size().boundedTo(alert->screen()->availableSize()), alert->size());
             const auto *const scrolled = alert->findChild<QPlainTextEdit *>();
@@ -221,20 +206,17 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     {
         void alertDidEnd(Alert *, qint64 code, void *) override { dialogCalls << u"1000 own %1"_s.arg(code); }
     } own;
-    const Answer clicksForOwnDelegate = [&own](Alert *alert) {
-        alert->setDelegate(&own);
-        clicks(1)(alert);
+    const Table<CUI_AlertDelegate *, Answer, QString> rows = {
+        {"answered", CUI_AlertDelegateObj(), clicks(1), u"1000 1001 4"_s},
+        {"answered, with a delegate of its own", &own, clicks(1), u"1000 own 1001"_s},
+        {"dismissed", &own, [](Alert *) { dismiss(4); }, u"1000 0 4"_s},
     };
-    const Table<Answer, QString> rows = {
-        {"answered", clicks(1), u"1000 1001 4"_s},
-        {"answered, with a delegate of its own", clicksForOwnDelegate, u"1000 own 1001"_s},
-        {"dismissed", [](Alert *) { dismiss(4); }, u"1000 0 4"_s},
-    };
-    for (const auto &[name, answer, reported] : rows) {
+    for (const auto &[name, delegate, answer, reported] : rows) {
         SCOPED_TRACE(name);
         dialogCalls.clear();
         EXPECT_EQ(openSheet(), 0);
         Alert *const alert = CUI_AlertWithTag(4);
+        alert->setDelegate(delegate);
         ASSERT_TRUE(alert && alert->isRunningAsSheet() && alert->parentWidget() == owner);
         EXPECT_EQ(alert->windowHandle()->flags() & (Qt::WindowType_Mask | Qt::WindowCloseButtonHint), Qt::Sheet);
         EXPECT_FALSE(alert->actions().isEmpty()) << "the shortcuts of the menus";
@@ -255,15 +237,15 @@ TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
     QStringList seen;
     CUI_ShowAlert(alertStyleCritical, u"first"_s, u"one"_s);
     std::thread([] { CUI_ShowAlert(alertStyleWarning, u"second"_s, u"two"_s); }).join();
-    const auto answer = [&seen](Alert *alert) {
+    const Answer answer = [&seen](Alert *alert) {
         QCoreApplication::processEvents(); // serves the queue inside the first warning
         EXPECT_EQ(modalWindow(), alert);
         seen << lookOf(alert);
         clicks(0)(alert);
     };
-    whenAlertRuns([&](Alert *alert) {
+    whenRuns<Alert>([&](Alert *alert) {
         answer(alert);
-        whenAlertRuns(answer);
+        whenRuns<Alert>(answer);
     });
     EXPECT_TRUE(QTest::qWaitFor([&seen] { return seen.size() == 2 && noAlertLeft(); }));
     EXPECT_EQ(seen, (QStringList{u"first|one|2|OK/Quit"_s, u"second|two|0|OK/Quit"_s}));

@@ -60,8 +60,7 @@ void startAndMeetEvents()
     answer = [&isUpdated](qint64 event) { isUpdated = isUpdated || event == appEventDidUpdate; };
     QTimer::singleShot(0, &window, [&window] {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        QFileOpenEvent open(u"/x/y.z"_s);
-        QCoreApplication::sendEvent(qApp, &open);
+        send<QFileOpenEvent>(qApp, u"/x/y.z"_s);
         EXPECT_EQ(eventObject, QVariantList{QUrl::fromLocalFile(u"/x/y.z"_s)});
         EXPECT_EQ(CUI_AppDelegateObj()->stringVal, u"y.z");
         CUI_AppDelegateObj()->openFiles({u"/a/dir/"_s});
@@ -89,13 +88,12 @@ TEST_F(AppDelegate, MayRefuseToTerminate)
     CocoaInit();
     for (const qint64 refusal : {0, 2, -1}) {
         seen.clear();
-        QEvent quit(QEvent::Quit);
-        answer = [&quit, refusal](qint64) {
-            QCoreApplication::sendEvent(qApp, &quit); // the user, while the question is open
+        answer = [refusal](qint64) {
+            send<QEvent>(qApp, QEvent::Quit); // the user, while the question is open
             CUI_AppDelegateObj()->longVal = refusal;
         };
         AppTerminate();
-        QCoreApplication::sendEvent(qApp, &quit);
+        send<QEvent>(qApp, QEvent::Quit);
         EXPECT_EQ(seen, (QList<qint64>{3, 3}));
     }
 }
@@ -108,11 +106,10 @@ void terminateFromNestedRun()
     runModalForWindow(&inner);
 }
 
-template <AppEvent event>
-void terminateAgainIn()
+void terminateWhileItEnds()
 {
-    answer = [](qint64 code) {
-        if (code == event) {
+    answer = [](qint64 event) {
+        if (event == appEventShouldTerminate || event == appEventWillTerminate) {
             AppTerminate();
             std::abort();
         }
@@ -128,23 +125,9 @@ void closeTheLastWindow()
     open(1)->close();
 }
 
-// What Qt 6.4 does for a close box on Wayland: the event is not a spontaneous one.
-void closeBoxOnWayland()
+void refuse(qint64 /*event*/)
 {
-    open(1)->windowHandle()->close();
-    std::_Exit(4);
-}
-
-void signalThoughTheDelegateWouldRefuse()
-{
-    answer = [](qint64) { CUI_AppDelegateObj()->longVal = 0; };
-    std::raise(SIGTERM);
-}
-
-void signalTwice()
-{
-    std::raise(SIGHUP);
-    std::raise(SIGHUP);
+    CUI_AppDelegateObj()->longVal = 0;
 }
 
 // What the offscreen platform itself has to say.
@@ -154,15 +137,14 @@ constexpr char nothingOfOurs[] = "^((This plugin does not support|QStandardPaths
 // that reads the display's events uses those of the libraries until the end.
 TEST_F(AppDelegate, ProcessEndsFromAnyDepthAndBySignals)
 {
-    // The signal that kills it, or 0 for a regular end.
     const Table<void (*)(), int> rows = {
         {"nested runs, with an owned clipboard", terminateFromNestedRun, 0},
-        {"again in the question", terminateAgainIn<appEventShouldTerminate>, 0},
-        {"again while it is notified", terminateAgainIn<appEventWillTerminate>, 0},
+        {"again in the question and when notified", terminateWhileItEnds, 0},
         {"the program closes its last window, which ends it", closeTheLastWindow, 0},
-        {"the close box of the last window on Wayland", closeBoxOnWayland, 0},
-        {"SIGTERM, although the delegate would refuse", signalThoughTheDelegateWouldRefuse, 0},
-        {"a second signal at once", signalTwice, SIGHUP},
+        // What Qt 6.4 does there: the event is not a spontaneous one.
+        {"the close box of the last window on Wayland", [] { open(1)->windowHandle()->close(), std::_Exit(4); }, 0},
+        {"SIGTERM, although the delegate would refuse", [] { answer = refuse, std::raise(SIGTERM); }, 0},
+        {"a second signal at once", [] { std::raise(SIGHUP), std::raise(SIGHUP); }, SIGHUP},
     };
     for (const auto &[name, end, signal] : rows) {
         SCOPED_TRACE(name);
@@ -175,17 +157,10 @@ TEST_F(AppDelegate, ProcessEndsFromAnyDepthAndBySignals)
             runModalForWindow(&window);
             std::_Exit(3);
         };
-        const auto ended = [killer = signal](int status) {
-            return killer ? testing::KilledBySignal(killer)(status) : testing::ExitedWithCode(0)(status);
-        };
-        EXPECT_EXIT(endInsideARun(), ended, nothingOfOurs);
+        EXPECT_EXIT(endInsideARun(), endedBy(signal), nothingOfOurs);
     }
-    const auto raiseOutsideARun = [] {
-        CocoaInit();
-        std::raise(SIGTERM);
-        std::_Exit(3);
-    };
-    EXPECT_EXIT(raiseOutsideARun(), testing::KilledBySignal(SIGTERM), nothingOfOurs);
+    CocoaInit();
+    EXPECT_EXIT(std::raise(SIGTERM), endedBy(SIGTERM), nothingOfOurs) << "outside a run";
 }
 
 } // namespace

@@ -8,12 +8,6 @@ namespace {
 
 using Windows = WindowTest;
 
-bool isCentred(const Window *window)
-{
-    const QPoint off = window->frameGeometry().center() - window->screen()->availableGeometry().center();
-    return std::abs(off.x()) <= 2 && std::abs(off.y()) <= 12;
-}
-
 TEST_F(Windows, StatementMakesAndShows)
 {
     const Table<Tag, QRectF, QSizeF, bool, bool> rows = {
@@ -28,7 +22,8 @@ TEST_F(Windows, StatementMakesAndShows)
         SCOPED_TRACE(name);
         Window *const window = open(tag, rect);
         EXPECT_EQ(window->contentRect().size(), size);
-        EXPECT_EQ(isCentred(window), centred);
+        const QPoint off = window->frameGeometry().center() - window->screen()->availableGeometry().center();
+        EXPECT_EQ(std::abs(off.x()) <= 2 && std::abs(off.y()) <= 12, centred);
         // The offscreen platform keeps the 2 pixels of its frame on the screen.
         EXPECT_TRUE(centred || (window->contentRect().topLeft() - rect.topLeft()).manhattanLength() <= 2);
         EXPECT_EQ(window->isVisible(), shown);
@@ -43,31 +38,27 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
 {
     CUI_Window(-1, u"First"_s, windowStyleTitled, QRectF(50, 70, 300, 200));
     Window *const window = CUI_WindowWithTag(1);
-    const QRectF first(50, 70, 300, 200);
-    const QRectF second(80, 90, 400, 100);
-    const Table<Tag, QString, qint64, QRectF, QString, qint64, QRectF, bool> rows = {
-        {"shows the hidden one", 1, {}, notGiven, {}, u"First"_s, windowStyleTitled, first, true},
-        {"title only", 1, u"Second"_s, notGiven, {}, u"Second"_s, windowStyleTitled, first, true},
-        {"empty title", 1, u""_s, notGiven, {}, u""_s, windowStyleTitled, first, true},
-        {"place only, fixed size", 1, {}, notGiven, second, u""_s, windowStyleTitled, second, true},
-        {"borderless", 1, {}, 0, {}, u""_s, 0, second, true},
-        {"style only", 1, {}, windowStyleDefault, {}, u""_s, windowStyleDefault, second, true},
-        {"tag of the other sign hides", -1, {}, notGiven, {}, u""_s, windowStyleDefault, second, false},
+    const QRectF moved(80, 90, 400, 100);
+    const Table<Tag, QString, qint64, QRectF, QString> rows = {
+        {"shows the hidden one", 1, {}, notGiven, {}, u"First: content 300x200 at 50,70, style 1, key"_s},
+        {"title only", 1, u"Second"_s, notGiven, {}, u"Second: content 300x200 at 50,70, style 1, key"_s},
+        {"empty title", 1, u""_s, notGiven, {}, u": content 300x200 at 50,70, style 1, key"_s},
+        {"rectangle only, fixed size", 1, {}, notGiven, moved, u": content 400x100 at 80,90, style 1, key"_s},
+        {"borderless", 1, {}, 0, {}, u": content 400x100 at 80,90, style 0, key"_s},
+        {"style only", 1, {}, windowStyleDefault, {}, u": content 400x100 at 80,90, style 15, key"_s},
+        {"tag of the other sign hides", -1, {}, notGiven, {}, u": content 400x100 at 80,90, style 15"_s},
     };
-    for (const auto &[name, tag, title, style, rect, titleAfter, styleAfter, rectAfter, shown] : rows) {
+    for (const auto &[name, tag, title, style, rect, look] : rows) {
         SCOPED_TRACE(name);
         CUI_SetSubclassFlag(true);
         CUI_Window(tag, title, style, rect);
         QApplication::processEvents();
-        EXPECT_EQ(CUI_WindowWithTag(1), window);
-        EXPECT_EQ(orderedWindows().size(), 1);
-        EXPECT_EQ(window->windowTitle(), titleAfter);
-        EXPECT_EQ(window->styleMask(), styleAfter);
-        EXPECT_EQ(window->contentRect(), rectAfter);
-        EXPECT_EQ(window->isVisible(), shown);
-        EXPECT_EQ(window->menuBar()->isVisible(), shown && styleAfter != 0);
+        EXPECT_EQ(QString(window->windowTitle() % u": " % window->dump()), look);
+        EXPECT_EQ(window->menuBar()->isVisible(), tag > 0 && window->styleMask() != 0);
         EXPECT_FALSE(CUI_IsSubclassFlag());
     }
+    EXPECT_EQ(orderedWindows(), QList<Window *>{window});
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)
@@ -79,11 +70,9 @@ TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)
     EXPECT_FALSE(first->isVisible());
     EXPECT_EQ(CUI_AppDelegateObj()->windows, (QList<Window *>{first, second, negative}));
     EXPECT_TRUE(qobject_cast<WindowSC *>(first) && !qobject_cast<WindowSC *>(second));
-    const std::pair<Tag, Window *> lookups[] = {{5, first},   {-5, first},  {tagFromObject(second), second},
-                                                {6, nullptr}, {0, nullptr}, {largestTag, nullptr}};
-    for (const auto &[tag, found] : lookups) {
-        EXPECT_EQ(CUI_WindowWithTag(tag), found) << tag;
-    }
+    EXPECT_TRUE(CUI_WindowWithTag(5) == first && CUI_WindowWithTag(-5) == first);
+    EXPECT_EQ(CUI_WindowWithTag(tagFromObject(second)), second);
+    EXPECT_TRUE(!CUI_WindowWithTag(6) && !CUI_WindowWithTag(0) && !CUI_WindowWithTag(largestTag));
 }
 
 TEST_F(Windows, ContentStaysThroughMenuBarsAndTinyWindows)
@@ -112,8 +101,7 @@ TEST_F(Windows, ContentStaysThroughMenuBarsAndTinyWindows)
             QApplication::processEvents();
             EXPECT_EQ(window->contentRect(), QRectF(40, 60, 300, 200)) << name;
         }
-        QContextMenuEvent rightClick(QContextMenuEvent::Mouse, QPoint(5, 5), window->mapToGlobal(QPoint(5, 5)));
-        QApplication::sendEvent(window->menuBar(), &rightClick);
+        send<QContextMenuEvent>(window->menuBar(), QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(50, 70));
         EXPECT_FALSE(QApplication::activePopupWidget()) << "a menu that hides the tool bar";
         window->resize(window->width() + 20, window->height() + 30);
         QApplication::processEvents();
@@ -228,22 +216,7 @@ TEST_F(Windows, TargetIsTheOutputWindowElseTheFrontmost)
     }
 }
 
-TEST_F(Windows, CannotTakeAPopoversTag)
-{
-    Popover popover(9, QSize(100, 50));
-    QString warning;
-    whenAlertRuns([&warning](Alert *alert) {
-        warning = alert->text() % u' ' % alert->informativeText();
-        clicks(0)(alert);
-    });
-    open(-9);
-    EXPECT_TRUE(QTest::qWaitFor([&warning] { return !warning.isNull(); }));
-    EXPECT_EQ(warning, u"Window tag error. Windows and Popovers cannot have same tag value."_s);
-    EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
-    EXPECT_EQ(CUI_OutputWindowTag(), 0);
-}
-
-TEST_F(Windows, PopoverIsNextToItsAnchor)
+TEST_F(Windows, PopoverIsNextToItsAnchorAndKeepsItsTag)
 {
     QWidget *const view = open(1)->contentView();
     Popover popover(9, QSize(100, 50));
@@ -251,6 +224,10 @@ TEST_F(Windows, PopoverIsNextToItsAnchor)
     EXPECT_EQ(CUI_PopoverShown(), &popover);
     EXPECT_EQ(popover.contentView()->size(), QSize(100, 50));
     EXPECT_EQ(popover.y(), view->mapToGlobal(QPoint(100, 110)).y());
+    EXPECT_EQ(alertsOf([] { CUI_Window(-9, {}, notGiven, {}); }),
+              u"Window tag error.|Windows and Popovers cannot have same tag value."_s);
+    EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
+    EXPECT_EQ(CUI_OutputWindowTag(), 1);
     Popover later(8, QSize(100, 50));
     later.showRelativeTo(view, QRect(), Qt::BottomEdge);
     EXPECT_EQ(CUI_PopoverShown(), &later);

@@ -77,45 +77,6 @@ TEST_F(Dispatch, ActionIsChosenByName)
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 1); }), u"Tag error.|Can't find view 6 in window 7."_s);
 }
 
-TEST_F(Dispatch, SurvivesWhatACallbackDoes)
-{
-    const Table<std::function<void()>> inputs = {
-        {"click", [] { QTest::mouseClick(ControlWithTag(2), Qt::LeftButton, {}, QPoint(8, 15)); }},
-        {"space", [] { QTest::keyClick(ControlWithTag(2), Qt::Key_Space); }},
-        {"arrow key in a slider", [] { QTest::keyClick(ControlWithTag(3), Qt::Key_Right); }},
-        {"click in a slider", [] { QTest::mouseClick(ControlWithTag(3), Qt::LeftButton, {}, QPoint(190, 15)); }},
-        {"Return in a field", [] { QTest::keyClick(ControlWithTag(4), Qt::Key_Return); }},
-        {"arrow key in a pop-up button", [] { QTest::keyClick(ControlWithTag(5), Qt::Key_Down); }},
-    };
-    const auto sender = [] { return objectFromTag(lastObject); };
-    const Table<std::function<void()>> harms = {
-        {"deletes the sender", [sender] { delete sender(); }},
-        {"deletes the content", [] { qDeleteAll(CUI_WindowWithTag(7)->contentView()->children()); }},
-        {"closes the window", [] { CUI_WindowWithTag(7)->close(); }},
-        {"gives the sender another tag", [sender] { setObjectTag(sender(), 99); }},
-        {"gives the window another tag", [] { CUI_WindowWithTag(7)->setTag(99); }},
-        {"installs another function", [] { CUI_SetOnDialogFunction(nullptr); }},
-        {"opens an alert", [] { CUI_Alert(1, notGiven, u"Now"_s, {}, u"OK"_s, notGiven); }},
-    };
-    for (const auto &[harmName, harm] : harms) {
-        for (const auto &[name, input] : inputs) {
-            SCOPED_TRACE(testing::Message() << harmName << ", " << name);
-            TearDown();
-            SetUp();
-            makeControls();
-            const AlertAnswerer answerer;
-            bool isHarmed = false;
-            atEvent = [&isHarmed, act = harm](qint64) {
-                if (!std::exchange(isHarmed, true)) {
-                    act();
-                }
-            };
-            input();
-            EXPECT_TRUE(QTest::qWaitFor([&] { return isHarmed; }));
-        }
-    }
-}
-
 TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
 {
     TableViewSC table;

@@ -99,27 +99,21 @@ TEST_F(Lookup, TakesTheShownPopoverThenTheOutputWindowThenTheFront)
     QWidget *const two = open(2)->contentView();
     Popover popover(9, QSize(100, 50));
     QWidget *const inPopover = popover.contentView();
-    const Table<Tag, bool, QWidget *, QWidget *> rows = {
-        {"the output window", 1, false, one, one},
-        {"the frontmost window", 0, false, two, two},
-        {"a hidden popover as the output window", 9, false, inPopover, inPopover},
-        {"a shown popover, though not as the content view", 1, true, inPopover, one},
-    };
     for (QWidget *const each : {one, two, inPopover}) {
         tagged(each, 3);
     }
-    for (const auto &[name, output, shows, parent, content] : rows) {
-        SCOPED_TRACE(name);
-        if (shows) {
-            popover.showRelativeTo(one, QRect(), Qt::BottomEdge);
-        }
+    const auto expectFoundIn = [](const QWidget *parent, Tag output) {
         CUI_OutputWindowSetTag(output);
         const QWidget *const found = CUI_ViewWithTag(3);
-        ASSERT_TRUE(found);
-        EXPECT_EQ(found->parentWidget(), parent);
-        EXPECT_EQ(CUI_ViewWindowTag(found), CUI_ViewWindowTag(parent));
-        EXPECT_EQ(CUI_ViewWithTag(contentViewTag), content);
-    }
+        EXPECT_TRUE(found->parentWidget() == parent && CUI_ViewWindowTag(found) == CUI_ViewWindowTag(parent)) << output;
+    };
+    expectFoundIn(one, 1);
+    expectFoundIn(two, 0);
+    expectFoundIn(inPopover, 9);
+    EXPECT_EQ(CUI_ViewWithTag(contentViewTag), inPopover);
+    popover.showRelativeTo(one, QRect(), Qt::BottomEdge);
+    expectFoundIn(inPopover, 1);
+    EXPECT_EQ(CUI_ViewWithTag(contentViewTag), one) << "a shown popover comes first, but for the content view";
 }
 
 TEST_F(Lookup, FindsAccessoriesAndToolbarItems)

@@ -2,42 +2,7 @@
 
 #include "tests/support/windows.h"
 
-#include <QMessageBox>
-
 namespace tetrad {
-
-using namespace Qt::StringLiterals;
-
-/// Answers every alert with its first button, as long as it lives, and keeps the texts as "title|text".
-class AlertAnswerer : public QTimer
-{
-public:
-    QStringList shown;
-
-    AlertAnswerer()
-    {
-        callOnTimeout([this] {
-            if (auto *const box = qobject_cast<QMessageBox *>(modalWindow())) {
-                shown << box->text() + u'|' + box->informativeText();
-                box->buttons().constFirst()->click();
-            }
-        });
-        start(0);
-    }
-};
-
-/// Every alert that a statement queues. One more alert is queued behind them, so that none that was to come is
-/// missed and none is waited for in vain.
-inline QString alertsOf(const std::function<void()> &statement)
-{
-    AlertAnswerer answerer;
-    statement();
-    EXPECT_TRUE(answerer.shown.isEmpty()) << "alerts appear in the next modal loop";
-    CUI_ShowAlert(alertStyleWarning, u"(end)"_s, QString());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return answerer.shown.contains(u"(end)|"_s); }));
-    answerer.shown.removeAll(u"(end)|"_s);
-    return answerer.shown.join(u", "_s);
-}
 
 /// A dialog function that keeps all calls but those of windows and alerts themselves.
 inline qint64 recordSite(qint64 event, Tag tag, Tag wndTag, qint64 obj)
@@ -86,37 +51,6 @@ protected:
         m_content = open(7)->contentView();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_content->window()));
         CUI_SetOnDialogFunction(recordSite);
-    }
-
-    /// Makes an object for each event, brings its events about, and harms it at that one, which must come and be
-    /// survived.
-    static void expectSurvival(
-        const QList<qint64> &events, const std::function<QObject *()> &make,
-        const QList<std::function<void()>> &happenings,
-        const std::function<void(QObject *)> &harm = [](const QObject *victim) { delete victim; })
-    {
-        for (const qint64 dangerous : events) {
-            SCOPED_TRACE(dangerous);
-            const QPointer<QObject> victim = make();
-            bool isHarmed = false;
-            atEvent = [&, dangerous, respond = atEvent](qint64 event) {
-                if (respond) {
-                    respond(event);
-                }
-                if (event == dangerous && !std::exchange(isHarmed, true)) {
-                    harm(victim);
-                }
-            };
-            for (const auto &happen : happenings) {
-                if (victim) {
-                    happen();
-                    takeSiteCalls();
-                }
-            }
-            EXPECT_TRUE(isHarmed);
-            atEvent = nullptr;
-            delete victim;
-        }
     }
 
     /// A check box, a slider, a text field, a pop-up button and a segmented control, tags 2 to 6.

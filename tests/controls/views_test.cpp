@@ -1,8 +1,173 @@
-#include "tests/controls/views.h"
+#include "tests/controls/site_helper.h"
+
+#include <QAction>
+#include <QColorDialog>
+#include <QFontDialog>
+#include <QHeaderView>
+#include <QTabBar>
+#include <QToolBar>
+#include <QWheelEvent>
 
 using namespace tetrad;
 
 namespace {
+
+// What matters in the record at an event.
+QString recorded(qint64 event)
+{
+    const CUI_DialogEvent &record = *CUI_DialogEventObj();
+    const QString number = QString::number(record.longVal);
+    const QString coordinate = QString::number(record.floatVal);
+    const QString column = record.tableColumnObj.toString();
+    const QString object = record.object.toString();
+    const QString range = QString::asprintf("%llu+%llu", record.rangeVal.location, record.rangeVal.length);
+    const QMap<qint64, QString> ofEvents = {
+        {splitViewEventConstrainMaxCoordinate, coordinate},
+        {splitViewEventConstrainMinCoordinate, coordinate},
+        {splitViewEventConstrainSplitPosition, coordinate},
+        {tabViewEventDidChangeCount, number},
+        {tableViewEventColumnClicked, column},
+        {tableViewEventDidEdit, number % u'.' % column % u'=' % object},
+        {textViewEventRefuseChange, range % u'=' % record.stringObj},
+        {textViewEventSelectionChanged, range},
+        {tokenFieldEventCompletions, record.stringObj},
+        {fontPanelEventChanged, QString::number(record.fontObj.pointSize())},
+        {colorPanelEventAction, record.colorObj.name()},
+    };
+    const QMap<qint64, QString> ofHundreds = {
+        {16, number % u' ' % record.stringObj},
+        {17, number},
+        {18, object},
+        {23, QVariant(record.arrayObj).toStringList().join(u'|')},
+    };
+    return ofEvents.value(event, ofHundreds.value(event / 100));
+}
+
+// A program that has tables of three rows whose cells say "row.column" and outlines in which every item is the text of
+// its path, has two children and no end, and that agrees to what popovers, tool bars and split views ask.
+Answers respond()
+{
+    using Record = CUI_DialogEvent;
+    const auto agree = [](Record &it) { it.boolVal = true; };
+    const auto path = [](const Record &it) { return it.object.toString(); };
+    return {
+        {tableViewEventRowCount, [](Record &it) { it.longVal = 3; }},
+        {tableViewEventValue,
+         [](Record &it) { it.object = u"%1.%2"_s.arg(it.longVal).arg(it.tableColumnObj.toInt()); }},
+        {tableViewEventRowHeight, [](Record &it) { it.doubleVal = it.longVal == 1 ? 41 : it.doubleVal; }},
+        {tableViewEventShouldEdit, [](Record &it) { it.boolVal = it.tableColumnObj == 1; }},
+        {tableHeaderEventTextColor, [](Record &it) { it.colorObj = Qt::red; }},
+        {tableHeaderEventFont, [](Record &it) { it.fontObj.setItalic(true); }},
+        {outlineViewEventChildCount, [](Record &it) { it.longVal = 2; }},
+        {outlineViewEventChild, [path](Record &it) { it.object = u"%1/%2"_s.arg(path(it)).arg(it.longVal); }},
+        {outlineViewEventText, [path](Record &it) { it.stringObj = it.tableColumnObj == 0 ? path(it) : u"kind"_s; }},
+        {popoverEventShouldClose, agree},
+        {popoverEventShouldDetach, agree},
+        {toolbarEventValidateItem, agree},
+        {splitViewEventCanCollapseSubview, agree},
+    };
+}
+
+void refuse(qint64 /*event*/)
+{
+    answer(true);
+}
+
+// Presses a key in the view with this tag.
+std::function<void()> key(Tag tag, Qt::Key code, Qt::KeyboardModifiers modifiers = {})
+{
+    return [=] { QTest::keyPress(CUI_ViewWithTag(tag), code, modifiers); };
+}
+
+// A window with one of each view, whose tags are their codes without the last two digits, a hidden popover 9 and an
+// item 19 in its tool bar 3. The split view is 205 wide, of two buttons at least 40 wide, with a divider of 5 at 100.
+class Views : public SiteTest
+{
+protected:
+    QPointer<TableViewSC> table;
+    QPointer<OutlineViewSC> outline;
+    QPointer<TabViewSC> tabs;
+    QPointer<SplitViewSC> split;
+    QPointer<TextViewSC> text;
+    QPointer<TokenFieldSC> tokens;
+    QPointer<Popover> popover;
+    QPointer<QAction> item;
+
+    void SetUp() override
+    {
+        SiteTest::SetUp();
+        atEvent = answers(respond());
+        CUI_TableView(17, {u"A"_s, u"B"_s}, QRectF(0, 0, 260, 180));
+        CUI_OutlineView(18, {u"Name"_s, u"Kind"_s}, QRectF(0, 0, 280, 180));
+        CUI_TabView(16, {u"A"_s, u"B & C"_s, u"D"_s}, QRectF(0, 0, 280, 150));
+        CUI_SplitView(15, Qt::Horizontal, QRectF(10, 10, 205, 80));
+        for (const Tag tag : {41, 42}) {
+            CUI_Button(tag, QString::number(tag), QRectF(0, 0, 10, 10));
+            CUI_ViewWithTag(tag)->setMinimumWidth(40);
+            SplitViewAddSubview(15, tag);
+        }
+        CUI_TextView(21, {}, QRectF(0, 0, 200, 100));
+        CUI_TokenField(23, {u"a"_s, u"b"_s}, QRectF(0, 0, 200, 30));
+        CUI_Toolbar(3);
+        item = CUI_ToolbarAddItem(3, 19, u"Go"_s);
+        table = m_content->findChild<TableViewSC *>();
+        outline = m_content->findChild<OutlineViewSC *>();
+        tabs = m_content->findChild<TabViewSC *>();
+        split = m_content->findChild<SplitViewSC *>();
+        text = m_content->findChild<TextViewSC *>();
+        tokens = m_content->findChild<TokenFieldSC *>();
+        CUI_Popover(9, QSizeF(80, 60), popoverApplicationDefined);
+        PopoverSetAsks(9, true);
+        popover = CUI_PopoverWithTag(9);
+        split->setHandleWidth(5);
+        split->setSizes({100, 100});
+        setText(3, 3);
+        tokens->setFocus();
+        takeSiteCalls();
+        EXPECT_EQ(split->position(0), 100);
+        CUI_OutputWindowSetTag(0);
+        valuesOf = recorded;
+    }
+    void TearDown() override
+    {
+        delete popover;
+        SiteTest::TearDown();
+    }
+
+    QPoint centerOf(int row) const { return table->visualItemRect(table->item(row, 0)).center(); }
+    void pressRow(int row) const { QTest::mousePress(table->viewport(), Qt::LeftButton, {}, centerOf(row)); }
+    void expand(bool expands) const { outline->topLevelItem(1)->setExpanded(expands); }
+    void pressItem() const
+    {
+        const QPoint position = outline->visualItemRect(outline->topLevelItem(0)).center();
+        QTest::mousePress(outline->viewport(), Qt::LeftButton, {}, position);
+    }
+    void pressTab() const
+    {
+        QTest::mousePress(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
+    }
+    void dragDivider(int distance) const { dragMouse(split->handle(1), QPoint(2, 10), QPoint(2 + distance, 10)); }
+    void select(int from, int to) const
+    {
+        QTextCursor cursor = text->textCursor();
+        cursor.setPosition(from);
+        cursor.setPosition(to, QTextCursor::KeepAnchor);
+        text->setTextCursor(cursor);
+    }
+    void setText(int from, int to) const
+    {
+        text->setFocus();
+        text->setPlainText(u"one two"_s);
+        select(from, to);
+        takeSiteCalls();
+    }
+    static void showPopover() { PopoverShow(9, contentViewTag, QRectF(0, 0, 5, 5), Qt::BottomEdge); }
+    void dragPopover() const { dragMouse(popover->contentView(), QPoint(10, 10), QPoint(60, 50)); }
+    void clickItem() const
+    {
+        QTest::mouseClick(CUI_WindowToolbar(CUI_WindowWithTag(7))->widgetForAction(item), Qt::LeftButton);
+    }
+};
 
 TEST_F(Views, TableShowsWhatTheProgramAnswers)
 {
@@ -97,10 +262,8 @@ TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelecti
 TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
 {
     const auto wheel = [&] {
-        const QPointF position(5, 5);
-        QWheelEvent event(position, tabs->tabBar()->mapToGlobal(position), QPoint(), QPoint(0, -120), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(tabs->tabBar(), &event);
+        send<QWheelEvent>(tabs->tabBar(), QPointF(5, 5), tabs->tabBar()->mapToGlobal(QPointF(5, 5)), QPoint(),
+                          QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     };
     const Table<std::function<void()>> rows = {
         {"press", [&] { pressTab(); }},
@@ -186,8 +349,7 @@ TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
 {
     const auto typing = [&] { QTest::keyClicks(text, u"x"_s); };
     const auto menuCut = [&] {
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
-        QApplication::sendEvent(text->viewport(), &event);
+        send<QContextMenuEvent>(text->viewport(), QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
         auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         menu->actions().at(3)->trigger();
         menu->close();
@@ -257,42 +419,34 @@ TEST_F(Views, ATokenIsQueriedWhenItEndsAndTheFieldReported)
 TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOne)
 {
     QWidget window;
-    atEvent = nullptr;
-    const auto drag = [&] { dragPopover(); };
-    const auto close = [] { PopoverClose(9); };
-    const auto agreeAndClose = [&] {
-        atEvent = answers(respond());
-        close();
-    };
-    const auto giveWay = [&] {
-        atEvent = answers({{popoverEventShouldDetach, [](auto &it) { it.boolVal = true; }},
-                           {popoverEventDetachableWindow, [&](auto &it) { it.viewObj = &window; }}});
-        showPopover();
-        takeSiteCalls();
-        dragPopover();
-    };
     QPoint shownAt;
     const auto show = [&] {
         showPopover();
         shownAt = popover->pos();
     };
+    const auto close = [] { PopoverClose(9); };
+    const auto drag = [&] { dragPopover(); };
     const auto state = [&] {
         const bool isTool = popover->windowType() == Qt::Tool && popover->pos() != shownAt;
         return popover->isVisible() ? (isTool ? u"as a window"_s : u"at its view"_s)
                                     : (window.isVisible() ? u"another window"_s : u"hidden"_s);
     };
-    expectCalls(
-        {
-            {"show", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
-            {"the preset answer is no", close, u"1301 9 9 -> at its view"_s},
-            {"drag refused", drag, u"1307 9 9 -> at its view"_s},
-            {"close agreed", agreeAndClose, u"1301 9 9, 1304 9 9, 1305 9 9 -> hidden"_s},
-            {"show again", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
-            {"dragged off", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> as a window"_s},
-            {"no more while it is one", drag, u" -> as a window"_s},
-            {"replaced by a window", giveWay, u"1307 9 9, 1300 9 9, 1306 9 9 -> another window"_s},
-        },
-        state);
+    atEvent = nullptr;
+    expectCalls({{"show", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
+                 {"the preset answer is no", close, u"1301 9 9 -> at its view"_s},
+                 {"drag refused", drag, u"1307 9 9 -> at its view"_s}},
+                state);
+    atEvent = answers(respond());
+    expectCalls({{"close agreed", close, u"1301 9 9, 1304 9 9, 1305 9 9 -> hidden"_s},
+                 {"show again", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
+                 {"dragged off", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> as a window"_s},
+                 {"no more while it is one", drag, u" -> as a window"_s}},
+                state);
+    atEvent = answers({{popoverEventShouldDetach, [](auto &it) { it.boolVal = true; }},
+                       {popoverEventDetachableWindow, [&](auto &it) { it.viewObj = &window; }}});
+    showPopover();
+    takeSiteCalls();
+    expectCalls({{"replaced by a window", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> another window"_s}}, state);
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
     PopoverRemove(9);
     EXPECT_EQ(CUI_PopoverWithTag(9), nullptr);
@@ -329,46 +483,79 @@ TEST_F(Views, ColoursAndFontsAreReportedAsTheyAreChosen)
     delete fonts;
 }
 
-TEST_F(Views, SurviveTheirDeletionReloadingOrLosingAPageAtEveryEvent)
+// At each event that these acts bring about, once.
+TEST_F(Views, SurviveWhatACallbackDoes)
 {
-    using Happenings = QList<std::function<void()>>;
-    const Happenings toTable = {[] { TableViewReloadData(17); }, [&] { pressRow(1); }};
-    const Happenings toOutline = {[&] { expand(true); }, [&] { expand(false); }, [&] { pressItem(); }};
-    const Happenings toTabs = {[&] { pressTab(); }};
-    const Happenings toSplit = {[&] { dragDivider(-95); }, [&] { split->hide(); }, [&] { split->show(); },
-                                [&] { split->resize(300, 80); }};
-    const Happenings toText = {[&] { text->setFocus(); }, key(21, Qt::Key_X), [&] { select(0, 2); },
-                               [&] { text->clearFocus(); }};
-    const Happenings toTokens = {[&] { tokens->setFocus(); }, key(23, Qt::Key_X), key(23, Qt::Key_Return)};
-    const Happenings toPopover = {showPopover, [&] { dragPopover(); }, showPopover, [] { PopoverClose(9); }};
-    const Happenings toItem = {[] { ToolbarItemSetValidates(3, 19, true); }, [&] { clickItem(); }};
-    const std::tuple<std::function<QObject *()>, QList<qint64>, Happenings, std::function<void()>> rows[] = {
-        {[&] { return table; }, {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300}, toTable, toTable[0]},
-        {[&] { return outline; },
-         {1800, 1801, 1802, 1803, 1804, 1805, 1806},
-         toOutline,
-         [] { OutlineViewReloadData(18); }},
-        {[&] { return tabs; }, {1600, 1601, 1602}, toTabs, {}},
-        {[&] { return tabs->widget(1); }, {1600, 1601}, toTabs, {}},
-        {[&] { return split; }, {1501, 1502, 1503, 1504, 1506, 1508, 1509, 1510, 1511, 1512}, toSplit, {}},
-        {[&] { return text; }, {2100, 2101, 2102, 2103, 2104}, toText, {}},
-        {[&] { return tokens; }, {2300, 2301, 2302, 1}, toTokens, {}},
-        {[&] { return popover; }, {1300, 1301, 1302, 1304, 1305, 1306, 1307}, toPopover, {}},
-        {[&] { return item; }, {1900, 1901}, toItem, {}},
-        {[] { return CUI_ColorPanel(Qt::red); },
-         {2600},
-         {[] { CUI_ColorPanel(Qt::red)->setCurrentColor(Qt::green); }},
-         {}},
+    using Acts = QList<std::function<void()>>;
+    using Harm = std::function<void(QObject *)>;
+    const auto control = [](Tag tag) {
+        return [tag] {
+            makeControls();
+            return ControlWithTag(tag);
+        };
     };
-    for (const auto &[victim, events, happenings, other] : rows) {
-        const auto renew = [&, victim = victim] {
+    const Acts click = {[] { QTest::mouseClick(ControlWithTag(2), Qt::LeftButton, {}, QPoint(8, 15)); }};
+    const Acts toTable = {[] { TableViewReloadData(17); }, [&] { pressRow(1); }};
+    const Acts toOutline = {[&] { expand(true); }, [&] { expand(false); }, [&] { pressItem(); }};
+    const Acts toTabs = {[&] { pressTab(); }};
+    const Acts toSplit = {[&] { dragDivider(-95); }, [&] { split->hide(); }, [&] { split->show(); },
+                          [&] { split->resize(300, 80); }};
+    const Acts toText = {[&] { text->setFocus(); }, key(21, Qt::Key_X), [&] { select(0, 2); },
+                         [&] { text->clearFocus(); }};
+    const Acts toTokens = {[&] { tokens->setFocus(); }, key(23, Qt::Key_X), key(23, Qt::Key_Return)};
+    const Acts toPopover = {showPopover, [&] { dragPopover(); }, showPopover, [] { PopoverClose(9); }};
+    const Acts toItem = {[] { ToolbarItemSetValidates(3, 19, true); }, [&] { clickItem(); }};
+    const Acts toPanel = {[] { CUI_ColorPanel(Qt::red)->setCurrentColor(Qt::green); }};
+    const Harm deletes = [](const QObject *victim) { delete victim; };
+    const Harm deletesAll = [&](QObject *) { qDeleteAll(m_content->children()); };
+    const Harm reloads = [](QObject *) { TableViewReloadData(17), OutlineViewReloadData(18); };
+    const Harm closes = [&](QObject *) { m_content->window()->close(); };
+    const Harm opensAlert = [](QObject *) {
+        whenRuns<Alert>(clicks(0));
+        CUI_Alert(1, notGiven, u"Now"_s, {}, u"OK"_s, notGiven);
+    };
+    const std::tuple<std::function<QObject *()>, QList<qint64>, Acts, Harm> rows[] = {
+        {control(2), {1}, click, deletes},
+        {control(2), {1}, click, deletesAll},
+        {control(2), {1}, click, closes},
+        {control(2), {1}, click, opensAlert},
+        {control(2), {1}, {[] { QTest::keyClick(ControlWithTag(2), Qt::Key_Space); }}, deletes},
+        {control(3), {1}, {key(3, Qt::Key_Right)}, deletes},
+        {control(4), {1}, {key(4, Qt::Key_Return)}, deletes},
+        {control(5), {1}, {key(5, Qt::Key_Down)}, opensAlert},
+        {[&] { return table; }, {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300}, toTable, deletes},
+        {[&] { return table; }, {1700, 1701, 1702, 1703, 1704, 1706, 1707, 4200, 4300}, toTable, reloads},
+        {[&] { return outline; }, {1800, 1801, 1802, 1803, 1804, 1805, 1806}, toOutline, deletes},
+        {[&] { return outline; }, {1800, 1801, 1802, 1803, 1804, 1805, 1806}, toOutline, reloads},
+        {[&] { return tabs; }, {1600, 1601, 1602}, toTabs, deletes},
+        {[&] { return tabs->widget(1); }, {1600, 1601}, toTabs, deletes},
+        {[&] { return split; }, {1501, 1502, 1503, 1504, 1506, 1508, 1509, 1510, 1511, 1512}, toSplit, deletes},
+        {[&] { return text; }, {2100, 2101, 2102, 2103, 2104}, toText, deletes},
+        {[&] { return tokens; }, {2300, 2301, 2302, 1}, toTokens, deletes},
+        {[&] { return popover; }, {1300, 1301, 1302, 1304, 1305, 1306, 1307}, toPopover, deletes},
+        {[&] { return item; }, {1900, 1901}, toItem, deletes},
+        {[] { return CUI_ColorPanel(Qt::red); }, {2600}, toPanel, deletes},
+    };
+    for (const auto &[find, events, acts, harm] : rows) {
+        for (const qint64 dangerous : events) {
             TearDown();
             SetUp();
-            return victim();
-        };
-        expectSurvival(events, renew, happenings);
-        if (other) {
-            expectSurvival(events, renew, happenings, [other = other](QObject *) { other(); });
+            const QPointer<QObject> victim = find();
+            bool isHarmed = false;
+            atEvent = [&, respond = atEvent, harms = harm](qint64 event) {
+                respond(event);
+                if (event == dangerous && !std::exchange(isHarmed, true)) {
+                    harms(victim);
+                }
+            };
+            for (const auto &act : acts) {
+                if (victim) {
+                    act();
+                    takeSiteCalls();
+                }
+            }
+            atEvent = nullptr;
+            EXPECT_TRUE(isHarmed) << dangerous;
         }
     }
 }

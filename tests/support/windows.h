@@ -73,16 +73,6 @@ inline std::function<void(qint64)> answers(const Answers &all)
     };
 }
 
-/// The codes of such calls, with a blank between them.
-inline QString codesOf(const QStringList &calls)
-{
-    QStringList codes;
-    for (const QString &call : calls) {
-        codes << call.section(u' ', 0, 0);
-    }
-    return codes.join(u' ');
-}
-
 /// Leaves no window, no output window and no dialog function behind.
 class WindowTest : public testing::Test
 {
@@ -92,8 +82,7 @@ protected:
         atEvent = nullptr;
         valuesOf = nullptr;
         CUI_SetOnDialogFunction(nullptr);
-        const QList<Window *> left = orderedWindows();
-        qDeleteAll(left);
+        qDeleteAll(orderedWindows());
         CUI_OutputWindowSetTag(0);
         dialogCalls.clear();
     }
@@ -116,11 +105,6 @@ void whenRuns(std::function<void(Widget *)> action)
 
 using Answer = std::function<void(Alert *)>;
 
-inline void whenAlertRuns(const Answer &action)
-{
-    whenRuns<Alert>(action);
-}
-
 /// Answers an alert with a click on one of its buttons.
 inline Answer clicks(int index)
 {
@@ -136,6 +120,12 @@ inline QStringList titlesOf(const Alert *alert)
     return titles;
 }
 
+/// How an exit test expects its program to end: by this signal, or with status 0 if the signal is 0.
+inline std::function<bool(int)> endedBy(int signal)
+{
+    return signal ? std::function<bool(int)>(testing::KilledBySignal(signal)) : testing::ExitedWithCode(0);
+}
+
 /// Whether every alert is off the screen again.
 inline bool noAlertLeft()
 {
@@ -143,12 +133,41 @@ inline bool noAlertLeft()
     return !modalWindow() && std::ranges::none_of(QApplication::topLevelWidgets(), isLeft);
 }
 
+/// The texts of every alert that a statement queues, as "title|text"; each is answered with its first button. One more
+/// alert is queued behind them, so that none that was to come is missed and none is waited for in vain.
+inline QString alertsOf(const std::function<void()> &statement)
+{
+    QStringList shown;
+    QTimer answerer;
+    answerer.callOnTimeout([&shown] {
+        if (const auto *const alert = qobject_cast<Alert *>(modalWindow())) {
+            shown << alert->text() + u'|' + alert->informativeText();
+            alert->alertButtons().constFirst()->click();
+        }
+    });
+    answerer.start(0);
+    statement();
+    EXPECT_TRUE(shown.isEmpty()) << "alerts appear in the next modal loop";
+    CUI_ShowAlert(alertStyleWarning, u"(end)"_s, QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.contains(u"(end)|"_s); }));
+    shown.removeAll(u"(end)|"_s);
+    return shown.join(u", "_s);
+}
+
+/// Whether the receiver accepts an event of this class, made of the arguments.
+template <typename Event, typename... Arguments>
+bool send(QObject *receiver, const Arguments &...arguments)
+{
+    Event event(arguments...);
+    QApplication::sendEvent(receiver, &event);
+    return event.isAccepted();
+}
+
 /// What the mouse does at a place of the widget, with the buttons that are down then.
 inline void sendMouse(QWidget *widget, QEvent::Type type, const QPointF &place, Qt::MouseButton button,
                       Qt::MouseButtons buttons)
 {
-    QMouseEvent event(type, place, widget->mapToGlobal(place), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
+    send<QMouseEvent>(widget, type, place, widget->mapToGlobal(place), button, buttons, Qt::NoModifier);
 }
 
 /// Presses the left button and moves with it down.
