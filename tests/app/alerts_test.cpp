@@ -14,20 +14,17 @@ namespace {
 
 /// A real key press and release for whatever has the focus in the alert; `held` makes it one repetition of
 /// a key that was already down.
-void pressKey(Alert *alert, Qt::Key key, bool held = false, Qt::KeyboardModifiers modifiers = {})
-{
-    const QPointer<QWidget> target = alert->focusWidget() ? alert->focusWidget() : alert;
-    const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(char16_t(key))) : QString();
-    for (const bool isPress : {true, false}) {
-        if (target) {
-            QTest::simulateEvent(target, isPress, key, modifiers, text, held);
-        }
-    }
-}
-
 Answer presses(Qt::Key key, bool held = false, Qt::KeyboardModifiers modifiers = {})
 {
-    return [=](Alert *alert) { pressKey(alert, key, held, modifiers); };
+    return [=](Alert *alert) {
+        const QPointer<QWidget> target = alert->focusWidget() ? alert->focusWidget() : alert;
+        const QString text = key >= Qt::Key_A && key <= Qt::Key_Z ? QString(QChar(char16_t(key))) : QString();
+        for (const bool isPress : {true, false}) {
+            if (target) {
+                QTest::simulateEvent(target, isPress, key, modifiers, text, held);
+            }
+        }
+    };
 }
 
 // What must not answer comes first; the second button then ends the run.
@@ -72,7 +69,10 @@ protected:
 
 TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
 {
-    const auto tabAndReturn = [](Alert *alert) { pressKey(alert, Qt::Key_Tab), pressKey(alert, Qt::Key_Return); };
+    const auto tabAndReturn = [](Alert *alert) {
+        presses(Qt::Key_Tab)(alert);
+        presses(Qt::Key_Return)(alert);
+    };
     // A button, the key that it is given unless that is null, what happens then, and the code.
     const Table<quint64, QString, Answer, qint64> rows = {
         {"click on the first", 0, {}, clicks(0), 1000},

@@ -57,7 +57,7 @@ QString happen(const std::function<QVariant(App &)> &callback)
     return both.at(0) == both.at(1) ? both.at(0) : both.at(0).section(u' ', 1);
 }
 
-TEST(AppDelegateTable, Notifications)
+TEST(AppDelegateTable, NotificationsQuestionsAndArguments)
 {
     CUI_SetOnAppEventFunction(look);
     // clang-format off
@@ -74,12 +74,6 @@ TEST(AppDelegateTable, Notifications)
         codes << happen([callback](App &own) { return (own.*callback)(), QVariant(); });
     }
     EXPECT_EQ(codes.join(u','), u"1 ,2 ,5 ,6 ,7 ,8 ,9 ,10 ,11 ,12 ,13 ,14 ,15 ,19 ,35 "_s);
-    CUI_SetOnAppEventFunction(nullptr);
-}
-
-TEST(AppDelegateTable, QuestionsAndArguments)
-{
-    CUI_SetOnAppEventFunction(look);
     QMenu menu;
     dockMenu = &menu;
     const std::pair<std::function<QVariant(App &)>, QString> rows[] = {
@@ -153,7 +147,7 @@ protected:
     Window *m_window = nullptr;
 };
 
-TEST_F(WindowDelegateTable, Notifications)
+TEST_F(WindowDelegateTable, NotificationsAndQuestions)
 {
     // clang-format off
     void (Delegate::*const all[])(Window *) = {
@@ -173,10 +167,6 @@ TEST_F(WindowDelegateTable, Notifications)
     EXPECT_EQ(codes.join(u',').remove(u" 7 7"_s),
               u"10001 *,10002 *,10004,10005,10006 *,10007,10008,10009 *,10014,10015 *,10016,10017 *,10022,10025,"
               "10026 *,10027 *,10028 *,10032,10033 *,10034,10035 *,10036,10037"_s);
-}
-
-TEST_F(WindowDelegateTable, Questions)
-{
     QMenu menu;
     const QRectF rect(1, 2, 30, 40);
     const QRectF movedRect = rect.translated(1, 1);

@@ -147,23 +147,17 @@ TEST_F(Windows, BackgroundColoursTheContentOnly)
 
 TEST_F(Windows, ClosingReleasesUnlessSetOtherwiseAndIsReportedOnceWhileTheWindowIsKnown)
 {
-    const Table<bool, bool> rows = {
-        {"released", true, true},
-        {"kept", false, false},
-        {"kept by the callback that the closing is reported to", true, false},
-    };
-    static bool keeps = false;
-    for (const auto &[name, releasedBefore, released] : rows) {
-        SCOPED_TRACE(name);
+    // Whether it is released as set before it closes, and as set by the callback.
+    static bool released = false;
+    for (const auto &[before, later] : {std::pair(true, true), {false, false}, {true, false}}) {
         QPointer<Window> window = open(1);
-        window->setReleasedWhenClosed(releasedBefore);
-        keeps = releasedBefore && !released;
+        window->setReleasedWhenClosed(before);
+        released = later;
         window->setCuiWindowCallback([](Tag tag, qint64 event, void *) {
             if (event == windowEventWillClose) {
-                Window *const known = CUI_WindowWithTag(tag);
                 dialogCalls << u"will close"_s;
-                known->setReleasedWhenClosed(known->isReleasedWhenClosed() && !keeps);
-                known->close(); // already closing
+                CUI_WindowWithTag(tag)->setReleasedWhenClosed(released);
+                CUI_WindowWithTag(tag)->close(); // already closing
             }
         });
         EXPECT_TRUE(window->close());

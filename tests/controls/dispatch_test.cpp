@@ -69,10 +69,6 @@ TEST_F(Dispatch, ActionIsChosenByName)
         EXPECT_EQ(lastObject, tagFromObject(button));
         EXPECT_EQ(current, QEvent::MouseButtonRelease);
     }
-    QEvent own(QEvent::User);
-    CUI_EventSetEvent(&own);
-    EXPECT_EQ(CUI_EventEvent(), &own);
-    CUI_EventSetEvent(nullptr);
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 11); }), QString()) << "an id out of range needs no control";
     EXPECT_EQ(alertsOf([] { ControlSetActionID(6, 1); }), u"Tag error.|Can't find view 6 in window 7."_s);
 }

@@ -39,17 +39,13 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPosition)
 {
     QWidget *const content = open(1)->contentView();
     QWidget *const plain = named(content, u"7"_s);
-    QWidget *const trailing = named(content, u"14 apples"_s);
     QWidget *const effect = named<VisualEffectView>(content, u"10"_s);
     QWidget *const untagged = named<QPushButton>(content, u"8"_s);
     named<QFrame>(content, u"13"_s);
     tagged<QWidget>(content, 9);
-    QWidget *const button = tagged(content, 5);
-    QWidget *const inner = tagged<ContentViewSC>(content, 11);
     auto *const tabs = tagged<QTabWidget>(content, 20);
     tabs->addTab(named(nullptr, u"24"_s), u"One"_s);
     tabs->addTab(named(nullptr, {}), u"Two"_s);
-    QWidget *const inSecondTab = tagged(tabs->widget(1), 21);
     tagged(tabs->widget(1), 22);
     QWidget *const firstOfTwo = tagged(tabs->widget(0), 22);
     auto *const segments = tagged<SegmentedControlSC>(content, 30);
@@ -65,17 +61,17 @@ TEST_F(Lookup, ReadsEachClassesTagInItsPosition)
         {"unknown", 99, nullptr},
         {"negative", -5, nullptr},
         {"plain view by its identifier", 7, plain},
-        {"number with text behind it", 14, trailing},
+        {"number with text behind it", 14, named(content, u"14 apples"_s)},
         {"visual-effect view by its identifier", 10, effect},
-        {"button by its tag", 5, button},
-        {"inner content view by its tag", 11, inner},
+        {"button by its tag", 5, tagged(content, 5)},
+        {"inner content view by its tag", 11, tagged<ContentViewSC>(content, 11)},
         {"a button's identifier does not count", 8, nullptr},
         {"nor does that of a class derived from the plain view", 13, nullptr},
         {"a plain view's tag does not count", 9, nullptr},
         {"the content view itself", contentViewTag, content},
         {"a view instead of a tag", tagFromObject(effect), effect},
         {"the tab view itself", 20, tabs},
-        {"in a tab that is not selected", 21, inSecondTab},
+        {"in a tab that is not selected", 21, tagged(tabs->widget(1), 21)},
         {"in the order of the tabs, not of creation", 22, firstOfTwo},
         {"a tab's own view is not compared", 24, nullptr},
         {"a segmented control", 30, segments},
@@ -130,8 +126,6 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_s);
     auto *const view = new QSlider;
     CUI_ToolbarAddViewItem(50, 43, tagFromObject(view));
-    EXPECT_EQ(CUI_ToolbarTag(toolbar), 50);
-    EXPECT_EQ(ToolbarItemWithTag(toolbar, 44), item);
     CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_s);
     CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_s);
     QWidget *const inContent = tagged(content, 42);

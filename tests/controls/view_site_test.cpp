@@ -14,16 +14,10 @@ protected:
     void SetUp() override
     {
         SiteTest::SetUp();
-        m_view = makeView();
-    }
-
-    ViewSC *makeView(Tag tag = 5)
-    {
-        CUI_ViewSubclass(tag, QRectF(10, tag == 5 ? 10 : 100, 100, 80));
+        CUI_ViewSubclass(5, QRectF(10, 10, 100, 80));
+        m_view = m_content->findChild<ViewSC *>();
         takeSiteCalls();
-        auto *const view = qobject_cast<ViewSC *>(CUI_ViewWithTag(tag));
         CUI_OutputWindowSetTag(0);
-        return view;
     }
 
     QPointer<ViewSC> m_view;
@@ -36,25 +30,20 @@ Happening mouse(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons butt
     return [=](QWidget *view) { sendMouse(view, type, QPointF(20, 30), button, buttons); };
 }
 
+template <typename Event, typename... Arguments>
+Happening sends(Arguments... arguments)
+{
+    return [=](QWidget *view) { send<Event>(view, arguments...); };
+}
+
 Happening key(QEvent::Type type, Qt::Key code, bool repeats = false)
 {
-    return [=](QWidget *view) { send<QKeyEvent>(view, type, code, Qt::NoModifier, u"x"_s, repeats); };
+    return sends<QKeyEvent>(type, code, Qt::NoModifier, u"x"_s, repeats);
 }
 
-void enter(QWidget *view)
-{
-    send<QEnterEvent>(view, QPointF(3, 4), QPointF(3, 4), QPointF(3, 4));
-}
-
-void leave(QWidget *view)
-{
-    send<QEvent>(view, QEvent::Leave);
-}
-
-void askForMenu(QWidget *view)
-{
-    send<QContextMenuEvent>(view, QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
-}
+const Happening enter = sends<QEnterEvent>(QPointF(3, 4), QPointF(3, 4), QPointF(3, 4));
+const Happening leave = sends<QEvent>(QEvent::Leave);
+const Happening askForMenu = sends<QContextMenuEvent>(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
 
 TEST_F(ViewSite, EveryEventCarriesItsCodeTagsAndPlatformEvent)
 {
@@ -193,11 +182,12 @@ TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
         EXPECT_EQ(takeSiteCalls(), u"2001 5 7, 2002 5 7, 2004 5 7"_s);
     }
     m_view->clearFocus();
-    const ViewSC *const second = makeView(6);
+    CUI_ViewSubclass(6, QRectF(10, 100, 100, 80));
+    takeSiteCalls();
     atEvent = [](qint64) { answer(dialogCalls.constLast() == u"2001 6 7"_s); };
     m_view->setFocus(Qt::TabFocusReason);
     takeSiteCalls();
-    EXPECT_TRUE(second->hasFocus()) << "Tab passes by views that refuse";
+    EXPECT_TRUE(CUI_ViewWithTag(6)->hasFocus()) << "Tab passes by views that refuse";
 }
 
 TEST_F(ViewSite, PopsUpTheMenuThatTheProgramLeavesInTheRecord)
@@ -239,8 +229,8 @@ TEST_F(ViewSite, DragsAreReportedThatOfferAnAcceptedType)
         if (enters) {
             EXPECT_EQ(send<QDropEvent>(m_view, QPoint(2, 3), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier),
                       takes);
-            QDragLeaveEvent leave; // The application keeps it from where nothing is dragged any more.
-            static_cast<QObject *>(m_view)->event(&leave);
+            QDragLeaveEvent left; // The application keeps it from where nothing is dragged any more.
+            static_cast<QObject *>(m_view)->event(&left);
         }
         EXPECT_EQ(takeSiteCalls(), calls);
     }

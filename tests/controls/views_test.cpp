@@ -117,6 +117,7 @@ protected:
         text = m_content->findChild<TextViewSC *>();
         tokens = m_content->findChild<TokenFieldSC *>();
         CUI_Popover(9, QSizeF(80, 60), popoverApplicationDefined);
+        EXPECT_EQ(CUI_OutputWindowTag(), 9);
         PopoverSetAsks(9, true);
         popover = CUI_PopoverWithTag(9);
         split->setHandleWidth(5);
@@ -134,18 +135,15 @@ protected:
         SiteTest::TearDown();
     }
 
-    QPoint centerOf(int row) const { return table->visualItemRect(table->item(row, 0)).center(); }
-    void pressRow(int row) const { QTest::mousePress(table->viewport(), Qt::LeftButton, {}, centerOf(row)); }
+    static void press(QWidget *widget, const QRect &part)
+    {
+        QTest::mousePress(widget, Qt::LeftButton, {}, part.center());
+    }
+    QRect partOf(int row) const { return table->visualItemRect(table->item(row, 0)); }
+    void pressRow(int row) const { press(table->viewport(), partOf(row)); }
     void expand(bool expands) const { outline->topLevelItem(1)->setExpanded(expands); }
-    void pressItem() const
-    {
-        const QPoint position = outline->visualItemRect(outline->topLevelItem(0)).center();
-        QTest::mousePress(outline->viewport(), Qt::LeftButton, {}, position);
-    }
-    void pressTab() const
-    {
-        QTest::mousePress(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
-    }
+    void pressItem() const { press(outline->viewport(), outline->visualItemRect(outline->topLevelItem(0))); }
+    void pressTab() const { press(tabs->tabBar(), tabs->tabBar()->tabRect(1)); }
     void dragDivider(int distance) const { dragMouse(split->handle(1), QPoint(2, 10), QPoint(2 + distance, 10)); }
     void select(int from, int to) const
     {
@@ -163,10 +161,7 @@ protected:
     }
     static void showPopover() { PopoverShow(9, contentViewTag, QRectF(0, 0, 5, 5), Qt::BottomEdge); }
     void dragPopover() const { dragMouse(popover->contentView(), QPoint(10, 10), QPoint(60, 50)); }
-    void clickItem() const
-    {
-        QTest::mouseClick(CUI_WindowToolbar(CUI_WindowWithTag(7))->widgetForAction(item), Qt::LeftButton);
-    }
+    void clickItem() const { QTest::mouseClick(CUI_ViewWithTag(19), Qt::LeftButton); }
 };
 
 TEST_F(Views, TableShowsWhatTheProgramAnswers)
@@ -201,8 +196,8 @@ TEST_F(Views, TableQueriesAndReportsSelectionEditsAndColumnClicks)
     const auto dragOverAll = [&] {
         atEvent = [](qint64) { answer(CUI_DialogEventObj()->longVal != 1); };
         pressRow(0);
-        for (const QPoint position : {centerOf(0), centerOf(1), centerOf(1), centerOf(2), QPoint(20, 170)}) {
-            sendMouse(table->viewport(), QEvent::MouseMove, position + QPoint(1, 1), Qt::NoButton, Qt::LeftButton);
+        for (const QRect &part : {partOf(0), partOf(1), partOf(1), partOf(2), QRect(20, 170, 1, 1)}) {
+            sendMouse(table->viewport(), QEvent::MouseMove, part.center(), Qt::NoButton, Qt::LeftButton);
         }
     };
     const auto edit = [&] {
