@@ -93,7 +93,7 @@ const ConsoleText::Piece *ConsoleText::pieceAfter(const Piece &piece) const
 
 qsizetype ConsoleText::charactersBefore(qsizetype offset) const
 {
-    const QStringView before = QStringView(m_text).left(offset);
+    const QStringView before = QStringView(m_text).first(std::max<qsizetype>(offset, 0));
     return offset - std::count_if(before.begin(), before.end(), [](QChar unit) { return unit.isLowSurrogate(); });
 }
 
