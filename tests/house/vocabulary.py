@@ -1,14 +1,11 @@
-"""The vocabulary of vocabulary.txt, as a source to compile or as the index in docs/runtime.md.
+"""The vocabulary of vocabulary.txt, as a source to compile and in the index in docs/runtime.md.
 
     python3 vocabulary.py source ROOT      prints a source that names every name
-    python3 vocabulary.py check ROOT       fails unless the index in docs/runtime.md is that of the headers
-    python3 vocabulary.py write ROOT       writes the index
+    python3 vocabulary.py index ROOT       fails unless the index has every name once, with the header that declares it
 """
 import re
 import sys
 from pathlib import Path
-
-BEGIN, END = "<!-- index: tests/house/vocabulary.py write -->\n", "<!-- end of the index -->\n"
 
 
 def vocabulary(root):
@@ -33,43 +30,16 @@ def source(root):
     print(*lines, sep="\n")
 
 
-def header_of(name, headers):
-    declared = re.compile(r"^[^/\n]*(?<![\w:.>({])%s(?= *[(\[;=\n]| : | final)" % name, re.MULTILINE)
-    found = [header for header, text in headers.items() if declared.search(text)]
-    if len(found) != 1:
-        sys.exit(f"{name}: expected in one public header, found in {found or 'none'}")
-    return found[0]
-
-
 def index(root):
-    folder = Path(root, "include")
-    # Without what is only declared for the rest of the header.
-    headers = {header.relative_to(folder).as_posix():
-               re.sub(r"^(class|struct) \w+;$", "", header.read_text(encoding="utf-8"), flags=re.MULTILINE)
-               for header in folder.rglob("*.h") if header.name not in ("fwd.h", "tetrad.h")}
-    names, _ = vocabulary(root)
-    where = {}
-    for heading, own in names.items():
-        if heading != "Game":
-            for name in own:
-                where.setdefault(header_of(name, headers), []).append(name)
-    rows = [f"| `<{header}>` | {', '.join(f'`{name}`' for name in sorted(own, key=str.lower))} |\n"
-            for header, own in sorted(where.items())]
-    return "| Header | Names |\n|---|---|\n" + "".join(rows)
+    wanted = sorted(name for heading, own in vocabulary(root)[0].items() if heading != "Game" for name in own)
+    rows = re.findall(r"^\| `<(tetrad/.+)>` \| (.+) \|$", Path(root, "docs/runtime.md").read_text("utf-8"), re.MULTILINE)
+    indexed = [(name, header) for header, names in rows for name in re.findall(r"\w+", names)]
+    for name, header in indexed:
+        declared = rf"^[^/\n]*(?<![\w:.>({{]){name}(?= *[(\[;=\n]| : | final)"
+        if not re.search(declared, Path(root, "include", header).read_text("utf-8"), re.MULTILINE):
+            sys.exit(f"docs/runtime.md: <{header}> does not declare {name}")
+    if sorted(name for name, _ in indexed) != wanted:
+        sys.exit(f"docs/runtime.md: not once in the index: {set(wanted) ^ {name for name, _ in indexed} or 'a name twice'}")
 
 
-def main(command, path):
-    if command == "source":
-        source(path)
-        return
-    document = Path(path, "docs", "runtime.md")
-    text = document.read_text(encoding="utf-8")
-    before, rest = text.split(BEGIN)
-    wanted = before + BEGIN + index(path) + END + rest.split(END)[1]
-    if command == "write":
-        document.write_text(wanted, encoding="utf-8")
-    elif wanted != text:
-        sys.exit("The index in docs/runtime.md is out of date: python3 tests/house/vocabulary.py write .")
-
-
-main(*sys.argv[1:])
+{"source": source, "index": index}[sys.argv[1]](sys.argv[2])
