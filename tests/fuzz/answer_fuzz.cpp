@@ -1,5 +1,5 @@
 // Answers, judged whole: by libFuzzer, and by rules_test with damaged solutions. Input: a puzzle's position, then the
-// answer. That the values are right is seen by tests/game/evaluator_against_python.py.
+// answer. That the values are right is seen by expression_test.
 
 #include "tests/game/puzzles.h"
 
