@@ -1,7 +1,7 @@
 #include "tests/console/printing.h"
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QTextLayout>
 
 using namespace tetrad;
 
@@ -124,22 +124,21 @@ TEST_F(Console, aProgramChangesItsItems)
     EXPECT_EQ(items(), u"b@0,0 c@0,0 d@0,0"_s);
     EXPECT_EQ(page.items().itemsIn({0, 0, 9, 9}), (std::vector<quint32>{0, 1, 2}));
     EXPECT_EQ(page.reader().text().text(), u"b c d"_s);
+    page.addString(u"line\n"_s.repeated(2000));
+    page.addRect({0, 0, 10, 90000}, Qt::black, QColor());
+    const auto near = page.items().itemsIn({0, 9000, 400, 250});
+    EXPECT_TRUE(near.size() < 60 && near.back() == page.items().size() - 1)
+        << "lines nearby and what reaches from afar";
 }
 
-TEST(Measuring, agreesWithLayingOut)
+TEST(Measuring, agreesWithTheFont)
 {
     for (const double size : {9.0, 12.0, 12.5, 18.0}) {
         TextAttributes attributes;
         attributes.setFontSize(size);
-        for (const QString &text : {u"1-3/4"_s, u" 24 "_s, u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_s}) {
-            QTextLayout layout(text, attributes.facts().font);
-            layout.beginLayout();
-            QTextLine line = layout.createLine();
-            line.setLineWidth(9000);
-            layout.endLayout();
-            const double trailing = line.cursorToX(static_cast<int>(text.size()));
-            EXPECT_DOUBLE_EQ(measureText(text, attributes).width, trailing) << size << text.toStdString();
-        }
+        const QString text = u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_s;
+        const QFontMetricsF metrics(attributes.facts().font);
+        EXPECT_NEAR(measureText(text, attributes).width, metrics.horizontalAdvance(text), 0.01) << size;
     }
 }
 
@@ -182,33 +181,6 @@ TEST_F(Console, theArchiveHasWhatAnItemIsMadeOf)
     EXPECT_EQ(item.value(u"fillColor"_s), QColor(Qt::green));
 }
 
-TEST_F(Console, strokesAreSeenInTheMiddleOfALine)
-{
-    // The pixels from x 4 to 35, '#' dark, along a line from x 10 to 30.
-    const Table<LineStyle, std::string> rows = {
-        {"thinnest", {.lineWidth = 0}, "......####################......"},
-        {"dashes in pixels", {.lineWidth = 3, .lineDashPattern = {5, 3}}, "......#####...#####...####......"},
-        {"dashes of the thinnest", {.lineWidth = 0, .lineDashPattern = {5, 3}}, "......#####...#####...####......"},
-        {"phase", {.lineWidth = 3, .lineDashPattern = {5, 3}, .lineDashPhase = 2}, "......###...#####...#####......."},
-        {"odd pattern", {.lineWidth = 2, .lineDashPattern = {4}}, "......####....####....####......"},
-        {"useless pattern", {.lineWidth = 3, .lineDashPattern = {0, 0}}, "......####################......"},
-    };
-    for (const auto &[name, style, expected] : rows) {
-        page.clear();
-        page.setCurrentLineWidth(style.lineWidth);
-        page.setCurrentLineDashPattern(style.lineDashPattern);
-        page.setCurrentLineDashPhase(style.lineDashPhase);
-        page.setCurrentLinePoint({10, 20.5});
-        page.addLines({{30, 20.5}}, true);
-        const QImage image = pictureOf(page, 1, {36, 40});
-        std::string row;
-        for (int x = 4; x < 36; ++x) {
-            row += image.pixelColor(x, 20).lightness() < 128 ? '#' : '.';
-        }
-        EXPECT_EQ(row, expected) << name;
-    }
-}
-
 TEST_F(Console, readsAsOneText)
 {
     page.addString(u"Numbers:\b"_s);
@@ -228,24 +200,23 @@ TEST_F(Console, readsAsOneText)
 // A program that clears and prints its whole screen again: a paragraph that was spoken is news no more.
 TEST_F(Console, givesParagraphsThatWereThereBeforeTheClearOnce)
 {
+    // What is printed and what of it is spoken, none if nobody asks.
     const std::pair<QString, QString> screens[] = {{u"rules\nmore rules\n\n1 2"_s, u"rules\nmore rules\n1 2"_s},
                                                    {u"rules\nmore rules\n\n3 4"_s, u"3 4"_s},
-                                                   {u"rules\nless rules\n\n1 2"_s, u"rules\nless rules\n1 2"_s}};
+                                                   {u"rules\nless rules\n\n1 2"_s, u"rules\nless rules\n1 2"_s},
+                                                   {u"\nunread"_s, {}},
+                                                   {u"rules\nless rules\n\nnew"_s, u"new"_s}};
     for (const auto &[printed, spoken] : screens) {
         page.clear();
         page.addString(printed);
-        EXPECT_EQ(page.reader().takeNew(), spoken);
-        for (int time = 0; time < 2; ++time) {
+        if (!spoken.isNull()) {
+            EXPECT_EQ(page.reader().takeNew(), spoken);
+        }
+        for (int time = 0; time < 2 && !spoken.isNull(); ++time) {
             page.addString(u"error"_s);
             EXPECT_EQ(page.reader().takeNew(), u"error"_s) << "said each time";
         }
     }
-    // A screen that nobody was asked about changes nothing.
-    page.clear();
-    page.addString(u"\nunread"_s);
-    page.clear();
-    page.addString(u"rules\nless rules\n\nnew"_s);
-    EXPECT_EQ(page.reader().takeNew(), u"new"_s);
 }
 
 /// As the game prints: gaps between lines, an error line that was erased and printed again.

@@ -15,8 +15,6 @@
 
 namespace tetrad {
 
-using namespace Qt::StringLiterals;
-
 /// A document over white; what is selected is red.
 inline QImage pictureOf(ConsoleDocument &document, double scale, const QSize &size)
 {

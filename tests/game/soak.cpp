@@ -5,24 +5,11 @@
 
 #include "game/rules/puzzle_deck.h"
 #include "tests/game/puzzles.h"
+#include "tests/support/windows.h"
 
-#include <tetrad/app/alert.h>
-#include <tetrad/app/application.h>
-#include <tetrad/app/modal.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/console/console_view.h>
-#include <tetrad/input/line_input.h>
-#include <tetrad/strings/pascal_strings.h>
-
-#include <QApplication>
 #include <QDir>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
-#include <QTimer>
 
 #include <malloc.h>
 
@@ -85,26 +72,20 @@ QString puzzleOnScreen()
 class Player
 {
 public:
-    explicit Player(int puzzles) : m_puzzles(puzzles)
-    {
-        m_timer.callOnTimeout([this] { look(); });
-        m_timer.start(0);
-    }
+    explicit Player(int puzzles) : m_puzzles(puzzles) { answerNext(); }
 
 private:
-    void look()
+    void answerNext()
     {
-        QWidget *widget = modalWindow();
-        if (!widget || widget == m_answered || !widget->isActiveWindow()) {
-            return;
-        }
-        m_answered = widget;
-        if (auto *alert = qobject_cast<Alert *>(widget)) {
-            alert->alertButtons().at(1)->click();
-        } else if (auto *panel = qobject_cast<ZRInputWindow *>(widget)) {
-            require(gZRStk == 0, "the string stack is back at its start");
-            answer(panel->field());
-        }
+        whenRuns<QWidget>([this](QWidget *widget) {
+            if (auto *alert = qobject_cast<Alert *>(widget)) {
+                clicks(1)(alert);
+            } else if (auto *panel = qobject_cast<ZRInputWindow *>(widget)) {
+                require(gZRStk == 0, "the string stack is back at its start");
+                answer(panel->field());
+            }
+            answerNext();
+        });
     }
 
     void answer(QLineEdit *field)
@@ -146,8 +127,6 @@ private:
     int m_puzzles = 0;
     int m_played = 0;
     qsizetype m_turn = 1; // the way before the first is done
-    QTimer m_timer;
-    QPointer<QWidget> m_answered;
 };
 
 } // namespace

@@ -4,9 +4,6 @@
 #include <tetrad/input/control_formatter.h>
 #include <tetrad/input/line_input.h>
 
-#include <QClipboard>
-#include <QLineEdit>
-
 using namespace tetrad;
 
 namespace {

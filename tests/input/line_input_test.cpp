@@ -3,10 +3,6 @@
 #include <tetrad/app/app_delegate.h>
 #include <tetrad/input/line_input.h>
 
-#include <QClipboard>
-#include <QLineEdit>
-#include <QWindow>
-
 using namespace tetrad;
 
 namespace {
@@ -78,27 +74,6 @@ TEST_F(LineInput, limitAndCaseReachTheFieldAndNeitherHeldKeysNorALostFocusAnswer
         answerWith(panel, u"abca"_s);
     };
     EXPECT_EQ(ask(u"abc"_s, user, 3, caseForceUpper), u"ABC"_s);
-}
-
-TEST_F(LineInput, theContextMenuWorksDuringTheRun)
-{
-    QGuiApplication::clipboard()->setText(u"1+x"_s);
-    const QString answer = ask(answerKeys, [](ZRInputWindow &panel) {
-        // Qt 6.8 measures from where the pointer was when the menu opened, so it must have been somewhere.
-        QTest::mouseMove(panel.window()->windowHandle(), QPoint(1, 1));
-        QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(1, 8), panel.field()->mapToGlobal(QPoint(1, 8)));
-        QCoreApplication::sendEvent(panel.field(), &request);
-        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        for (QAction *const action : menu->actions()) {
-            if (action->text().contains(u"Paste")) {
-                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-            }
-        }
-        EXPECT_TRUE(QTest::qWaitFor([&] { return panel.field()->text() == u"1+"; }));
-        QTest::keyClick(panel.field(), Qt::Key_Return);
-    });
-    EXPECT_EQ(answer, u"1+"_s);
 }
 
 TEST_F(LineInput, aWindowDeletedUnderTheRunGivesNoneAndThenThePanelStandsAlone)

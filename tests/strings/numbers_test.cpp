@@ -26,7 +26,6 @@ TEST(NumberPrinter, printsEachForm)
         {"minus zero", 10, -0.0, " 0"},
         {"fraction", 10, 1.5, " 1.5"},
         {"zeros after the point are dropped", 10, 2.05, " 2.5"},
-        {"however many", 10, 2.000001, " 2.1"},
         {"between -1 and 0 the sign is lost", 10, -0.5, " 0.5"},
         {"fraction that rounds up to 1", 10, 2.99999999999, " 2.1."},
         {"ten digits", 10, 1.0 / 3, " 0.3333333333"},
@@ -36,7 +35,6 @@ TEST(NumberPrinter, printsEachForm)
         {"below that", 10, 9.9999997e-7, " 0"},
         {"largest 64-bit", 10, 9223372036854775807.0, " 9223372036854775807"},
         {"below 64 bits", 10, -1e300, "-9223372036854775808"},
-        {"infinite", 10, -infinity, "-9223372036854775808"},
         {"no number", 10, std::nan(""), " 0.nan"},
         {"two digits", 2, 1.0 / 3, " 0.33"},
         {"a fraction of zeros only leaves the point", 2, 7.001, " 7."},
@@ -58,8 +56,6 @@ TEST(NumberReader, readsTheLeadingNumber)
         {"plus sign", u"+7"_s, 7, 7},
         {"two signs", u"+-7"_s, 0, 0},
         {"blanks first", u" \t\n 8.5"_s, 8.5, 8},
-        {"junk after", u"12 puzzles"_s, 12, 12},
-        {"junk first", u"about 12"_s, 0, 0},
         {"no digit before the point", u".5"_s, 0.5, 0},
         {"no digit after the point", u"5."_s, 5, 5},
         {"point alone", u"."_s, 0, 0},
@@ -105,10 +101,8 @@ TEST(Locales, changeNeitherNumbersNorTheCaseOfAscii)
         EXPECT_EQ(InString(0, u"QUIT"_s, u"i"_s, searchCaseInsensitive), 2);
         EXPECT_EQ(InitZRGlobals(), 0);
         for (int value = 0; value < 256; ++value) { // Above ASCII these locales have multibyte characters.
-            const bool isUpper = value >= 'A' && value <= 'Z';
-            const bool isLower = value >= 'a' && value <= 'z';
-            EXPECT_EQ(gZRUpperChar[value], isLower ? value - 32 : value) << "byte " << value;
-            EXPECT_EQ(gZRLowerChar[value], isUpper ? value + 32 : value) << "byte " << value;
+            EXPECT_EQ(gZRUpperChar[value], value >= 'a' && value <= 'z' ? value - 32 : value) << "byte " << value;
+            EXPECT_EQ(gZRLowerChar[value], value >= 'A' && value <= 'Z' ? value + 32 : value) << "byte " << value;
         }
     }
 }
