@@ -75,6 +75,12 @@ TEST(Stop, EndsTheProcessOrReturnsAfterContinueAndARefusedTermination)
         ZRFullStop(u"Message"_s, u"Informative"_s, 0);
     };
     EXPECT_EXIT(stopWithoutAnApplication(), endedBy(SIGABRT), "Message\nInformative\n");
+    const auto warnWithoutAnApplication = [] {
+        std::destroy_at(QCoreApplication::instance());
+        CUI_ShowAlert(alertStyleWarning, u"Full"_s, u"100 %"_s);
+        AppTerminate();
+    };
+    EXPECT_EXIT(warnWithoutAnApplication(), endedBy(0), "Full 100 %\n");
     CocoaInit();
     CUI_AppDelegateObj()->delegateCallback = refuse;
     stopAndPress(u"Continue"_s, 0);

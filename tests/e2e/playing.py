@@ -50,16 +50,15 @@ class Game:
 
     # -- what is on the screen
 
-    def window(self, name=None):
-        return self.application.find("frame", "window", name=name)
+    def window(self):
+        return self.application.find("frame", "window")
 
     def identifier(self, name="Tetrad Game"):
         """Of its window with this name, as the display has it."""
         return self.desktop.window_of(self.process.pid, name)
 
-    def console(self, window=None):
-        texts = (self.window(window) if window else self.application).find_all("text", "entry")
-        return next((text for text in texts if "multi-line" in text.states), None)
+    def console(self):
+        return next((text for text in self.application.find_all("text", "entry") if "multi-line" in text.states), None)
 
     def screen(self):
         """The text of the console since it was last cleared."""
@@ -151,7 +150,7 @@ class Game:
         return next((item for item in items if item and item.rectangle[2] > 0), None)
 
     def activate(self, name="Tetrad Game"):
-        """Brings a window to the front as a click on its title bar does."""
+        """Brings a window of this name to the front."""
         self.desktop.run("xdotool", "windowactivate", "--sync", self.identifier(name))
 
     def answer(self, text, prompt=PROMPT):
@@ -227,10 +226,6 @@ class PlayingTest(unittest.TestCase):
 
     def assert_clean_end(self, game):
         self.assertEqual(game.wait_for_end(), (0, ""))
-
-    def assert_inside(self, node, left, top, room, depth):
-        x, y, width, height = node.rectangle
-        self.assertTrue(left <= x and x + width <= left + room and top <= y and y + height <= top + depth, node.rectangle)
 
     @contextlib.contextmanager
     def _keeping_evidence(self):

@@ -20,7 +20,6 @@
 
 using namespace tetrad;
 using namespace Qt::StringLiterals;
-using namespace std::string_literals;
 
 namespace {
 
@@ -83,26 +82,13 @@ const std::map<QString, std::function<void(const Numbers &)>> commands = {
     {u"sleep"_s, [](const Numbers &at) { std::this_thread::sleep_for(std::chrono::seconds(at(1))); }},
     {u"popover"_s, [](const Numbers &) { CUI_Popover(3, QSizeF(160, 80), popoverTransient); }},
     {u"show"_s, [](const Numbers &) { PopoverShow(3, contentViewTag, QRectF(), Qt::BottomEdge); }},
-    {u"toolbar"_s,
-     [](const Numbers &) {
-         CUI_Toolbar(4);
-         CUI_ToolbarAddItem(4, 41, u"Item"_s);
-     }},
-    {u"least"_s,
-     [](const Numbers &) {
-         least = {380, 120};
-     }},
+    {u"toolbar"_s, [](const Numbers &) { CUI_Toolbar(4), CUI_ToolbarAddItem(4, 41, u"Item"_s); }},
+    {u"least"_s, [](const Numbers &) { least = QSizeF(380, 120); }},
     {u"step"_s, [](const Numbers &) { step = 50; }},
     {u"restyle"_s, [](const Numbers &) { window()->setStyleMask(window()->styleMask() ^ windowStyleDefault); }},
     {u"sheet"_s, [](const Numbers &) { CUI_Alert(5, notGiven, u"Save?"_s, QString(), u"Save;Don't"_s, 1); }},
     {u"copy"_s, [](const Numbers &) { QGuiApplication::clipboard()->setText(u"kept"_s); }},
     {u"watch"_s, [](const Numbers &) { watchTheEnd(); }},
-    {u"report"_s,
-     [](const Numbers &) {
-         static int none = 0;
-         new QCoreApplication(none, nullptr);
-         CUI_ShowAlert(alertStyleWarning, u"Full"_s, u"100 %"_s);
-     }},
     {u"quit"_s, [](const Numbers &) { AppTerminate(); }},
 };
 
@@ -133,15 +119,11 @@ void watch()
 
 int main(int count, char **arguments)
 {
-    const std::span<char *> given = std::span(arguments, std::size_t(count)).subspan(1);
-    const bool isBare = given.front() == "bare"s;
-    if (!isBare) {
-        QCoreApplication::setApplicationName(u"Stranger"_s);
-        CocoaInit();
-        CUI_EditMenu(1);
-        CUI_SetOnDialogFunction(onEvent);
-    }
-    for (const char *command : given) {
+    QCoreApplication::setApplicationName(u"Stranger"_s);
+    CocoaInit();
+    CUI_EditMenu(1);
+    CUI_SetOnDialogFunction(onEvent);
+    for (const char *command : std::span(arguments, std::size_t(count)).subspan(1)) {
         carryOut(QString::fromUtf8(command));
     }
     QTimer timer;

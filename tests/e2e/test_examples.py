@@ -1,13 +1,14 @@
 """The example programs, driven by keys and mouse as a person would."""
 
 import os
-from pathlib import Path
+import re
 
 from playing import REPOSITORY, PlayingTest
 
 EXAMPLES = os.environ.get("TETRAD_EXAMPLES", str(REPOSITORY / "build" / "examples"))
 
 NAME = ("wait_for_prompt", "What is your name?")
+BOOK = ("wait_for", "frame", "Address book", "active")
 ANY_KEY = ("wait_for", "filler", "Any key ends the program:", "focused")
 SHAPES = {(0, 0, 0), (255, 0, 0), (0, 255, 0), (0, 255, 255), (255, 0, 255), (255, 255, 0)}
 
@@ -15,9 +16,6 @@ SHAPES = {(0, 0, 0), (255, 0, 0), (0, 255, 0), (0, 255, 255), (255, 0, 255), (25
 SCENES = [
     ("a name that looks like a format", "hello", [
         NAME, ("type", "%d %@"), ("press", "Return"), ANY_KEY, ("wait_for_line", "Hello, %d %@!"), ("press", "space")]),
-    ("no name", "hello", [NAME, ("press", "Return"), ANY_KEY, ("wait_for_line", "A short name."), ("press", "space")]),
-    ("no answer", "hello", [
-        NAME, ("type", "Ada"), ("press", "Escape"), ANY_KEY, ("wait_for_line", "A secret, then."), ("press", "space")]),
     ("the quit item by mouse", "hello", [NAME, ("choose", "Hello", "Quit Hello")]),
     ("shapes, and any key after a click", "sketch", [
         ANY_KEY, ("wait_for_colours", SHAPES), ("click_console",), ("press", "x")]),
@@ -48,6 +46,14 @@ SCENES = [
         ("press", "Up"), ("wait_for_line", "event 1707, tag 21, window 1: bool 0, long 0, .*"),
         ("click", "table column header", "Size"), ("wait_for_line", "event 1708, tag 21, window 1: .*"),
         ("press", "alt+F4")]),
+    ("a form keeps an address book", "form", [
+        BOOK, ("click", "text", "Name"), ("press", "ctrl+a", *"Ada", "Tab", "3"), ("click", "radio button", "Work"),
+        ("click", "push button", "Add"), ("wait_for", "table cell", "Ada", "selected"),
+        ("press", "ctrl+s"), ("wait_for", "dialog", "Save the address book", "active"),
+        ("press", "asciitilde", "slash", *"people", "Return"), BOOK, ("press", "alt+F4")]),
+    ("which the next start shows", "form", [
+        BOOK, ("wait_for", "table cell", "Ada", "selected"), ("wait_for", "radio button", "Work", "checked"),
+        ("press", "alt+F4")]),
 ]
 
 
@@ -57,48 +63,12 @@ class TestExamples(PlayingTest):
             with self.subTest(shows):
                 self.example = self.start(command=[f"{EXAMPLES}/{program}"])
                 self.carry_out(steps, self.example)
-                self.assert_clean_end(self.example)
+                status, errors = self.example.wait_for_end()
+                # Qt reports each cell that the client asks for and that has just gone.
+                self.assertEqual((status, re.sub("QAccessibleTable::child: Invalid index.*\n", "", errors)), (0, ""))
 
     def click_console(self):
         self.desktop.click(*self.example.console().centre)
 
     def wait_for_colours(self, colours):
         self.example.wait(lambda: colours <= set(self.desktop.colours(*self.example.console().rectangle)), f"{colours}")
-
-    def test_form_keeps_an_address_book_until_the_next_start(self):
-        book = Path(self.desktop.folder, "people.book")
-        self.open_form()
-        for name, kind in [("Ada", "Friend"), ("Bob", "Work")]:
-            self.form.click("text", "Name")
-            self.desktop.press("ctrl+a")
-            self.desktop.type(f"{name}\t{len(name)}")
-            self.form.click("radio button", kind)
-            self.form.click("push button", "Add")
-            self.form.wait_for("table cell", name, "selected")
-        self.choose_file("ctrl+s", "Save the address book", book.with_suffix(""))
-        self.form.wait(lambda: book.exists() and book.read_text() == "Ada\t3\tFriend\nBob\t3\tWork\n", "the saved book")
-        self.form.click("table cell", "Ada")
-        self.form.wait_for("radio button", "Friend", "checked")
-        for button in ("Remove", "Change"):
-            self.form.click("push button", button)
-        self.form.wait(lambda: not self.form.application.find("table cell", name="Ada"), "one person less")
-        self.choose_file("ctrl+o", "Open an address book", book)
-        self.form.click("table cell", "Bob")
-        self.form.wait_for("radio button", "Work", "checked")
-        self.desktop.press("alt+F4")
-        # Not its standard error, where Qt reports each cell that the client asks for and that has just gone.
-        self.assertEqual(self.form.wait_for_end()[0], 0)
-        self.open_form()
-        self.form.wait_for("table cell", "Bob", "selected")
-        self.assertEqual(self.form.wait_for("text", "Name").text, "Bob")
-
-    def open_form(self):
-        self.form = self.start(command=[f"{EXAMPLES}/form"])
-        self.form.wait_for("frame", "Address book", "active")
-
-    def choose_file(self, shortcut, title, path):
-        self.desktop.press(shortcut)
-        self.form.wait_for("dialog", title, "active")
-        self.desktop.type(str(path))
-        self.desktop.press("Return")
-        self.form.wait_for("frame", "Address book", "active")

@@ -142,12 +142,6 @@ class TestStranger(PlayingTest):
                 self.start(*commands)
                 self.carry_out(steps, self.program)
 
-    def test_the_end_without_windows(self):
-        for commands, reported in (["bare", "quit"], b""), (["bare", "report", "quit"], b"Full 100 %\n"):
-            with self.subTest(commands):
-                run = subprocess.run([STRANGER, *commands], capture_output=True, timeout=60)
-                self.assertEqual((run.returncode, run.stderr), (0, reported))
-
     def test_nothing_runs_after_the_end_was_reported_and_copied_text_survives(self):
         self.start(ONE, "copy", "watch")
         manager, _ = self.desktop.start_answering(sys.executable, "-B", MANAGER)
@@ -160,12 +154,9 @@ class TestStranger(PlayingTest):
         self.start(ONE, "sleep 2", asks=False)
         self.answer("17")
 
-    def test_a_title_bar_stays_on_the_screen(self):
+    def test_the_frame_is_on_the_screen_and_known_after_each_change_of_style(self):
         self.start("open 1 10 10")
         self.assertGreaterEqual(self.frame()[1], 0)
-
-    def test_the_frame_is_known_after_each_change_of_style(self):
-        self.start(ONE)
         for is_titled in (True, False, True):
             with self.subTest(titled=is_titled):
                 until(lambda: (self.desktop.frame_extents(self.window_id())[2] > 0) == is_titled, "the style")
