@@ -1,17 +1,8 @@
 // The game's screen in words: what its own loop shows for a fixed draw, compared whole.
 
 #include "tests/support/windows.h"
-#include <tetrad/app/alert.h>
-#include <tetrad/console/console_statements.h>
-#include <tetrad/console/console_view.h>
-#include <tetrad/input/line_input.h>
-#include <tetrad/strings/text_functions.h>
 
-#include <QLineEdit>
 #include <QRegularExpression>
-
-#include <cstdio>
-#include <cstdlib>
 
 int gameMain(int argc, char **argv);
 

@@ -1,8 +1,6 @@
 #include "panel_helper.h"
 
 #include "runtime/input/field_formatter.h"
-#include <tetrad/input/control_formatter.h>
-#include <tetrad/input/line_input.h>
 
 using namespace tetrad;
 

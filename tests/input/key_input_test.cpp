@@ -1,9 +1,5 @@
 #include "panel_helper.h"
 
-#include <tetrad/app/app_delegate.h>
-#include <tetrad/input/key_input.h>
-#include <tetrad/input/line_input.h>
-
 #include <QLabel>
 
 using namespace tetrad;

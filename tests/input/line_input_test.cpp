@@ -1,8 +1,5 @@
 #include "panel_helper.h"
 
-#include <tetrad/app/app_delegate.h>
-#include <tetrad/input/line_input.h>
-
 using namespace tetrad;
 
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/windows.h"
-#include <tetrad/app/application.h>
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>

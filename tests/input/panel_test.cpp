@@ -1,7 +1,6 @@
 #include "panel_helper.h"
 
 #include "runtime/input/panel_layout.h"
-#include <tetrad/input/line_input.h>
 
 #include <QLabel>
 
