@@ -59,10 +59,11 @@ class Desktop:
         signal.signal(signal.SIGTERM, signal.default_int_handler)
         runtime = os.path.join(self.folder, "runtime")
         os.mkdir(runtime, 0o700)
-        # The fonts that Debian installs with the game. Others move the panel's field.
-        fonts = self.write("fonts.conf", "<fontconfig><include>/etc/fonts/fonts.conf</include><selectfont>"
-                           "<acceptfont><glob>*/NotoColorEmoji*</glob></acceptfont>"
-                           "<rejectfont><glob>*/Noto*</glob></rejectfont></selectfont></fontconfig>")
+        # The same font everywhere: the width of the prompt moves the panel's field.
+        fonts = self.write("fonts.conf", "<fontconfig><include>/etc/fonts/fonts.conf</include><match>"
+                           "<test name='family'><string>sans-serif</string></test>"
+                           "<edit name='family' mode='prepend_first' binding='strong'><string>DejaVu Sans</string></edit>"
+                           "</match></fontconfig>")
         self.environment = {
             "FONTCONFIG_FILE": fonts,
             "PATH": os.environ["PATH"],
