@@ -36,7 +36,9 @@ inline QMap<QString, QStringList> solvedPuzzles()
 {
     QMap<QString, QStringList> solutions;
     QFile file(QStringLiteral(TEST_SOLUTIONS));
-    file.open(QIODevice::ReadOnly);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("%s: %s", TEST_SOLUTIONS, qPrintable(file.errorString()));
+    }
     while (!file.atEnd()) {
         const QStringList parts = QString::fromLatin1(file.readLine().trimmed()).split(QStringLiteral(": "));
         solutions[parts.first()] = parts.value(1).split(u' ');
