@@ -10,7 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
+#include <QImageReader>
 #include <QLocale>
+#include <QPixmap>
 #include <QPointer>
 #include <QSettings>
 
@@ -178,7 +180,10 @@ QIcon installedIcon(const QString &name)
         for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
             const QString file = folder + QString::asprintf("/hicolor/%dx%d/apps/", size, size) + name + u".png"_s;
             if (QFile::exists(file)) {
-                icon.addFile(file, QSize(size, size));
+                QImageReader reader(file, "png");
+                // Otherwise every image plugin is loaded to look at the file.
+                reader.setAutoDetectImageFormat(false);
+                icon.addPixmap(QPixmap::fromImageReader(&reader));
             }
         }
         const QString drawing = folder + u"/hicolor/scalable/apps/"_s + name + u".svg"_s;
