@@ -102,9 +102,6 @@ void FloatingPanel::center()
 
 qint64 FloatingPanel::run()
 {
-    window()->activateWindow();
-    show();
-    raise();
     m_keyReceiver->setFocus(Qt::OtherFocusReason);
     return runModalForWindow(this);
 }
