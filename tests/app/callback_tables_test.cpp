@@ -11,7 +11,6 @@ using Delegate = CUI_WindowDelegate;
 
 #define ASK(call) [](App &it) -> QVariant { return call; }
 #define TELL(call) [](App &it) { return (call), QVariant(); }
-#define ASK_WINDOW(call) [&](Delegate &it, Window *window) -> QVariant { return call; }
 
 App *queried = nullptr;
 QString seen;
@@ -34,7 +33,7 @@ QVariant look(qint64 event, const QVariant &object)
                                   QVariant(queried->dictVal), QVariant(queried->urlVal)}) {
         seen += worded(field) == u"77"_s || worded(field).isEmpty() ? u""_s : u", " + worded(field);
     }
-    seen += queried->menuObj ? u", a menu"_s : u""_s;
+    seen += queried->menuObj ? u""_s : u", no menu"_s;
     queried->boolVal = !queried->boolVal;
     queried->longVal = queried->longVal + 1;
     queried->menuObj = dockMenu;
@@ -60,6 +59,8 @@ QString happen(const std::function<QVariant(App &)> &callback)
 TEST(AppDelegateTable, NotificationsQuestionsAndArguments)
 {
     CUI_SetOnAppEventFunction(look);
+    QMenu menu;
+    dockMenu = &menu;
     // clang-format off
     void (App::*const all[])() = {
         &App::applicationWillFinishLaunching, &App::applicationDidFinishLaunching, &App::applicationWillTerminate,
@@ -74,29 +75,27 @@ TEST(AppDelegateTable, NotificationsQuestionsAndArguments)
         codes << happen([callback](App &own) { return (own.*callback)(), QVariant(); });
     }
     EXPECT_EQ(codes.join(u','), u"1 ,2 ,5 ,6 ,7 ,8 ,9 ,10 ,11 ,12 ,13 ,14 ,15 ,19 ,35 "_s);
-    QMenu menu;
-    dockMenu = &menu;
     const std::pair<std::function<QVariant(App &)>, QString> rows[] = {
-        {ASK(it.applicationShouldTerminate()), u"3 application, 1, a menu -> 2"_s},
-        {ASK(it.applicationShouldTerminateAfterLastWindowClosed()), u"no 4 application, a menu -> true"_s},
-        {ASK(it.applicationShouldHandleReopen(true)), u"yes 16 application, a menu -> false"_s},
-        {ASK(it.applicationDockMenu() == dockMenu), u"17 application -> true"_s},
-        {ASK(it.openFileWithoutUI(u"f"_s)), u"no 20 f, f, a menu -> true"_s},
-        {ASK(it.openTempFile(u"f"_s)), u"no 21 f, f, a menu -> true"_s},
-        {ASK(it.applicationOpenUntitledFile()), u"no 22 application, a menu -> true"_s},
-        {ASK(it.applicationShouldOpenUntitledFile()), u"no 23 application, a menu -> true"_s},
-        {ASK(it.printFile(u"f"_s)), u"yes 24 f, f, a menu -> false"_s},
-        {ASK(it.printFiles({u"f"_s, u"g"_s}, {{u"k"_s, 1}}, true)), u"yes 25 f g, 1, f g, k, a menu -> 2"_s},
-        {TELL(it.didRegisterForRemoteNotificationsWithDeviceToken("t")), u"26 t, a menu"_s},
-        {TELL(it.didFailToRegisterForRemoteNotificationsWithError({u"d"_s, 1, u"why"_s})), u"27 why, a menu"_s},
-        {TELL(it.didReceiveRemoteNotification({{u"k"_s, 1}})), u"28 k, k, a menu"_s},
-        {TELL(it.didDecodeRestorableState(u"c"_s)), u"29 c, a menu"_s},
-        {TELL(it.willEncodeRestorableState(u"c"_s)), u"30 c, a menu"_s},
-        {TELL(it.didUpdateUserActivity(u"c"_s)), u"34 c, a menu"_s},
-        {ASK(it.willContinueUserActivityWithType(u"a"_s)), u"no 31 a, a, a menu -> true"_s},
-        {TELL(it.didFailToContinueUserActivityWithType(u"a"_s, {})), u"33 a, a, a menu"_s},
+        {ASK(it.applicationShouldTerminate()), u"3 application, 1 -> 2"_s},
+        {ASK(it.applicationShouldTerminateAfterLastWindowClosed()), u"no 4 application -> true"_s},
+        {ASK(it.applicationShouldHandleReopen(true)), u"yes 16 application -> false"_s},
+        {ASK(it.applicationDockMenu() == dockMenu), u"17 application, no menu -> true"_s},
+        {ASK(it.openFileWithoutUI(u"f"_s)), u"no 20 f, f -> true"_s},
+        {ASK(it.openTempFile(u"f"_s)), u"no 21 f, f -> true"_s},
+        {ASK(it.applicationOpenUntitledFile()), u"no 22 application -> true"_s},
+        {ASK(it.applicationShouldOpenUntitledFile()), u"no 23 application -> true"_s},
+        {ASK(it.printFile(u"f"_s)), u"yes 24 f, f -> false"_s},
+        {ASK(it.printFiles({u"f"_s, u"g"_s}, {{u"k"_s, 1}}, true)), u"yes 25 f g, 1, f g, k -> 2"_s},
+        {TELL(it.didRegisterForRemoteNotificationsWithDeviceToken("t")), u"26 t"_s},
+        {TELL(it.didFailToRegisterForRemoteNotificationsWithError({u"d"_s, 1, u"why"_s})), u"27 why"_s},
+        {TELL(it.didReceiveRemoteNotification({{u"k"_s, 1}})), u"28 k, k"_s},
+        {TELL(it.didDecodeRestorableState(u"c"_s)), u"29 c"_s},
+        {TELL(it.willEncodeRestorableState(u"c"_s)), u"30 c"_s},
+        {TELL(it.didUpdateUserActivity(u"c"_s)), u"34 c"_s},
+        {ASK(it.willContinueUserActivityWithType(u"a"_s)), u"no 31 a, a -> true"_s},
+        {TELL(it.didFailToContinueUserActivityWithType(u"a"_s, {})), u"33 a, a"_s},
         {TELL(it.openFiles({u"/d/f.x"_s, u"/g"_s})),
-         u"36 file:///d/f.x file:///g, f.x, file:///d/f.x file:///g, file:///d/f.x, a menu"_s},
+         u"36 file:///d/f.x file:///g, f.x, file:///d/f.x file:///g, file:///d/f.x"_s},
         {[](App &it) {
              static qint64 event = 0;
              it.delegateUserData = 5;
@@ -114,41 +113,33 @@ TEST(AppDelegateTable, NotificationsQuestionsAndArguments)
     CUI_SetOnAppEventFunction(nullptr);
 }
 
-class WindowDelegateTable : public WindowTest
-{
-protected:
-    QString happen(const std::function<QVariant(Delegate &, Window *)> &callback)
-    {
-        *CUI_DialogEventObj() = {};
-        CUI_OutputWindowSetTag(0);
-        dialogCalls.clear();
-        const QVariant answer = callback(*CUI_WindowDelegateObj(), m_window);
-        return dialogCalls.join(u'|') + (answer.isValid() ? (answer.toBool() ? u" -> true"_s : u" -> false"_s) : u""_s);
-    }
-    void SetUp() override
-    {
-        m_window = open(7);
-        CUI_SetOnDialogFunction(recordCall);
-        // A star: the window is the output window by then.
-        valuesOf = [](qint64 /*event*/) -> QString {
-            const CUI_DialogEvent &record = *CUI_DialogEventObj();
-            return (CUI_OutputWindowTag() == 7 ? u"*"_s : u""_s) % (record.boolVal ? u"yes"_s : u""_s) %
-                   (record.longVal == 3 ? u"3"_s : u""_s) % (record.sizeVal.isEmpty() ? u""_s : u"size"_s) %
-                   (record.rectVal.isEmpty() ? u""_s : u"rect"_s);
-        };
-        atEvent = [](qint64) {
-            CUI_DialogEvent &record = *CUI_DialogEventObj();
-            record.boolVal = !record.boolVal;
-            ++record.longVal;
-            record.sizeVal += QSizeF(1, 1);
-            record.rectVal.translate(1, 1);
-        };
-    }
-    Window *m_window = nullptr;
-};
+using WindowDelegateTable = WindowTest;
 
 TEST_F(WindowDelegateTable, NotificationsAndQuestions)
 {
+    Window *const window = open(7);
+    Delegate &it = *CUI_WindowDelegateObj();
+    CUI_SetOnDialogFunction(recordCall);
+    // A star: the window is the output window by then.
+    valuesOf = [](qint64 /*event*/) -> QString {
+        const CUI_DialogEvent &record = *CUI_DialogEventObj();
+        return (CUI_OutputWindowTag() == 7 ? u"*"_s : u""_s) % (record.boolVal ? u"yes"_s : u""_s) %
+               (record.longVal == 3 ? u"3"_s : u""_s) % (record.sizeVal.isEmpty() ? u""_s : u"size"_s) %
+               (record.rectVal.isEmpty() ? u""_s : u"rect"_s);
+    };
+    atEvent = [](qint64) {
+        CUI_DialogEvent &record = *CUI_DialogEventObj();
+        record.boolVal = !record.boolVal;
+        ++record.longVal;
+        record.sizeVal += QSizeF(1, 1);
+        record.rectVal.translate(1, 1);
+    };
+    const auto callsOf = [](const auto &callback) {
+        *CUI_DialogEventObj() = {};
+        CUI_OutputWindowSetTag(0);
+        callback();
+        return std::exchange(dialogCalls, {}).join(u'|').remove(u" 7 7"_s);
+    };
     // clang-format off
     void (Delegate::*const all[])(Window *) = {
         &Delegate::windowWillBeginSheet, &Delegate::windowDidEndSheet, &Delegate::windowDidResize,
@@ -162,30 +153,31 @@ TEST_F(WindowDelegateTable, NotificationsAndQuestions)
     // clang-format on
     QStringList codes;
     for (const auto callback : all) {
-        codes << happen([callback](Delegate &it, Window *window) { return (it.*callback)(window), QVariant(); });
+        codes << callsOf([&] { (it.*callback)(window); });
     }
-    EXPECT_EQ(codes.join(u',').remove(u" 7 7"_s),
+    EXPECT_EQ(codes.join(u','),
               u"10001 *,10002 *,10004,10005,10006 *,10007,10008,10009 *,10014,10015 *,10016,10017 *,10022,10025,"
               "10026 *,10027 *,10028 *,10032,10033 *,10034,10035 *,10036,10037"_s);
     QMenu menu;
+    const Tag object = tagFromObject(&menu);
     const QRectF rect(1, 2, 30, 40);
     const QRectF movedRect = rect.translated(1, 1);
     const QSizeF size(30, 40);
     const QSizeF larger(31, 41);
-    const std::pair<std::function<QVariant(Delegate &, Window *)>, QString> rows[] = {
-        {ASK_WINDOW(it.windowWillPositionSheet(window, &menu, rect) == movedRect && lastObject == tagFromObject(&menu)),
-         u"10000 7 7 rect -> true"_s},
-        {ASK_WINDOW(it.windowWillResize(window, size) == larger), u"10003 7 7 *size -> true"_s},
-        {ASK_WINDOW(it.windowWillUseStandardFrame(window, rect) == movedRect), u"10010 7 7 rect -> true"_s},
-        {ASK_WINDOW(it.windowShouldZoom(window, rect)), u"10011 7 7 yesrect -> false"_s},
-        {ASK_WINDOW(it.windowWillUseFullScreenContentSize(window, size) == larger), u"10012 7 7 size -> true"_s},
-        {ASK_WINDOW(it.windowWillUseFullScreenPresentationOptions(window, 3) == 4), u"10013 7 7 3 -> true"_s},
-        {ASK_WINDOW(it.windowShouldClose(window)), u"10031 7 7 yes -> false"_s},
-        {ASK_WINDOW(it.windowShouldPopUpDocumentPathMenu(window, &menu) || lastObject != tagFromObject(&menu)),
-         u"10038 7 7 yes -> false"_s},
+    // Whether the callback's answer came back.
+    const std::pair<std::function<bool()>, QString> rows[] = {
+        {[&] { return it.windowWillPositionSheet(window, &menu, rect) == movedRect && lastObject == object; },
+         u"10000 rect"_s},
+        {[&] { return it.windowWillResize(window, size) == larger; }, u"10003 *size"_s},
+        {[&] { return it.windowWillUseStandardFrame(window, rect) == movedRect; }, u"10010 rect"_s},
+        {[&] { return !it.windowShouldZoom(window, rect); }, u"10011 yesrect"_s},
+        {[&] { return it.windowWillUseFullScreenContentSize(window, size) == larger; }, u"10012 size"_s},
+        {[&] { return it.windowWillUseFullScreenPresentationOptions(window, 3) == 4; }, u"10013 3"_s},
+        {[&] { return !it.windowShouldClose(window); }, u"10031 yes"_s},
+        {[&] { return !it.windowShouldPopUpDocumentPathMenu(window, &menu) && lastObject == object; }, u"10038 yes"_s},
     };
-    for (const auto &[call, expected] : rows) {
-        EXPECT_EQ(happen(call), expected);
+    for (const auto &[ask, expected] : rows) {
+        EXPECT_EQ(callsOf([&answers = ask] { EXPECT_TRUE(answers()); }), expected);
     }
 }
 

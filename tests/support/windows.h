@@ -73,12 +73,20 @@ inline std::function<void(qint64)> answers(const Answers &all)
     };
 }
 
-/// Leaves no window, no output window and no dialog function behind.
+/// Whether every alert is off the screen again.
+inline bool noAlertLeft()
+{
+    const auto isLeft = [](const QWidget *each) { return qobject_cast<const Alert *>(each) && each->isVisible(); };
+    return !modalWindow() && std::ranges::none_of(QApplication::topLevelWidgets(), isLeft);
+}
+
+/// Leaves no alert, no window, no output window and no dialog function behind.
 class WindowTest : public testing::Test
 {
 protected:
     void TearDown() override
     {
+        EXPECT_TRUE(noAlertLeft());
         atEvent = nullptr;
         valuesOf = nullptr;
         CUI_SetOnDialogFunction(nullptr);
@@ -124,13 +132,6 @@ inline QStringList titlesOf(const Alert *alert)
 inline std::function<bool(int)> endedBy(int signal)
 {
     return signal ? std::function<bool(int)>(testing::KilledBySignal(signal)) : testing::ExitedWithCode(0);
-}
-
-/// Whether every alert is off the screen again.
-inline bool noAlertLeft()
-{
-    const auto isLeft = [](const QWidget *each) { return qobject_cast<const Alert *>(each) && each->isVisible(); };
-    return !modalWindow() && std::ranges::none_of(QApplication::topLevelWidgets(), isLeft);
 }
 
 /// The texts of every alert that a statement queues, as "title|text"; each is answered with its first button. One more
