@@ -81,6 +81,7 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
         });
         EXPECT_EQ(runModalForWindow(&inner), 11);
         EXPECT_EQ(modalWindow(), panel);
+        EXPECT_FALSE(panel->actions().isEmpty()) << "the shortcuts of the menus";
         inner.hide();
         EXPECT_TRUE(QTest::qWaitFor([this] { return field->hasFocus(); }));
         EXPECT_EQ(innerField.text() % u'|' % field->text(), u"7|"_s);
@@ -89,6 +90,7 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
     const auto deleteInInner = [&] {
         QTimer::singleShot(0, &inner, [this] { delete panel, stopModalWithCode(3); });
         EXPECT_EQ(runModalForWindow(&inner), 3);
+        stopModalWithCode(9);
     };
     const Table<Act, qint64> rows = {
         {"stopped", [] { stopModalWithCode(modalStopped); }, modalStopped},
@@ -96,7 +98,8 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
         {"aborted", [] { abortModal(); }, modalAborted},
         {"the first end counts", [] { stopModalWithCode(7), stopModalWithCode(8); }, 7},
         {"nothing left over from before it", [] {}, modalAborted},
-        {"hidden under the run", [this] { panel->hide(), QCoreApplication::processEvents(); }, modalAborted},
+        {"hidden under the run", [this] { panel->hide(), QCoreApplication::processEvents(), stopModalWithCode(9); },
+         modalAborted},
         {"stopped after a hide", [this] { panel->hide(), stopModalWithCode(5); }, 5},
         {"shown again at once is not the end",
          [this] { panel->hide(), panel->show(), QCoreApplication::processEvents(), stopModalWithCode(6); }, 6},
@@ -108,6 +111,7 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
     EXPECT_EQ(runModalForWindow(nullptr), modalAborted);
     carrier.hide();
     EXPECT_EQ(runModalForWindow(panel), modalAborted) << "nobody could see it";
+    EXPECT_TRUE(panel->actions().isEmpty()) << "no shortcut of the menus is left";
     carrier.show();
     for (const auto &[name, act, code] : rows) {
         EXPECT_EQ(runWhile(act), code) << name;

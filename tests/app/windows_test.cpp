@@ -222,9 +222,11 @@ TEST_F(Windows, PopoverIsNextToItsAnchorAndKeepsItsTag)
               u"Window tag error.|Windows and Popovers cannot have same tag value."_s);
     EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
     EXPECT_EQ(CUI_OutputWindowTag(), 1);
-    Popover later(8, QSize(100, 50));
-    later.showRelativeTo(view, QRect(), Qt::BottomEdge);
-    EXPECT_EQ(CUI_PopoverShown(), &later);
+    auto *const later = new Popover(8, QSize(100, 50));
+    later->showRelativeTo(view, QRect(), Qt::BottomEdge);
+    EXPECT_EQ(CUI_PopoverShown(), later);
+    delete later;
+    EXPECT_TRUE(CUI_PopoverShown() == &popover && !CUI_PopoverWithTag(8));
 }
 
 } // namespace
