@@ -57,6 +57,7 @@ TEST_F(WindowDelegate, RealEventsAreReportedInOrder)
         EXPECT_TRUE(QTest::qWaitFor([] { return dialogCalls.contains(u"10006 7 7 *"_s); }));
     };
     const Table<Happening, QString> rows = {
+        {"another screen", [&] { Q_EMIT m_window->windowHandle()->screenChanged(m_window->screen()); }, u"10028 *"_s},
         {"program moves", [&] { m_window->setContentRect(rect.translated(10, 10)); }, u"10027 *"_s},
         {"program resizes", [&] { m_window->setContentRect(rect.adjusted(10, 10, 30, 40)); }, u"10004"_s},
         {"nothing changes", [&] { m_window->setContentRect(m_window->contentRect()); }, {}},
@@ -79,9 +80,13 @@ TEST_F(WindowDelegate, RealEventsAreReportedInOrder)
     }
 }
 
-TEST_F(WindowDelegate, ActivationPassesFromWindowToWindowAndUpdatesAreReported)
+TEST_F(WindowDelegate, ActivationAndUpdatesAreReportedInAModalRunToo)
 {
-    ASSERT_TRUE(QTest::qWaitForWindowActive(open(8)));
+    QTimer::singleShot(0, m_window, [] {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(open(8)));
+        abortModal();
+    });
+    runModalForWindow(m_window);
     EXPECT_EQ(takeCalls(), u"10033 8 8 10035 8 8 10034 10036"_s);
     EXPECT_EQ(CUI_OutputWindowTag(), 8);
     m_window->update();

@@ -59,6 +59,7 @@ TEST_F(Windows, StatementChangesWhatIsGiven)
     }
     EXPECT_EQ(orderedWindows(), QList<Window *>{window});
     EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(window->menuBar()->accessibleName(), u"Menu bar"_s);
 }
 
 TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)

@@ -92,6 +92,11 @@ TEST_F(ViewSite, OnlyUnhandledEventsGetTheirDefaultHandling)
             EXPECT_EQ(listener.seen.removeAll(type) > 0, !handles) << type;
         }
         EXPECT_EQ(listener.seen.removeAll(QEvent::StatusTip), handles ? 0 : 2);
+        const QPoint inside = m_view->mapTo(m_view->window(), QPoint(5, 5));
+        QTest::mouseClick(m_view->window()->windowHandle(), Qt::RightButton, {}, inside);
+        QApplication::processEvents();
+        EXPECT_EQ(listener.seen.removeAll(QEvent::MouseButtonPress) > 0, !handles) << "a right press is kept a while";
+        listener.seen.clear();
     }
 }
 
