@@ -10,15 +10,13 @@ EXAMPLES = os.environ.get("TETRAD_EXAMPLES", str(REPOSITORY / "build" / "example
 NAME = ("wait_for_prompt", "What is your name?")
 BOOK = ("wait_for", "frame", "Address book", "active")
 ANY_KEY = ("wait_for", "filler", "Any key ends the program:", "focused")
-SHAPES = {(0, 0, 0), (255, 0, 0), (0, 255, 0), (0, 255, 255), (255, 0, 255), (255, 255, 0)}
 
 # What a scene shows, the program, and what happens to it before it ends.
 SCENES = [
     ("a name that looks like a format", "hello", [
         NAME, ("type", "%d %@"), ("press", "Return"), ANY_KEY, ("wait_for_line", "Hello, %d %@!"), ("press", "space")]),
     ("the quit item by mouse", "hello", [NAME, ("choose", "Hello", "Quit Hello")]),
-    ("shapes, and any key after a click", "sketch", [
-        ANY_KEY, ("wait_for_colours", SHAPES), ("click_console",), ("press", "x")]),
+    ("any key after a click", "sketch", [ANY_KEY, ("click", "text"), ("press", "x")]),
     ("keys move the dot", "keys", [
         ("wait_for", "filler", "W A S D move the dot, Escape ends:", "focused"),
         ("press", "d", "d", "w", "a", "shift+S", "shift+D"), ("wait_for_line", "column 12, row 4"),
@@ -34,16 +32,12 @@ SCENES = [
         *[("wait_for", role, name) for role, name in [("slider", "Amount"), ("text", "Number"), ("table", "Cells")]],
         ("click", "push button", "Press me"), ("wait_for_line", "event 1, tag 11, window 1: value 0, text Press me"),
         ("click", "check box", "Check me"), ("wait_for_line", "event 1, tag 12, window 1: value 1, text Check me"),
-        ("press", "space"), ("wait_for_line", "event 1, tag 12, window 1: value 0, text Check me"),
         ("press", "Tab", "Right", "End"), ("wait_for_line", "event 1, tag 13, window 1: value 100, text "),
         ("press", "Tab", "ctrl+a", "4", "2", "Return"), ("wait_for_line", "event 1, tag 14, window 1: value 42, text 42"),
         ("click", "page tab", "Second"),
         *[("wait_for_line", f"event {event}, tag 15, window 1: bool 0, long 1, .*") for event in (1600, 1601, 1602)],
-        ("click", "check box", "On the second page"),
-        ("wait_for_line", "event 1, tag 17, window 1: value 1, text On the second page"),
         ("click", "table cell", "cell 1, 0"),
         *[("wait_for_line", f"event {event}, tag 21, window 1: bool 0, long 1, .*") for event in (1706, 1707)],
-        ("press", "Up"), ("wait_for_line", "event 1707, tag 21, window 1: bool 0, long 0, .*"),
         ("click", "table column header", "Size"), ("wait_for_line", "event 1708, tag 21, window 1: .*"),
         ("press", "alt+F4")]),
     ("a form keeps an address book", "form", [
@@ -61,14 +55,8 @@ class TestExamples(PlayingTest):
     def test_scenes(self):
         for shows, program, steps in SCENES:
             with self.subTest(shows):
-                self.example = self.start(command=[f"{EXAMPLES}/{program}"])
-                self.carry_out(steps, self.example)
-                status, errors = self.example.wait_for_end()
+                example = self.start(command=[f"{EXAMPLES}/{program}"])
+                self.carry_out(steps, example)
+                status, errors = example.wait_for_end()
                 # Qt reports each cell that the client asks for and that has just gone.
                 self.assertEqual((status, re.sub("QAccessibleTable::child: Invalid index.*\n", "", errors)), (0, ""))
-
-    def click_console(self):
-        self.desktop.click(*self.example.console().centre)
-
-    def wait_for_colours(self, colours):
-        self.example.wait(lambda: colours <= set(self.desktop.colours(*self.example.console().rectangle)), f"{colours}")
