@@ -128,6 +128,8 @@ TEST_F(AppDelegate, ProcessEndsFromAnyDepthAndBySignals)
         {"the program closes its last window, which ends it", closeTheLastWindow, 0},
         // What Qt 6.4 does there: the event is not a spontaneous one.
         {"the close box of the last window on Wayland", [] { open(1)->windowHandle()->close(), std::_Exit(4); }, 0},
+        // What Qt 6.11 does when the connection to the display breaks.
+        {"the end of all loops", [] { QCoreApplication::exit(0); }, 0},
         {"SIGTERM, although the delegate would refuse", [] { answer = refuse, std::raise(SIGTERM); }, 0},
         {"a second signal at once", [] { std::raise(SIGHUP), std::raise(SIGHUP); }, SIGHUP},
     };

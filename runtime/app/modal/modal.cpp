@@ -14,6 +14,8 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 
 namespace tetrad {
 
@@ -106,6 +108,17 @@ void begin(ModalRun &run)
     addMenuShortcutsTo(run.widget);
 }
 
+// Ends the process when not the run but the application was ended: newer versions of Qt do that when the connection to
+// the display breaks. The program would go on without events.
+void runLoop(ModalRun &run)
+{
+    const int status = run.loop.exec();
+    if (!run.ended) {
+        std::fflush(nullptr);
+        std::_Exit(status);
+    }
+}
+
 void returnTo(ModalRun &outer, QWidget *focusBefore)
 {
     filter().focus().setWidget(outer.ended ? nullptr : outer.widget.data());
@@ -152,7 +165,7 @@ qint64 runModalForWindow(QWidget *window)
     endIfGone(run);
     filter().deliverKeptKeys();
     if (!run.ended) {
-        run.loop.exec();
+        runLoop(run);
     }
     finish(run);
     return run.code;
