@@ -84,7 +84,8 @@ struct LineStyle
     double lineWidth = 1.0;
     /// 1 round, 2 square; 0 leaves the default, which ends flush with the line's end.
     quint32 lineCapStyle = 0;
-    /// Lengths of dashes and gaps in turn; empty: solid.
+    /// Lengths of dashes and gaps in turn. Solid when it is empty, has a part that is negative or not finite, or is
+    /// shorter in all than a twentieth of the width.
     QList<double> lineDashPattern = {};
     double lineDashPhase = 0;
     /// Invalid: black.

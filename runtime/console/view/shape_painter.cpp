@@ -37,8 +37,10 @@ Qt::PenCapStyle capStyle(quint32 code)
     }
 }
 
-// A pattern of no length, or with a part that is negative or not finite, is drawn solid.
-bool isUsable(const QList<double> &pattern)
+// Dashes that are much wider than long take seconds to draw.
+constexpr double shortestPattern = 0.05; // in widths
+
+bool isUsable(const QList<double> &pattern, double width)
 {
     double length = 0;
     for (const double part : pattern) {
@@ -47,7 +49,7 @@ bool isUsable(const QList<double> &pattern)
         }
         length += part;
     }
-    return length > 0;
+    return length > shortestPattern * width;
 }
 
 void setDashes(QPen &pen, const LineStyle &style)
@@ -69,7 +71,7 @@ QPen penFor(const LineStyle &style, double thinnest)
     pen.setWidthF(style.lineWidth > 0 ? std::clamp(style.lineWidth, narrowestPen, widestPen) : thinnest);
     pen.setCapStyle(capStyle(style.lineCapStyle));
     pen.setJoinStyle(Qt::MiterJoin);
-    if (isUsable(style.lineDashPattern)) {
+    if (isUsable(style.lineDashPattern, pen.widthF())) {
         setDashes(pen, style);
     }
     return pen;
