@@ -94,13 +94,15 @@ TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
     };
     for (const auto &[name, button, key, answer, code] : rows) {
         SCOPED_TRACE(name);
-        define(2);
+        const QPointer<Alert> alert = define(2);
         if (!key.isNull()) {
             AlertButtonSetKeyEquivalent(2, button, key);
         }
         EXPECT_EQ(show(2, answer), code);
         EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 %1 2"_s.arg(code)});
         EXPECT_EQ(CUI_AlertWithTag(2), nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(alert);
     }
     define(2);
     EXPECT_EQ(show(2, [](Alert *) { dismiss(2); }), 0);
@@ -212,6 +214,8 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     }
     pressBehind();
     EXPECT_EQ(pressed.count(), 1);
+    define(2);
+    EXPECT_EQ(show(2, clicks(1)), 1001) << "no sheet, though there is a window";
 }
 
 TEST_F(Alerts, QueuedWarningsAppearOneAfterTheOther)
