@@ -32,6 +32,8 @@ TEST_F(Windows, StatementMakesAndShows)
         EXPECT_EQ(CUI_OutputWindowTag(), 1);
         delete window;
     }
+    const Window *const large = open(1, QRectF(0, 0, 2000, 1500));
+    EXPECT_TRUE(large->screen()->availableGeometry().contains(large->frameGeometry().topLeft())) << "its title bar";
 }
 
 TEST_F(Windows, StatementChangesWhatIsGiven)

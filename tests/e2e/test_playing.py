@@ -1,6 +1,5 @@
-"""The game in a desktop: what stands between it and other programs, every way out, small screens and languages."""
+"""The game in a desktop: what stands between it and other programs, every way out, languages."""
 
-import os
 import re
 
 from desktop import until
@@ -68,23 +67,6 @@ class TestLeaving(PlayingTest):
                 game = self.start()
                 self.carry_out(steps, game)
                 self.assert_clean_end(game)
-
-
-class TestSmallScreen(PlayingTest):
-    def setUp(self):
-        os.environ["TETRAD_E2E_SCREEN"] = "440x180x24"
-        super().setUp()
-
-    def test_the_game_is_played_on_a_screen_smaller_than_its_window(self):
-        game = self.start()
-        game.win()
-        for name in ("Quit", "Play Again"):
-            x, y, width, height = game.application.find("push button", name=name).rectangle
-            self.assertTrue(0 <= x <= 440 - width and 0 <= y <= 180 - height, f"{name} is out of reach: {x}, {y}")
-        x, y, *_ = self.desktop.framed_rectangle(game.identifier())
-        self.assertTrue(x >= -1 and y >= 0, f"the title bar is out of reach: {x}, {y}")
-        self.desktop.press("Return")
-        self.assert_clean_end(game)
 
 
 class TestLanguages(PlayingTest):
