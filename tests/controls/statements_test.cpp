@@ -184,11 +184,11 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
     for (const auto &[name, statement, asks, typed, chosen, calls] : rows) {
         SCOPED_TRACE(name);
         FilePanelSetAsks(9, asks);
-        whenRuns<QFileDialog>([&, asks = asks, text = typed, expected = calls](QFileDialog *panel) {
+        whenRuns<QFileDialog>([&, isAsked = asks, text = typed, expected = calls](QFileDialog *panel) {
             EXPECT_EQ(CUI_OpenPanel(9, {}, {}, {}), QString()) << "one at a time";
             auto *const field = panel->findChild<QLineEdit *>();
             takeSiteCalls();
-            if (asks) {
+            if (isAsked) {
                 const auto *const list = panel->findChild<QListView *>(u"listView"_s);
                 const auto file = [list](int row) { return list->model()->index(row, 0, list->rootIndex()); };
                 EXPECT_TRUE(
