@@ -37,6 +37,21 @@ protected:
     }
 };
 
+TEST_F(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
+{
+    CUI_AppDelegate delegate;
+    const auto fire = [&delegate](CUI_AppDelegate::TimerFunction function) {
+        const QPointer<QTimer> timer = new QTimer(&delegate);
+        CUI_AppDelegate::setTimerFunction(timer, function);
+        timer->start(1000000);
+        delegate.timerFired(timer);
+        return timer && timer->isActive();
+    };
+    EXPECT_TRUE(fire([](QTimer *) { return false; }));
+    EXPECT_FALSE(fire([](QTimer *) { return true; }));
+    EXPECT_FALSE(fire([](QTimer *timer) { return delete timer, true; }));
+}
+
 void startAndMeetEvents()
 {
     CocoaInit();

@@ -204,7 +204,34 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
         const QString path = statement(9, u"Choose"_s, folder.path(), u"txt;md"_s);
         EXPECT_EQ(path, chosen.isEmpty() ? QString() : folder.filePath(chosen));
     }
+    FilePanelSetAsks(9, true);
+    for (const qint64 dangerous : {2901, 2905, 2906}) {
+        atEvent = [dangerous](qint64 event) {
+            answer(true);
+            delete (event == dangerous ? objectFromTag(lastObject) : nullptr);
+        };
+        whenRuns<QFileDialog>([dangerous](QFileDialog *panel) {
+            QTest::keyClick(panel, dangerous == 2905 ? Qt::Key_Shift : Qt::Key_Return);
+        });
+        EXPECT_EQ(CUI_SavePanel(9, {}, folder.filePath(u"e"_s), {}), QString()) << dangerous;
+    }
     FilePanelSetAsks(9, false);
+}
+
+TEST(MDAObj, GrowsAndKeepsElementsAndKeys)
+{
+    MDAObj array({3, 3});
+    EXPECT_TRUE(array.setValue({1, 2}, u"x"_s) && array.setValue({1, 7}, 5));
+    EXPECT_EQ(array.dimensions(), (MDAObj::Indices{3, 8}));
+    EXPECT_EQ(array.value({1, 2}), u"x"_s);
+    for (const auto &wrong : QList<MDAObj::Indices>{{1}, {0, -1}, {1, 2, 3}}) {
+        EXPECT_FALSE(array.setValue(wrong, 1));
+        EXPECT_FALSE(array.value(wrong).isValid());
+    }
+    array.setValueForKey(u"k"_s, 9);
+    EXPECT_EQ(array.valueForKey(u"k"_s), 9);
+    array.clear();
+    EXPECT_FALSE(array.value({1, 7}).isValid() || array.valueForKey(u"k"_s).isValid());
 }
 
 } // namespace
