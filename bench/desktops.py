@@ -7,9 +7,8 @@ import traceback
 from collections import namedtuple
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "e2e"))
-import desktop  # noqa: E402
-from playing import ARTIFACTS, Game, prompt_after  # noqa: E402
+import desktop
+from game import ARTIFACTS, Game, prompt_after
 
 I3 = "font pango:DejaVu Sans 10\nbindsym Mod1+F4 kill\nbar {\n mode invisible\n}\n"
 SOCKET = "wayland-tetrad"

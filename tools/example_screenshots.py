@@ -6,7 +6,7 @@ import sys
 from pathlib import Path
 
 from desktop import Desktop
-from playing import REPOSITORY, Game
+from game import REPOSITORY, Game
 from screenshots import Camera
 
 EXAMPLES = os.environ.get("TETRAD_EXAMPLES", str(REPOSITORY / "build" / "examples"))

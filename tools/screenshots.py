@@ -7,7 +7,7 @@ import sys
 from pathlib import Path
 
 from desktop import Desktop, until
-from playing import Game, prompt_after
+from game import Game, prompt_after
 from solver import solve
 
 LEVEL_PICTURES = {"⚪ Easy": "easy", "🔴 🔴 Medium": "medium", "🟡 🟡 🟡 Hard": "hard"}

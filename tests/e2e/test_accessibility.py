@@ -2,7 +2,8 @@
 
 from accessible import replayed, text_events
 from desktop import until
-from playing import PROMPT, PlayingTest, prompt_after
+from game import PROMPT, prompt_after
+from playing import PlayingTest
 
 GREEN = (0, 255, 0)
 

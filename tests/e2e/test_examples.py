@@ -3,7 +3,8 @@
 import os
 import re
 
-from playing import REPOSITORY, PlayingTest
+from game import REPOSITORY
+from playing import PlayingTest
 
 EXAMPLES = os.environ.get("TETRAD_EXAMPLES", str(REPOSITORY / "build" / "examples"))
 
@@ -45,9 +46,12 @@ SCENES = [
         ("click", "push button", "Add"), ("wait_for", "table cell", "Ada", "selected"),
         ("press", "ctrl+s"), ("wait_for", "dialog", "Save the address book", "active"),
         ("press", "asciitilde", "slash", *"people", "Return"), BOOK, ("press", "alt+F4")]),
-    ("which the next start shows", "form", [
+    ("which the next start shows, changes and opens again", "form", [
         BOOK, ("wait_for", "table cell", "Ada", "selected"), ("wait_for", "radio button", "Work", "checked"),
-        ("press", "alt+F4")]),
+        ("click", "radio button", "Friend"), ("click", "push button", "Change"), ("click", "push button", "Remove"),
+        ("press", "ctrl+o"), ("wait_for", "dialog", "Open an address book", "active"),
+        ("press", "asciitilde", "slash", *"people", "period", *"book", "Return"), BOOK, ("click", "table cell", "Ada"),
+        ("wait_for", "radio button", "Work", "checked"), ("press", "alt+F4")]),
 ]
 
 

@@ -3,7 +3,8 @@
 import signal
 
 from desktop import until
-from playing import PROGRAM, REPOSITORY, PlayingTest
+from game import PROGRAM, REPOSITORY
+from playing import PlayingTest
 
 HALF_TYPED, ALERT = [("wait_for_prompt",), ("type", "1+(2")], [("win",)]
 ONE_SENTENCE = r"\A[^\n]*display[^\n]*\.\n\Z"

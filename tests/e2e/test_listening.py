@@ -9,7 +9,8 @@ import threading
 import tty
 
 from desktop import until
-from playing import PROMPT, PlayingTest, prompt_after
+from game import PROMPT, prompt_after
+from playing import PlayingTest
 from solver import solve
 
 INSTRUCTIONS = """Given four numbers and using just the +, -, *, and / operators; and the possible use of parenthesis (),

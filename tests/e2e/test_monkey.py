@@ -8,7 +8,8 @@ import random
 import time
 
 from desktop import until
-from playing import REPOSITORY, PlayingTest
+from game import REPOSITORY
+from playing import PlayingTest
 from solver import solve
 
 SECONDS = float(os.environ.get("TETRAD_MONKEY_SECONDS", 0))

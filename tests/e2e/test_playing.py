@@ -3,7 +3,8 @@
 import re
 
 from desktop import until
-from playing import PROMPT, PlayingTest
+from game import PROMPT
+from playing import PlayingTest
 
 
 class TestPlaying(PlayingTest):

@@ -4,7 +4,8 @@ import os
 import re
 
 from desktop import Gio
-from playing import PROGRAM, PlayingTest, prompt_after
+from game import PROGRAM, prompt_after
+from playing import PlayingTest
 
 CALLS = ("open,openat,openat2,creat,truncate,mkdir,mkdirat,mknod,mknodat,rename,renameat,renameat2,unlink,unlinkat,rmdir,"
          "link,linkat,symlink,symlinkat,chmod,fchmodat,chown,lchown,fchownat,utimensat,setxattr,socket,connect,bind,listen,"

@@ -5,7 +5,8 @@ import shutil
 import tempfile
 
 from desktop import until
-from playing import PROMPT, PlayingTest, prompt_after
+from game import PROMPT, prompt_after
+from playing import PlayingTest
 
 CONFIGURATION = """
 output HEADLESS-1 resolution 1280x800 position 0,0 bg #404040 solid_color

@@ -31,7 +31,7 @@ inline PuzzleNumbers numbersOf(const QString &puzzle)
 }
 
 #ifdef TEST_SOLUTIONS
-/// What tests/e2e/solver.py found: each puzzle's text with all its solutions, fully parenthesised.
+/// What tools/driver/solver.py found: each puzzle's text with all its solutions, fully parenthesised.
 inline QMap<QString, QStringList> solvedPuzzles()
 {
     QMap<QString, QStringList> solutions;
