@@ -1,6 +1,6 @@
 """What a screen reader is told."""
 
-from accessible import replayed, text_events
+from accessible import focus_and_caret_events, replayed, text_events
 from desktop import until
 from game import PROMPT, prompt_after
 from playing import PlayingTest
@@ -33,6 +33,18 @@ class TestAccessibility(PlayingTest):
         until(lambda: {"text-selection-changed", "text-caret-moved"} <= {kind for kind, *_ in told}, "both events")
         self.assertEqual((console.selection, console.caret), ((level, end), end))
         self.assertEqual([number for kind, number, _ in told if kind == "text-caret-moved"][-1], end)
+
+    def test_the_focus_of_a_new_field_comes_before_its_caret(self):
+        game = self.start()
+        game.wait_for_prompt()
+        events, _listener = focus_and_caret_events()
+        for answer, prompt in (("1+2", PROMPT), ("3", prompt_after("1+2"))):
+            game.answer(answer, prompt)
+            field = game.wait_for_prompt(prompt_after(answer))
+            game.type("4")
+            until(lambda: "text-caret-moved" in field.sent(events), "the caret")
+            self.assertEqual(field.sent(events)[0], "state-changed:focused")
+            self.desktop.press("BackSpace")
 
     def test_characters_are_where_they_are_drawn(self):
         game = self.start()

@@ -96,6 +96,10 @@ class Node:
     def character_rectangle(self, offset):
         return _sides(Atspi.Text.get_character_extents(self._accessible, offset, Atspi.CoordType.SCREEN))
 
+    def sent(self, events):
+        """The kinds of its own among focus_and_caret_events()."""
+        return [kind.removeprefix("object:") for source, kind in events if source == self._accessible]
+
     def grab_focus(self):
         return Atspi.Component.grab_focus(self._accessible)
 
@@ -118,6 +122,15 @@ def text_events(node):
 
     listener = Atspi.EventListener.new(hear)
     for name in TEXT_EVENTS:
+        listener.register(name)
+    return events, listener
+
+
+def focus_and_caret_events():
+    """Those of every object from now on, for Node.sent; and the listener, with which they end."""
+    events = []
+    listener = Atspi.EventListener.new(lambda event: events.append((event.source, event.type)))
+    for name in ("object:state-changed:focused", "object:text-caret-moved"):
         listener.register(name)
     return events, listener
 
