@@ -97,6 +97,8 @@ TEST_F(Alerts, AnswerIsReturnedReportedAndForgotten)
         const QPointer<Alert> alert = define(2);
         if (!key.isNull()) {
             AlertButtonSetKeyEquivalent(2, button, key);
+            const QPushButton *const given = alert->alertButtons().value(qsizetype(button));
+            EXPECT_FALSE(given && given->isDefault()) << "none of these keys is Return";
         }
         EXPECT_EQ(show(2, answer), code);
         EXPECT_EQ(std::exchange(dialogCalls, {}), QStringList{u"1000 %1 2"_s.arg(code)});

@@ -71,9 +71,10 @@ void startAndMeetEvents()
     Q_EMIT qApp->applicationStateChanged(Qt::ApplicationHidden);
     Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
     Q_EMIT QGuiApplication::primaryScreen()->geometryChanged(QRect());
+    Q_EMIT QGuiApplication::primaryScreen()->logicalDotsPerInchChanged(96);
     Q_EMIT qApp->screenAdded(QGuiApplication::primaryScreen());
     Q_EMIT qApp->screenRemoved(QGuiApplication::primaryScreen());
-    EXPECT_EQ(seen, (QList<qint64>{1, 2, 6, 7, 36, 36, 8, 9, 10, 11, 12, 13, 6, 7, 19, 19, 19}));
+    EXPECT_EQ(seen, (QList<qint64>{1, 2, 6, 7, 36, 36, 8, 9, 10, 11, 12, 13, 6, 7, 19, 19, 19, 19}));
     EXPECT_TRUE(isUpdated);
     EXPECT_NE(mainMenu(), nullptr) << "built at launch when the program built none";
     std::_Exit(testing::Test::HasFailure() ? 1 : 0);
@@ -145,6 +146,14 @@ TEST_F(AppDelegate, ProcessEndsFromAnyDepthAndBySignals)
         {"the program closes its last window, which ends it", closeTheLastWindow, 0},
         // What Qt 6.4 does there: the event is not a spontaneous one.
         {"the close box of the last window on Wayland", [] { open(1)->windowHandle()->close(), std::_Exit(4); }, 0},
+        {"the same, refused: the window stays",
+         [] {
+             answer = refuse;
+             const Window *const window = open(1);
+             window->windowHandle()->close();
+             std::_Exit(window->isVisible() ? 0 : 4);
+         },
+         0},
         // What Qt 6.11 does when the connection to the display breaks.
         {"the end of all loops", [] { QCoreApplication::exit(0); }, 0},
         {"SIGTERM, although the delegate would refuse", [] { answer = refuse, std::raise(SIGTERM); }, 0},
@@ -163,6 +172,13 @@ TEST_F(AppDelegate, ProcessEndsFromAnyDepthAndBySignals)
         };
         EXPECT_EXIT(endInsideARun(), endedBy(signal), nothingOfOurs);
     }
+    const auto hangUpIgnored = [] {
+        std::signal(SIGHUP, SIG_IGN);
+        CocoaInit();
+        std::raise(SIGHUP);
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(hangUpIgnored(), endedBy(0), nothingOfOurs) << "as nohup does it";
     CocoaInit();
     EXPECT_EXIT(std::raise(SIGTERM), endedBy(SIGTERM), nothingOfOurs) << "outside a run";
 }

@@ -34,6 +34,9 @@ TEST_F(Windows, StatementMakesAndShows)
     }
     const Window *const large = open(1, QRectF(0, 0, 2000, 1500));
     EXPECT_TRUE(large->screen()->availableGeometry().contains(large->frameGeometry().topLeft())) << "its title bar";
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(open(2)->contentView()->layoutDirection(), Qt::LeftToRight);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(Windows, StatementChangesWhatIsGiven)
@@ -76,6 +79,9 @@ TEST_F(Windows, InitTakesAnyTagAndTheFlagOnceLookupFindsTheFirst)
     EXPECT_TRUE(CUI_WindowWithTag(5) == first && CUI_WindowWithTag(-5) == first);
     EXPECT_EQ(CUI_WindowWithTag(tagFromObject(second)), second);
     EXPECT_TRUE(!CUI_WindowWithTag(6) && !CUI_WindowWithTag(0) && !CUI_WindowWithTag(largestTag));
+    CUI_OutputWindowSetTag(1);
+    CUI_WindowSubclassAwakeFromNib(second);
+    EXPECT_EQ(CUI_OutputWindowTag(), 5);
 }
 
 TEST_F(Windows, ContentStaysThroughMenuBarsAndTinyWindows)

@@ -72,6 +72,8 @@ TEST(Pictures, ofShapes)
          [](Page &page) { page.setCurrentStrokeColor(Qt::red); page.addLines({{2, 1}, {2, 5}, {9, 5}}, false); }},
         {"open rectangle", ".rrrrrrrrrr./.rrrrrrrrrr./.rr......rr./.rr......rr./.rrrrrrrrrr./.rrrrrrrrrr.",
          [](Page &page) { page.addRect({2, 1, 8, 4}, Qt::red, QColor()); }},
+        {"rectangle without end", "............/............/.....rrrrrrr/.....rrrrrrr/.....rrggggg/.....rrggggg",
+         [](Page &page) { page.addRect({6, 3, 1e300, 1e300}, Qt::red, Qt::green); }},
         {"filled rectangle", ".rrrrrrrrrr./.rrrrrrrrrr./.rrggggggrr./.rrggggggrr./.rrrrrrrrrr./.rrrrrrrrrr.",
          [](Page &page) { page.addRect({2, 1, 8, 4}, Qt::red, Qt::green); }},
         {"open oval", "+++rrrrrr+++/+r++++++++r+/+r+......+r+/+r+......+r+/+r++++++++r+/+++rrrrrr+++",

@@ -70,8 +70,9 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
     EXPECT_EQ(ControlItems(14), (QStringList{u"red"_s, u"green"_s}));
     ControlSetItems(14, {});
     EXPECT_EQ(ControlItems(14), QStringList());
-    EXPECT_EQ(alertsOf([] { ControlSetFormat(14, u"1"_s, true, 0, 0); }), QString());
-    EXPECT_TRUE(ControlWithTag(14)->findChild<QLineEdit *>()->validator());
+    EXPECT_EQ(alertsOf([] { ControlSetFormat(14, u"ab"_s, true, 2, caseForceUpper); }), QString());
+    QTest::keyClicks(ControlWithTag(14)->findChild<QLineEdit *>(), u"cabb"_s);
+    EXPECT_EQ(ControlStringValue(14), u"AB"_s);
     ViewSetHidden(16, true);
     ControlSetEnabled(16, false);
     ViewSetAccessibleName(16, u"Done"_s);
@@ -177,6 +178,7 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
         {"opened, asked", CUI_OpenPanel, true, u"b.txt"_s, u"b.txt"_s, u"2906 9 7 b.txt"_s},
         {"refused", CUI_OpenPanel, true, u"a.txt"_s, {}, u"2906 9 7 a.txt"_s},
         {"another folder", CUI_OpenPanel, false, u"/"_s, {}, u"2903 9 7"_s},
+        {"another folder to save in", CUI_SavePanel, false, u"/"_s, {}, u"2903 9 7"_s},
         {"saved, with an ending", CUI_SavePanel, false, u"d"_s, u"d.txt"_s, u"2901 9 7 d.txt"_s},
         {"named by the program", CUI_SavePanel, true, u"nod"_s, u"d.txt"_s, u"2901 9 7 nod.txt, 2906 9 7 d.txt"_s},
         {"without a name", CUI_SavePanel, false, u"no.txt"_s, u".txt"_s, u"2901 9 7 no.txt"_s},
@@ -211,6 +213,7 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
             delete (event == dangerous ? objectFromTag(lastObject) : nullptr);
         };
         whenRuns<QFileDialog>([dangerous](QFileDialog *panel) {
+            EXPECT_EQ(panel->findChild<QLineEdit *>()->text(), u"e"_s);
             QTest::keyClick(panel, dangerous == 2905 ? Qt::Key_Shift : Qt::Key_Return);
         });
         EXPECT_EQ(CUI_SavePanel(9, {}, folder.filePath(u"e"_s), {}), QString()) << dangerous;

@@ -159,6 +159,10 @@ TEST_F(ViewSite, DrawsTheDirtyPartOrUpdatesItsLayer)
     m_view->repaint(5, 6, 20, 10);
     EXPECT_EQ(drawn, QRectF(5, 6, 20, 10));
     EXPECT_EQ(m_view->grab().toImage().pixelColor(50, 40), QColor(Qt::red));
+    VisualEffectView veil(m_view);
+    veil.setCoverage(1);
+    veil.show();
+    EXPECT_EQ(m_view->grab().toImage().pixelColor(5, 5), veil.palette().color(QPalette::Window));
     takeSiteCalls();
     wantsLayer = true;
     m_view->repaint();

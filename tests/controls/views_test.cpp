@@ -252,6 +252,9 @@ TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelecti
         },
         [&] { return outline->selectedObject().toString(); });
     EXPECT_EQ(parent->child(0)->text(0), u"/1/0"_s);
+    atEvent = answers({{outlineViewEventChildCount, [](auto &it) { it.longVal = 0; }}});
+    OutlineViewReloadData(18);
+    EXPECT_EQ(outline->topLevelItemCount(), 0);
 }
 
 TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
@@ -281,6 +284,10 @@ TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         atEvent = nullptr;
     }
+    TabViewSelectIndex(16, 1);
+    QTest::keyClick(tabs->tabBar(), Qt::Key_Left);
+    EXPECT_EQ(TabViewSelectedIndex(16), 0);
+    takeSiteCalls();
     expectCalls({{"removed", [] { TabViewRemoveTab(16, 2); }, u"1603 16 7 2"_s},
                  {"added", [] { TabViewAddTab(16, 99, u"E & F"_s); }, u"1603 16 7 3"_s}});
     EXPECT_EQ(tabs->tabText(2), u"E && F"_s);
@@ -294,6 +301,8 @@ TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
                  {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
                   u"1509 15 7 40, 1508 15 7 160, 1510 15 7 90, 1501 15 7, 1502 15 7 -> 90"_s}},
                 [&] { return QString::number(split->position(0)); });
+    split->handle(1)->grab();
+    EXPECT_TRUE(dialogCalls.contains(u"%1 15 7"_s.arg(splitViewEventDrawDivider)));
     auto *const moved = new QWidget(open(2)->contentView());
     SplitViewAddSubview(tagFromObject(split), tagFromObject(moved));
     EXPECT_EQ(objectWindowTag(moved), 7);
@@ -366,7 +375,9 @@ TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
     for (const auto &[name, from, to, act, question, result] : rows) {
         for (const bool refuses : {true, false}) {
             setText(from, to);
-            atEvent = answers({{textViewEventRefuseChange, [refuses](auto &it) { it.boolVal = refuses; }}});
+            // The preset answer is no, whatever was left in the record.
+            atEvent = answers({{textViewEventRefuseChange, [refuses](auto &it) { it.boolVal |= refuses; }}});
+            answer(true);
             act();
             EXPECT_EQ(dialogCalls.value(0), u"2100 21 7 "_s + question) << name;
             EXPECT_EQ(TextViewString(21), refuses ? u"one two"_s : result) << name;

@@ -53,6 +53,9 @@ TEST_F(Panel, staysInsideTheContentOfAnySize)
     EXPECT_EQ(panel.parentWidget(), host->contentView());
     EXPECT_EQ(panel.bodyRect().topLeft(), QPoint(10, 154));
     EXPECT_EQ(panel.field()->height(), 16);
+    const int promptEnd = panel.field()->x();
+    panel.label()->setFont(QFont(panel.font().family(), 20));
+    EXPECT_GT(panel.field()->x(), promptEnd) << "a larger prompt";
     panel.field()->setText(u"1+2"_s);
     for (const QSize &size : {QSize(300, 120), QSize(140, 80)}) {
         host->resize(size);
