@@ -217,6 +217,8 @@ TEST_F(Screen, givesAssistiveTechnologyLinesAttributesAndPositions)
     EXPECT_EQ(text->offsetAtPoint(text->characterRect(278).center()), 278);
     text->scrollToSubstring(0, 1);
     EXPECT_EQ(bar()->value(), 0);
+    text->setCursorPosition(21);
+    EXPECT_EQ(text->cursorPosition(), 21);
     text->selection(0, &start, &stop);
     EXPECT_TRUE(start == 0 && stop == 0) << "nothing is selected";
     view.clear();

@@ -47,6 +47,7 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
         {"slider by its statement", 3, false, [] { CUI_Slider(3, 9, 0, 10, {}); }, 9, {}},
         {"text field", 4, false, [] { ControlSetStringValue(4, u"7 pears"_s); }, 7, u"7 pears"_s},
         {"pop-up button", 5, false, [] { ControlSetIntegerValue(5, 0); }, 0, u"a"_s},
+        {"pop-up button by its statement", 5, false, [] { CUI_PopUpButton(5, {}, 1, {}); }, 1, u"b"_s},
         {"segmented control", 6, false, [] { ControlSetIntegerValue(6, 0); }, 0, {}},
         {"segmented control by its statement", 6, false, [] { CUI_SegmentedControl(6, {}, 1, {}); }, 1, {}},
         {"radio buttons exclude each other", 11, false, [] { ControlSetIntegerValue(12, 1); }, 0, u"One"_s},

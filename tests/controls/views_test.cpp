@@ -301,6 +301,7 @@ TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
                  {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
                   u"1509 15 7 40, 1508 15 7 160, 1510 15 7 90, 1501 15 7, 1502 15 7 -> 90"_s}},
                 [&] { return QString::number(split->position(0)); });
+    EXPECT_EQ(split->position(1), 0) << "no such divider";
     split->handle(1)->grab();
     EXPECT_TRUE(dialogCalls.contains(u"%1 15 7"_s.arg(splitViewEventDrawDivider)));
     auto *const moved = new QWidget(open(2)->contentView());
