@@ -157,6 +157,36 @@ TEST_F(Screen, showsWhatTheWholeListDoes)
     }
 }
 
+/// Run at four scales. A whole drawing needs the size of the visible part: Qt rounds differently what an edge clips.
+TEST_F(Screen, showsWhatTheWholeListDoesNextToAScrollBar)
+{
+    QRandomGenerator random(20260103);
+    const auto print = [&] { printAtRandom(view, random, 200, 300); };
+    content.resize(400, 200);
+    other->hide();
+    view.fixFrameHeight(300);
+    const Table<std::function<void()>> changes = {
+        {"printed", print},
+        {"printed over", print},
+        {"scrolled", [&] { bar()->setValue(37); }},
+        {"printed after scrolling", print},
+        {"upside down", [&] { view.setFlipView(false); }},
+        {"printed upside down", print},
+        {"grown upside down", [&] { view.fixFrameHeight(2000); }},
+        {"scrolled upside down", [&] { bar()->setValue(1790); }},
+    };
+    for (const auto &[name, change] : changes) {
+        change();
+        QCoreApplication::processEvents();
+        const double scale = content.devicePixelRatioF();
+        const QSize pixels = (QSizeF(scrollView->viewport()->size()) * scale).toSize();
+        const QImage whole =
+            everyItem(view, pixels, content.backgroundColor(),
+                      QTransform::fromTranslate(0, -bar()->value()) * QTransform::fromScale(scale, scale));
+        EXPECT_EQ(shown().copy(whole.rect()), whole) << name;
+    }
+}
+
 TEST(Culling, leavesOutNothingThatAPartShows)
 {
     QRandomGenerator random(20260104);
