@@ -168,17 +168,42 @@ TEST_F(Console, theArchiveHasWhatAnItemIsMadeOf)
 {
     page.addString(u"abc\b"_s);
     page.setCurrentLineWidth(2.5);
+    page.setCurrentLineCapStyle(1);
     page.setCurrentLineDashPattern({1, 2});
-    page.addRect({1, 2, 3, 4}, Qt::black, Qt::green);
-    QVariantMap item{{u"type"_s, 0U},         {u"pt"_s, QPointF(3, 0)},  {u"pt1"_s, QPointF()},
-                     {u"pt2"_s, QPointF()},   {u"rect"_s, QRectF()},     {u"lineWidth"_s, 0.0},
-                     {u"lineCapStyle"_s, 0U}, {u"strokeFlag"_s, false},  {u"fillFlag"_s, false},
-                     {u"text"_s, u"abc\b"_s}, {u"lineDashPhase"_s, 0.0}, {u"attributes"_s, u"abc\b"_s}};
-    EXPECT_EQ(page.itemArray().value(0).toMap(), item);
-    item = page.itemArray().value(1).toMap();
-    EXPECT_TRUE(item.value(u"type"_s) == 2U && item.value(u"rect"_s) == QRectF(1, 2, 3, 4));
-    EXPECT_EQ(item.value(u"lineDashPattern"_s), (QVariantList{1.0, 2.0}));
-    EXPECT_EQ(item.value(u"fillColor"_s), QColor(Qt::green));
+    page.setCurrentLineDashPhase(3);
+    page.setCurrentStrokeColor(Qt::blue);
+    page.setCurrentLinePoint({5, 6});
+    page.addLines({{7, 8}}, true);
+    page.addRect({1, 2, 3, 4}, Qt::red, Qt::green);
+    page.addOval({1, 2, 3, 4}, Qt::red, QColor());
+    const QVariantMap none{{u"pt"_s, QPointF()},  {u"pt1"_s, QPointF()},    {u"pt2"_s, QPointF()},
+                           {u"rect"_s, QRectF()}, {u"strokeFlag"_s, false}, {u"fillFlag"_s, false},
+                           {u"lineWidth"_s, 0.0}, {u"lineCapStyle"_s, 0U},  {u"lineDashPhase"_s, 0.0}};
+    const QVariantMap style{{u"lineWidth"_s, 2.5},
+                            {u"lineCapStyle"_s, 1U},
+                            {u"lineDashPhase"_s, 3.0},
+                            {u"lineDashPattern"_s, QVariantList{1.0, 2.0}}};
+    const auto map = [&none](std::initializer_list<QVariantMap> parts) {
+        QVariantMap whole = none;
+        for (const QVariantMap &part : parts) {
+            whole.insert(part);
+        }
+        return whole;
+    };
+    const QVariantMap rect{{u"rect"_s, QRectF(1, 2, 3, 4)}, {u"strokeColor"_s, QColor(Qt::red)}};
+    const QVariantMap expected[] = {
+        map({{{u"type"_s, 0U}, {u"pt"_s, QPointF(3, 0)}, {u"text"_s, u"abc\b"_s}, {u"attributes"_s, u"abc\b"_s}}}),
+        map({style,
+             {{u"type"_s, 1U},
+              {u"pt1"_s, QPointF(5, 6)},
+              {u"pt2"_s, QPointF(7, 8)},
+              {u"strokeColor"_s, QColor(Qt::blue)}}}),
+        map({style, rect, {{u"type"_s, 2U}, {u"fillColor"_s, QColor(Qt::green)}}}),
+        map({style, rect, {{u"type"_s, 3U}}}),
+    };
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(page.itemArray().value(i).toMap(), expected[i]) << i;
+    }
 }
 
 TEST_F(Console, readsAsOneText)
