@@ -68,6 +68,8 @@ TEST(Pictures, ofShapes)
         {"odd pattern", "............/............/.kkkk....kk./............/............/............", dashed(1, {4}, 0)},
         {"useless pattern", "............/............/.kkkkkkkkkk./............/............/............",
          dashed(1, {0, 0}, 0)},
+        {"dashes much wider than long", "............/.kkkkkkkkkk./.kkkkkkkkkk./.kkkkkkkkkk./............/............",
+         dashed(3, {0.05, 0.05}, 0)},
         {"stroke colour", "............/.rr........./.rr........./.rr........./.rrrrrrrr.../..rrrrrrr...",
          [](Page &page) { page.setCurrentStrokeColor(Qt::red); page.addLines({{2, 1}, {2, 5}, {9, 5}}, false); }},
         {"open rectangle", ".rrrrrrrrrr./.rrrrrrrrrr./.rr......rr./.rr......rr./.rrrrrrrrrr./.rrrrrrrrrr.",
