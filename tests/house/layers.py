@@ -4,6 +4,7 @@
 """
 import re
 import sys
+from graphlib import CycleError, TopologicalSorter
 from pathlib import Path
 
 # Each layer and what it may include besides itself. A public header has the rank of its folder in include/tetrad.
@@ -17,33 +18,51 @@ BELOW = {
     "rules": ["strings"],
     "game": ["rules", "input", "console", "app", "events", "strings"],
 }
+EVERY_LAYER = ["umbrella", *BELOW]
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
-LAYER = re.compile(r"runtime/controls/(events)/|game/(rules)/|(game)/|runtime/([^/]+)/|include/tetrad/([^/.]+)(?:/|\.h)")
 
 
 def layer_of(path):
-    """Also "tetrad" and "fwd", the headers above the folders; None for what is not the product's."""
-    match = LAYER.match(path)
-    return match and next(filter(None, match.groups()))
+    """The layer of a file, "umbrella" for the two headers above the folders, None for what is not the product's."""
+    for prefix, layer in (("runtime/controls/events/", "events"), ("game/rules/", "rules"), ("game/", "game")):
+        if path.startswith(prefix):
+            return layer
+    parts = path.split("/")
+    if parts[0] == "runtime":
+        return parts[1]
+    if path.startswith("include/tetrad/"):
+        return parts[2] if len(parts) == 4 else "umbrella"
+    return None
 
 
 def faults_of(path, text):
     layer = layer_of(path)
+    allowed = {layer, *BELOW.get(layer, EVERY_LAYER)}
     for bracket, name in INCLUDE.findall(text):
         target = "include/" + name if bracket == "<" else name
         below = layer_of(target)
-        if layer in BELOW and below not in (None, "fwd", layer, *BELOW[layer]):
+        if below is None or target == "include/tetrad/fwd.h":
+            continue
+        if below not in allowed:
             yield f"{path} includes {target}: {layer} lies below {below}, or beside it"
-        if path.startswith("include/") and bracket == '"':
+        if path.startswith("include/") and not target.startswith("include/"):
             yield f"{path} includes {target}: a public header includes public headers only"
 
 
 def main(root):
-    files = [file for top in ("include", "runtime", "game") for file in sorted(Path(root, top).rglob("*.*")) if file.is_file()]
-    faults = [fault for file in files for fault in faults_of(file.relative_to(root).as_posix(), file.read_text("utf-8"))]
+    faults, includes = [], {}
+    for file in sorted(file for top in ("include", "runtime", "game") for file in Path(root, top).rglob("*.*")):
+        path, text = file.relative_to(root).as_posix(), file.read_text(encoding="utf-8")
+        if file.suffix in (".h", ".cpp", ".mm"):
+            faults += faults_of(path, text)
+            includes[path] = ["include/" + name if bracket == "<" else name for bracket, name in INCLUDE.findall(text)]
+    try:
+        TopologicalSorter(includes).prepare()
+    except CycleError as error:
+        faults.append("in a circle: " + " is included by ".join(error.args[1]))
     print(*faults, sep="\n")
-    print(f"{len(files)} files read, {len(faults)} faults")
-    sys.exit(bool(faults) or len(files) < 100)
+    print(f"{len(includes)} files read, {len(faults)} faults")
+    sys.exit(bool(faults) or len(includes) < 100)
 
 
 main(sys.argv[1])
