@@ -9,20 +9,21 @@ from pathlib import Path
 
 
 def vocabulary(root):
-    """{heading: [names]} and {class: [members]}, from logical lines that go on indented."""
-    names, members = {}, {}
+    """{heading: [names]}, {class: [members]} and {heading: [name=value]}, from logical lines that go on indented."""
+    names, members, values = {}, {}, {}
     text = re.sub(r"^#.*\n", "", Path(root, "tests/house/vocabulary.txt").read_text(encoding="utf-8"), flags=re.MULTILINE)
     for line in re.sub(r"\n\s+", " ", text).splitlines():
-        name, separator, rest = re.split(r"(::?)", line, maxsplit=1)
-        (members if separator == "::" else names)[name] = rest.split()
-    return names, members
+        name, separator, rest = re.split(r"(::?|=)", line, maxsplit=1)
+        {":": names, "::": members, "=": values}[separator][name] = rest.split()
+    return names, members, values
 
 
 def source(root):
-    names, members = vocabulary(root)
+    names, members, values = vocabulary(root)
     lines = ["#include <tetrad/tetrad.h>"]
     lines += [f'#include "{header.relative_to(root).as_posix()}"' for header in sorted(Path(root, "game").rglob("*.h"))]
     lines += [f"using tetrad::{name};" for heading in names.values() for name in heading]
+    lines += [f"static_assert(tetrad::{value.replace('=', ' == ')});" for heading in values.values() for value in heading]
     for name, own in members.items():
         lines += [f"struct {name}Names : tetrad::{name}", "{"]
         # A using-declaration names overloads, static members and data alike.
