@@ -244,32 +244,4 @@ TEST_F(Console, givesParagraphsThatWereThereBeforeTheClearOnce)
     }
 }
 
-/// As the game prints: gaps between lines, an error line that was erased and printed again.
-TEST_F(Console, theCaretReachesEveryLine)
-{
-    for (const auto &[y, text] : QList<std::pair<int, QString>>{{10, u"one"_s}, {25, u"two"_s}, {900, u"far"_s}}) {
-        page.addString(text, {10.0, static_cast<double>(y)});
-    }
-    page.addString(u"false"_s, {10, 2000});
-    page.addRect({10, 2000, 400, 15}, Qt::black, Qt::black);
-    page.addString(u"wrong"_s, {10, 2000});
-    ConsoleReader &reader = page.reader();
-    QString read;
-    for (const int direction : {1, 1, 1, 1, -1, -1, -1, -1}) {
-        const qsizetype caret = reader.caretBeyond(direction);
-        reader.select(caret, caret);
-        read += reader.text().text().mid(caret, 1);
-    }
-    EXPECT_EQ(read, u"tfwwftoo"_s);
-    QString stepped;
-    for (qsizetype at = 0, next = reader.stepFrom(at, 1); next != at; at = next, next = reader.stepFrom(at, 1)) {
-        stepped += reader.text().text().mid(at, next - at);
-        EXPECT_EQ(reader.stepFrom(next, -1), at);
-    }
-    EXPECT_EQ(stepped, reader.text().text());
-    page.addString(u"e\u0301\b"_s);
-    const qsizetype end = reader.text().text().size();
-    EXPECT_EQ(reader.stepFrom(end, -1), end - 2) << "never within a character";
-}
-
 } // namespace

@@ -3,10 +3,24 @@
 
 #include <QAccessible>
 #include <QBackingStore>
+#include <QBitmap>
 #include <QRandomGenerator>
 #include <QScrollBar>
+#include <QShortcut>
 
 using namespace tetrad;
+
+/// What was reported of texts, with the caret after it. Qt drops that where nothing takes it to a client.
+static QStringList textEvents;
+
+void QAccessible::updateAccessibility(QAccessibleEvent *event)
+{
+    if (const auto *const change = dynamic_cast<QAccessibleTextCursorEvent *>(event)) {
+        const auto *const gain = dynamic_cast<QAccessibleTextInsertEvent *>(event);
+        const QString what = gain ? gain->textInserted() : QVariant::fromValue(event->type()).toString();
+        textEvents << what + u' ' + QString::number(change->cursorPosition());
+    }
+}
 
 namespace {
 
@@ -114,6 +128,13 @@ protected:
     }
 
     QScrollBar *bar() const { return scrollView->verticalScrollBar(); }
+
+    /// 1 where a character's line is the first in the view, -1 where it is the last, else 0.
+    int edge(qsizetype offset)
+    {
+        const QRectF line = view.reader().characterRect(offset).translated(0, -bar()->value());
+        return (std::floor(line.top()) == 0) - (std::ceil(line.bottom()) == scrollView->height());
+    }
 };
 
 /// Run at four scales.
@@ -226,33 +247,103 @@ TEST_F(Screen, isThereWhenTheStatementReturnsAndFollowsTheWidth)
     EXPECT_EQ(view.viewH(), 30);
 }
 
-// Roles, events and reading by keys are seen by a client of the accessibility bus in the end-to-end tests.
+// Roles are seen by a client of the accessibility bus in the end-to-end tests.
 TEST_F(Screen, givesAssistiveTechnologyLinesAttributesAndPositions)
 {
-    printNumbers();
     QAccessibleInterface *console = QAccessible::queryAccessibleInterface(&view);
-    ASSERT_TRUE(console && console->textInterface());
     QAccessibleTextInterface *text = console->textInterface();
-    view.addString(u"🔴!\b"_s);
-    EXPECT_EQ(text->characterCount(), 10 * 2 + 90 * 3 + 2);
-    EXPECT_EQ(QString(text->text(0, 1) + text->text(290, 292)), u"0🔴!"_s) << "a pair of units is one character";
-    int start = 0;
-    int stop = 0;
-    EXPECT_EQ(text->textAtOffset(21, QAccessible::LineBoundary, &start, &stop), u"10\n"_s);
-    EXPECT_TRUE(text->attributes(21, &start, &stop).contains(u"font-family:\"Menlo\""_s));
-    const QRect zero = text->characterRect(21);
-    EXPECT_EQ(text->offsetAtPoint(zero.center() + QPoint(100, 0)), -1);
-    text->scrollToSubstring(text->characterCount() - 3, text->characterCount());
-    EXPECT_GT(bar()->value(), 1000);
-    EXPECT_EQ(text->offsetAtPoint(text->characterRect(278).center()), 278);
-    text->scrollToSubstring(0, 1);
-    EXPECT_EQ(bar()->value(), 0);
-    text->setCursorPosition(21);
-    EXPECT_EQ(text->cursorPosition(), 21);
-    text->selection(0, &start, &stop);
-    EXPECT_TRUE(start == 0 && stop == 0) << "nothing is selected";
+    printNumbers();
+    view.addString(u"🔴🔴 a\b"_s); // Two of these characters have two units.
+    QAccessible::setActive(true);
+    textEvents.clear();
+    view.setForegroundColor(QColor(1, 2, 3));
+    view.setBackgroundColor(QColor(4, 5, 6));
+    view.addString(u"b\nc 🔴"_s);
+    const QAccessible::State state = console->state();
+    EXPECT_TRUE(state.readOnly && state.multiLine && state.focusable && state.selectableText);
+    EXPECT_EQ(console->text(QAccessible::Value), view.reader().text().text());
+    QStringList found{console->text(QAccessible::Name), console->actionInterface()->actionNames().join(u'/')};
+    int start = -1;
+    int stop = -1;
+    const auto note = [&](const QString &value) { found << u"%1 %2-%3"_s.arg(value).arg(start).arg(stop); };
+    note(text->textBeforeOffset(297, QAccessible::WordBoundary, &start, &stop));
+    note(text->textAtOffset(297, QAccessible::LineBoundary, &start, &stop));
+    note(text->textAfterOffset(293, QAccessible::LineBoundary, &start, &stop));
+    note(text->attributes(293, &start, &stop).section(u';', 1));
+    note(text->attributes(294, &start, &stop));
+    for (const auto &[from, to] : {std::pair(80, 110), {80, 111}, {32, 35}, {38, 41}, {23, 140}}) {
+        text->scrollToSubstring(from, to);
+        found << u"%1 %2"_s.arg(edge(from)).arg(edge(to - 1));
+    }
+    text->addSelection(292, 297);
+    text->setSelection(1, 293, 294);
+    text->removeSelection(1);
+    for (const int index : {1, 0, 0}) {
+        text->selection(index, &start, &stop);
+        note(u"%1 at %2"_s.arg(text->selectionCount()).arg(text->cursorPosition()));
+        text->removeSelection(index);
+    }
+    for (const auto &[character, unit] : {std::pair(0, 0), {278, 278}, {292, 294}, {298, 300}}) {
+        const QRect rect = view.reader().characterRect(unit).toAlignedRect();
+        EXPECT_EQ(text->characterRect(character), rect.translated(view.mapToGlobal(QPoint())));
+        EXPECT_EQ(text->offsetAtPoint(text->characterRect(character).center()), character);
+    }
+    EXPECT_TRUE(text->characterRect(-1).isNull() && text->characterRect(text->characterCount()).isNull());
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(0).center() + QPoint(100, 0)), -1);
+    EXPECT_EQ(found.join(u'|'),
+              u"Console|SetFocus|c 296-297|c 🔴\n 296-300|c 🔴\n 296-300|font-size:9pt;color:rgb(0,0,0); 290-294|"
+              "font-family:\"Menlo\";font-size:9pt;color:rgb(1,2,3);background-color:rgb(4,5,6); 294-296|"
+              "0 -1|0 -1|1 1|0 0|1 0|1 at 297 0-0|1 at 297 292-297|0 at 297 0-0"_s);
     view.clear();
-    EXPECT_EQ(text->cursorPosition(), 0) << "nothing is printed";
+    view.addString(u"x\ny\b"_s);
+    view.items().removeAt(0);
+    QAccessible::setActive(false);
+    view.clear();
+    view.addString(u"unheard"_s);
+    view.select(0, 1);
+    EXPECT_EQ(
+        textEvents.join(u'|'),
+        u"b\n 296|c 🔴\n 301|TextSelectionChanged 297|TextCaretMoved 297|TextSelectionChanged 297|"
+        "TextCaretMoved 297|TextSelectionChanged 297|TextCaretMoved 297|TextRemoved 0|x\n 2|y 3|TextRemoved 0|y 1"_s);
+}
+
+TEST_F(Screen, isReadAndSelectedByKeys)
+{
+    const double lineHeight = TextAttributes().facts().lineHeight;
+    printNumbers();
+    content.resize(400, qRound(10 * lineHeight));
+    view.addString(u"covered"_s, {3, 9000});
+    view.addString(u"e\u0301"_s, {3, 9000});
+    const QShortcut copies(QKeySequence::Copy, &content);
+    const QShortcut selects(QKeySequence::SelectAll, &content);
+    QGuiApplication::clipboard()->clear();
+    const QString keys =
+        u"Right Down Shift+Right Shift+Down Up PgDown Shift+PgDown Ctrl+C PgUp Ctrl+C Ctrl+A Ctrl+C Alt+5 F6 Escape "
+        "End Up Up Up Down Down Right Left Left Right Right Shift+Home Left Up"_s;
+    QStringList seen; // Anchor and caret, where its line is, how much was copied, whether the view has the focus.
+    for (const QString &key : keys.split(u' ')) {
+        view.setFocus();
+        QTest::keySequence(&view, QKeySequence(key));
+        const ConsoleReader &reader = view.reader();
+        seen << key + QString::asprintf(" %lld-%lld %d %lld %d", reader.anchor(), reader.caret(), edge(reader.caret()),
+                                        QGuiApplication::clipboard()->text().size(), view.hasFocus());
+    }
+    EXPECT_EQ(seen.join(u", "_s),
+              u"Right 1-1 1 0 1, Down 3-3 0 0 1, Shift+Right 3-4 0 0 1, Shift+Down 3-6 0 0 1, Up 4-4 0 0 1, "
+              "PgDown 23-23 -1 0 1, Shift+PgDown 23-50 -1 0 1, Ctrl+C 23-50 -1 27 1, PgUp 23-23 1 27 1, Ctrl+C "
+              "23-23 1 27 1, Ctrl+A 0-301 -1 27 1, Ctrl+C 0-301 -1 301 1, Alt+5 0-301 -1 301 1, F6 0-301 -1 301"
+              " 0, Escape 0-301 -1 301 0, End 301-301 -1 301 1, Up 298-298 0 301 1, Up 287-287 1 301 1, Up "
+              "284-284 1 301 1, Down 287-287 0 301 1, Down 298-298 -1 301 1, Right 300-300 -1 301 1, Left "
+              "298-298 -1 301 1, Left 297-297 -1 301 1, Right 298-298 -1 301 1, Right 300-300 -1 301 1, "
+              "Shift+Home 300-0 1 301 1, Left 0-0 1 301 1, Up 0-0 1 301 1"_s);
+    EXPECT_EQ(view.accessibleDescription() + u'\n', view.reader().text().text());
+    other->hide();
+    QCoreApplication::processEvents();
+    const QRgb color = view.palette().color(QPalette::Highlight).rgb();
+    const QRegion lit(QBitmap::fromImage(shown().createMaskFromColor(color, Qt::MaskOutColor)));
+    const QRect frame = scrollView->viewport()->rect();
+    EXPECT_TRUE((lit ^ frame ^ frame.adjusted(1, 1, -1, -1) ^ QRect(3, 1, 2, qRound(lineHeight) - 1)).isEmpty())
+        << "a caret and a frame around what is visible";
 }
 
 TEST_F(Screen, isSelectedByDraggingAndLeftByTyping)
@@ -264,9 +355,14 @@ TEST_F(Screen, isSelectedByDraggingAndLeftByTyping)
     QTest::mousePress(&view, Qt::LeftButton, {}, cell(0).topLeft() + QPoint(1, 3));
     QTest::mouseMove(&view, cell(20).topRight() + QPoint(3, 3));
     QTest::mouseRelease(&view, Qt::LeftButton, {}, cell(21).center());
-    EXPECT_TRUE(view.reader().selectedText().startsWith(u"0\n1\n2"_s));
+    QTest::mouseMove(&view, cell(30).center());
+    EXPECT_EQ(view.reader().selectedText(), u"0\n1\n2\n3\n4\n5\n6\n7\n8\n9\n1"_s);
+    EXPECT_TRUE(view.hasFocus());
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::ShiftModifier, cell(4).topLeft() + QPoint(1, 3));
+    EXPECT_EQ(view.reader().selectedText(), u"0\n1\n"_s);
     QLineEdit another(scrollView);
     another.show();
+    other->setFocus(); // Only while it is used, as a menu bar has it.
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_5);
     EXPECT_EQ(field->text(), u"5"_s) << "what is typed on the console goes to the field that had the focus";
@@ -326,8 +422,8 @@ TEST_F(Statements, textAppliesOnlyWhatIsGiven)
     EXPECT_EQ(look(), u"size 12 color standard align 0 Menlo"_s);
     CUI_PrintToWindowTextStatement(u"No Such Family"_s, ColorGreen(), ColorBlack(), 2, 50, 18);
     EXPECT_EQ(look(), u"size 18 color #00ff00 background #000000 align 2 Menlo"_s);
-    CUI_PrintToWindowTextStatement(QString(), ColorWhite(), QColor(), notGiven, notGiven, 0);
-    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2 Menlo"_s);
+    CUI_PrintToWindowTextStatement(u"DejaVu Serif"_s, ColorWhite(), QColor(), notGiven, notGiven, 0);
+    EXPECT_EQ(look(), u"size 18 color #ffffff background #000000 align 2 DejaVu Serif"_s);
     const QVariantMap now = outputView()->currentAttributes();
     EXPECT_EQ(now.value(u"paragraphStyle"_s).value<ParagraphStyle>().defaultTabInterval, 50);
 }
@@ -357,7 +453,14 @@ TEST_F(Statements, onAGivenWindowActOnThatOne)
     CUI_PrintToWindowTextSetForegroundColor(given, Qt::red);
     CUI_PrintToWindowTextSetTabInterval(given, 50);
     EXPECT_EQ(CUI_PrintToWindowPrint(given, u"\t\b"_s).x(), 53);
-    EXPECT_EQ(CUI_PrintToWindowViewObj(given)->dump(), u"text (3,0) \"\\x09\\x08\" size 18 color #ff0000\n"_s);
+    CUI_PrintToWindowTextSetFontName(given, u"DejaVu Serif"_s);
+    CUI_PrintToWindowTextSetBackgroundColor(given, Qt::blue);
+    CUI_PrintToWindowTextSetAlignment(given, 2);
+    CUI_PrintToWindowViewObj(given)->addString(u"\b"_s);
+    EXPECT_EQ(CUI_PrintToWindowViewObj(given)->dump(),
+              u"text (3,0) \"\\x09\\x08\" size 18 color #ff0000\n"
+              "text (300,0) \"\\x08\" size 18 color #ff0000 background #0000ff\n"_s);
+    EXPECT_EQ(CUI_PrintToWindowViewObj(given)->items().at(1).attributes().fontName(), u"DejaVu Serif"_s);
     EXPECT_EQ(outputView()->dump(), QString());
 }
 
