@@ -55,7 +55,13 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
         {"combo box", 14, false, [] { ControlSetIntegerValue(14, 0); }, 0, u"red"_s},
         {"date field", 15, false, [] { ControlSetStringValue(15, u"2026-11-22"_s); }, 0, u"2026-11-22"_s},
         {"progress indicator", 16, false, [] { ControlSetIntegerValue(16, 7); }, 7, u"70%"_s},
-        {"label", 17, false, [] {}, 9, u"9 lives"_s},
+        {"label", 17, false, [] { ControlSetDoubleValue(17, 2.5); }, 2.5, u"2.5"_s},
+        {"unknown progress", 16, false, [] { CUI_ProgressIndicator(16, 3, 5, 5, {}); }, 3, {}},
+        {"stepper of wholes", 13, false, [] { CUI_Stepper(13, 2.7, 0, 9, 1, {}); }, 3, u"3"_s},
+        {"stepper of thirds", 13, false, [] { CUI_Stepper(13, 1 / 3.0, 0, 9, 1 / 3.0, {}); }, 0.333333, u"0.333333"_s},
+        {"as far as it goes", 3, false, [] { ControlSetDoubleValue(3, 1e12); }, 10, {}},
+        {"reversed and upright", 3, false, [] { CUI_Slider(3, notGiven, 20, -9, QRectF(0, 0, 20, 80)); }, 10, {}},
+        {"no segment", 6, false, [] { ControlSetIntegerValue(6, -1); }, -1, {}},
         {"disabled", 2, false, [click] { ControlSetEnabled(2, false), click(); }, 0, u"Box"_s},
     };
     for (const auto &[name, tag, isReported, act, number, text] : rows) {
@@ -68,9 +74,13 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
     }
     ViewSetFocus(14);
     EXPECT_TRUE(CUI_ViewWithTag(14)->hasFocus());
-    EXPECT_EQ(ControlItems(14), (QStringList{u"red"_s, u"green"_s}));
-    ControlSetItems(14, {});
-    EXPECT_EQ(ControlItems(14), QStringList());
+    for (const Tag tag : {5, 6, 14}) {
+        ControlSetItems(tag, {u"p"_s, u"q"_s});
+        EXPECT_EQ(ControlItems(tag), (QStringList{u"p"_s, u"q"_s}));
+        EXPECT_EQ(ControlIntegerValue(tag), -1);
+    }
+    EXPECT_EQ(ControlWithTag(3)->property("orientation").toInt(), Qt::Vertical);
+    EXPECT_TRUE(ControlWithTag(3)->property("invertedAppearance").toBool());
     EXPECT_EQ(alertsOf([] { ControlSetFormat(14, u"ab"_s, true, 2, caseForceUpper); }), QString());
     QTest::keyClicks(ControlWithTag(14)->findChild<QLineEdit *>(), u"cabb"_s);
     EXPECT_EQ(ControlStringValue(14), u"AB"_s);
@@ -84,7 +94,7 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
 TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
 {
     CUI_Button(-5, u"Try & see"_s, QRectF(10, 10, 80, 30));
-    QWidget *const button = ControlWithTag(5);
+    const QPointer<QWidget> button = ControlWithTag(5);
     EXPECT_TRUE(button->isHidden());
     CUI_Button(5, {}, {});
     EXPECT_EQ(ControlStringValue(5), u"Try & see"_s);
@@ -100,7 +110,8 @@ TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
          u"Tag error.|A content view stays in its window."_s},
         {"text of no control, once", [] { ControlSetStringValue(88, ControlStringValue(5)); },
          u"Tag error.|Can't find view 88 in window 7."_s},
-        {"item of no menu", [] { CUI_Menu(0, 1, 0, {}, {}); }, u"Tag error.|There can be no item 1 in a menu 0."_s},
+        {"item of no menu", [] { CUI_Menu(0, 1, 0, {}, {}), CUI_Menu(1, -1, 0, {}, {}); },
+         u"Tag error.|There can be no item 1 in a menu 0., Tag error.|There can be no item -1 in a menu 1."_s},
     };
     for (const auto &[name, statement, alert] : wrong) {
         EXPECT_EQ(alertsOf(statement), alert) << name;
@@ -118,29 +129,32 @@ TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
     ViewAddSubview(9, 5);
     ViewAddSubview(tagFromObject(button), 9);
     EXPECT_EQ(button->parentWidget(), page) << "nothing lies in itself";
+    EXPECT_TRUE(button->geometry() == QRect(10, 10, 80, 30) && !button->isHidden());
     ViewRemoveFromSuperview(5);
     EXPECT_EQ(CUI_ViewWithTag(5), nullptr);
+    QTest::qWait(0);
+    EXPECT_FALSE(button);
 }
 
 TEST_F(Statements, MenuItemsAreChosenAndDisabledByNumber)
 {
-    CUI_Menu(20, 0, menuItemEnabled, u"File"_s, {});
-    CUI_Menu(20, 1, menuItemTicked, u"Save & go"_s, u"S"_s);
-    CUI_Menu(20, 2, notGiven, u"-"_s, {});
-    CUI_Menu(20, 3, menuItemDisabled, u"Never"_s, {});
+    CUI_Menu(1, 0, menuItemEnabled, u"File"_s, {});
+    CUI_Menu(1, 1, menuItemTicked, u"Save & go"_s, u"S"_s);
+    CUI_Menu(1, 2, notGiven, u"-"_s, {});
+    CUI_Menu(1, 3, menuItemDisabled, u"Never"_s, {});
     EXPECT_EQ(mainMenu()->menus.size(), 2) << "the application's own menu came with the first";
     QMenu *const menu = mainMenu()->menus.constLast();
     const QList<QAction *> items = menu->actions();
     ASSERT_EQ(items.size(), 3);
-    EXPECT_EQ(items[0]->shortcut().toString(), u"Ctrl+Shift+S"_s);
+    EXPECT_EQ(menu->title() + items[0]->text() + items[0]->shortcut().toString(), u"FileSave && goCtrl+Shift+S"_s);
     EXPECT_TRUE(items[0]->isChecked() && items[1]->isSeparator() && !items[2]->isEnabled());
     valuesOf = [](qint64) { return QString::number(CUI_DialogEventObj()->longVal); };
     takeSiteCalls();
-    expectCalls({{"chosen", [&] { items[0]->trigger(); }, u"1400 20 7 1"_s}});
+    expectCalls({{"chosen", [&] { items[0]->trigger(); }, u"1400 1 7 1"_s}});
     EXPECT_TRUE(items[0]->isChecked()) << "only the statement ticks";
     for (const bool disables : {true, false}) {
         atEvent = [disables](qint64) { answer(disables); };
-        expectCalls({{"shown", [menu] { Q_EMIT menu->aboutToShow(); }, u"1401 20 7 1, 1401 20 7 3"_s}});
+        expectCalls({{"shown", [menu] { Q_EMIT menu->aboutToShow(); }, u"1401 1 7 1, 1401 1 7 3"_s}});
         EXPECT_NE(items[0]->isEnabled(), disables);
         EXPECT_FALSE(items[2]->isEnabled()) << "by its own state";
     }
@@ -148,14 +162,13 @@ TEST_F(Statements, MenuItemsAreChosenAndDisabledByNumber)
 
 TEST_F(Statements, TimersFireUntilTheyAreStopped)
 {
-    CUI_Timer(30, 0.001, true);
+    CUI_Timer(30, -5, true);
     CUI_Timer(31, 0.001, false);
     const auto fired = [](const QString &timer) { return dialogCalls.count(timer); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return fired(u"1450 30 7"_s) > 2; }));
     CUI_Timer(-30, 0, false);
     EXPECT_EQ(fired(u"1450 31 7"_s), 1);
-    takeSiteCalls();
-    QTest::qWait(20);
+    dialogCalls.clear();
     EXPECT_EQ(takeSiteCalls(), QString());
 }
 
@@ -190,6 +203,7 @@ TEST_F(Statements, FilesAreOpenedAndSavedAsTheProgramAnswers)
         whenRuns<QFileDialog>([&, isAsked = asks, text = typed, expected = calls](QFileDialog *panel) {
             EXPECT_EQ(CUI_OpenPanel(9, {}, {}, {}), QString()) << "one at a time";
             auto *const field = panel->findChild<QLineEdit *>();
+            EXPECT_EQ(panel->windowTitle() + panel->nameFilters().join(u'|'), u"Choose*.txt *.md"_s);
             takeSiteCalls();
             if (isAsked) {
                 const auto *const list = panel->findChild<QListView *>(u"listView"_s);

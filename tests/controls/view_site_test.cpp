@@ -163,6 +163,11 @@ TEST_F(ViewSite, DrawsTheDirtyPartOrUpdatesItsLayer)
     veil.setCoverage(1);
     veil.show();
     EXPECT_EQ(m_view->grab().toImage().pixelColor(5, 5), veil.palette().color(QPalette::Window));
+    CUI_ImageView(6, QImage::fromData(QByteArray("P3 2 1 255  255 0 0  0 0 255")), QRectF(0, 100, 40, 40));
+    const QImage image = CUI_ViewWithTag(6)->grab().toImage();
+    const auto colour = [&image](int x, int y) { return image.pixelColor(x, y).name(); };
+    EXPECT_EQ(colour(0, 10) + colour(39, 29) + colour(0, 9), u"#ff0000#0000ff"_s + colour(39, 30)) << "in proportion";
+    EXPECT_NE(colour(18, 20), colour(0, 20)) << "smoothly";
     takeSiteCalls();
     wantsLayer = true;
     m_view->repaint();

@@ -3,6 +3,7 @@
 #include "tests/controls/site_helper.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QTabBar>
 
 namespace tetrad {
@@ -12,16 +13,21 @@ inline QString recorded(qint64 event)
 {
     const CUI_DialogEvent &record = *CUI_DialogEventObj();
     const QString number = QString::number(record.longVal);
-    const QString coordinate = QString::number(record.floatVal);
+    const QString coordinate = number % u':' % QString::number(record.floatVal);
+    const QRectF part = record.rectVal;
+    const QString drawn = number % QString::asprintf(" %g,%g %gx%g", part.x(), part.y(), part.width(), part.height());
     const QString column = record.tableColumnObj.toString();
     const QString object = record.object.toString();
     const QString range = QString::asprintf("%llu+%llu", record.rangeVal.location, record.rangeVal.length);
     const QMap<qint64, QString> ofEvents = {
+        {splitViewEventDrawDivider, drawn},
         {splitViewEventConstrainMaxCoordinate, coordinate},
         {splitViewEventConstrainMinCoordinate, coordinate},
         {splitViewEventConstrainSplitPosition, coordinate},
         {tabViewEventDidChangeCount, number},
+        {tableViewEventDrawRow, drawn},
         {tableViewEventColumnClicked, column},
+        {outlineViewEventColumnClicked, column},
         {tableViewEventDidEdit, number % u'.' % column % u'=' % object},
         {textViewEventRefuseChange, range % u'=' % record.stringObj},
         {textViewEventSelectionChanged, range},
@@ -60,13 +66,12 @@ inline Answers respond()
         {popoverEventShouldDetach, agree},
         {toolbarEventValidateItem, agree},
         {splitViewEventCanCollapseSubview, agree},
+        {splitViewEventDividerColor, [](Record &it) { it.colorObj = Qt::green; }},
+        {splitViewEventDividerThickness, [](Record &it) { it.floatVal = 5; }},
     };
 }
 
-inline void refuse(qint64 /*event*/)
-{
-    answer(true);
-}
+inline const auto refuse = [](qint64) { answer(true); };
 
 /// Presses a key in the view with this tag.
 inline std::function<void()> key(Tag tag, Qt::Key code, Qt::KeyboardModifiers modifiers = {})
@@ -101,7 +106,7 @@ protected:
             CUI_ViewWithTag(tag)->setMinimumWidth(40);
             SplitViewAddSubview(15, tag);
         }
-        CUI_TextView(21, {}, QRectF(0, 0, 200, 100));
+        CUI_TextView(21, u"one two"_s, QRectF(0, 0, 200, 100));
         CUI_TokenField(23, {u"a"_s, u"b"_s}, QRectF(0, 0, 200, 30));
         CUI_Toolbar(3);
         item = CUI_ToolbarAddItem(3, 19, u"Go"_s);
@@ -115,9 +120,8 @@ protected:
         EXPECT_EQ(CUI_OutputWindowTag(), 9);
         PopoverSetAsks(9, true);
         popover = CUI_PopoverWithTag(9);
-        split->setHandleWidth(5);
         split->setSizes({100, 100});
-        setText(3, 3);
+        select(3, 3);
         tokens->setFocus();
         takeSiteCalls();
         EXPECT_EQ(split->position(0), 100);
@@ -130,14 +134,15 @@ protected:
         SiteTest::TearDown();
     }
 
-    static void press(QWidget *widget, const QRect &part)
-    {
-        QTest::mousePress(widget, Qt::LeftButton, {}, part.center());
-    }
+    static void press(QWidget *view, const QRect &part) { QTest::mousePress(view, Qt::LeftButton, {}, part.center()); }
     QRect partOf(int row) const { return table->visualItemRect(table->item(row, 0)); }
     void pressRow(int row) const { press(table->viewport(), partOf(row)); }
     void expand(bool expands) const { outline->topLevelItem(1)->setExpanded(expands); }
     void pressItem() const { press(outline->viewport(), outline->visualItemRect(outline->topLevelItem(0))); }
+    static void clickHeader(const QHeaderView *header)
+    {
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 10, 5));
+    }
     void pressTab() const { press(tabs->tabBar(), tabs->tabBar()->tabRect(1)); }
     void dragDivider(int distance) const { dragMouse(split->handle(1), QPoint(2, 10), QPoint(2 + distance, 10)); }
     void select(int from, int to) const

@@ -2,7 +2,7 @@
 
 #include <QColorDialog>
 #include <QFontDialog>
-#include <QHeaderView>
+#include <QToolBar>
 #include <QWheelEvent>
 
 using namespace tetrad;
@@ -13,7 +13,6 @@ TEST_F(Views, TableShowsWhatTheProgramAnswers)
 {
     ASSERT_EQ(table->rowCount(), 3);
     EXPECT_EQ(table->item(2, 1)->text(), u"2.1"_s);
-    EXPECT_EQ(table->rowHeight(1), 41);
     EXPECT_FALSE(table->item(0, 0)->flags() & Qt::ItemIsEditable);
     EXPECT_TRUE(table->item(0, 1)->flags() & Qt::ItemIsEditable);
     EXPECT_EQ(table->horizontalHeaderItem(0)->foreground().color(), QColor(Qt::red));
@@ -21,6 +20,8 @@ TEST_F(Views, TableShowsWhatTheProgramAnswers)
     TableViewSetCell(17, 1, 0, u"own"_s);
     TableViewSetCell(17, 9, 0, u"outside"_s);
     EXPECT_EQ(TableViewCell(17, 1, 0), u"own"_s);
+    table->grab();
+    EXPECT_TRUE(dialogCalls.contains(u"1709 17 7 1 0,%1 %2x41"_s.arg(partOf(1).y()).arg(table->viewport()->width())));
     atEvent = answers({{tableViewEventRowCount, [](auto &it) { it.longVal = 1; }},
                        {tableViewEventViewForCell, [](auto &it) { it.viewObj = new QLineEdit; }}});
     TableViewReloadData(17);
@@ -53,20 +54,17 @@ TEST_F(Views, TableQueriesAndReportsSelectionEditsAndColumnClicks)
         editor->setText(u"new"_s);
         QTest::keyClick(editor, Qt::Key_Return);
     };
-    const auto clickHeader = [&] {
-        QHeaderView *const header = table->horizontalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionViewportPosition(1) + 10, 5));
-    };
     expectCalls(
         {
             {"press", [&] { pressRow(1); }, u"1706 17 7 1, 1707 17 7 1 -> 1"_s},
             {"key", key(17, Qt::Key_Down), u"1706 17 7 2, 1707 17 7 2 -> 2"_s},
+            {"not the first letters", key(17, Qt::Key_0), u" -> 2"_s},
             {"refused", refuseAll, u"1706 17 7 0, 1706 17 7 1 -> 2"_s},
             {"drag, each row once", dragOverAll, u"1706 17 7 0, 1706 17 7 1, 1706 17 7 2, 1707 17 7 1 -> 1"_s},
             {"edit", edit, u"1705 17 7 1.1=new -> 1"_s},
-            {"click on a header", clickHeader, u"1708 17 7 1 -> 1"_s},
+            {"click on a header", [&] { clickHeader(table->horizontalHeader()); }, u"1708 17 7 1 -> 1"_s},
             {"the program's own", [] { TableViewSelectRow(17, 0); }, u"1707 17 7 0 -> 0"_s},
-            {"none", [] { TableViewSelectRow(17, -1); }, u"1707 17 7 -1 -> -1"_s},
+            {"none", [] { TableViewSelectRow(17, 3); }, u"1707 17 7 -1 -> -1"_s},
         },
         [] { return QString::number(TableViewSelectedRow(17)); });
     EXPECT_EQ(CUI_OutputWindowTag(), 7);
@@ -94,6 +92,9 @@ TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelecti
             {"key", key(18, Qt::Key_Down), u"1805 18 7 /1, 1806 18 7 /1 -> /1"_s},
             {"key refused", refuseKey, u"1805 18 7 /0 -> /1"_s},
             {"press refused", [&] { pressItem(); }, u"1805 18 7 /0 -> /1"_s},
+            {"closed by a key", key(18, Qt::Key_Left), u"1804 18 7 /1 -> /1"_s},
+            {"opened by a key", key(18, Qt::Key_Right), u"1803 18 7 /1 -> /1"_s},
+            {"click on a header", [&] { clickHeader(outline->header()); }, u"1807 18 7 1 -> /1"_s},
         },
         [&] { return outline->selectedObject().toString(); });
     EXPECT_EQ(parent->child(0)->text(0), u"/1/0"_s);
@@ -129,9 +130,14 @@ TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
         atEvent = nullptr;
     }
-    TabViewSelectIndex(16, 1);
-    QTest::keyClick(tabs->tabBar(), Qt::Key_Left);
-    EXPECT_EQ(TabViewSelectedIndex(16), 0);
+    key(16, Qt::Key_Backtab, Qt::ControlModifier)();
+    QString selected = QString::number(TabViewSelectedIndex(16));
+    tabs->setTabEnabled(1, false);
+    for (const Qt::Key code : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_A}) {
+        QTest::keyClick(tabs->tabBar(), code);
+        selected += QString::number(TabViewSelectedIndex(16));
+    }
+    EXPECT_EQ(selected, u"2002200"_s) << "a disabled tab is passed by";
     takeSiteCalls();
     expectCalls({{"removed", [] { TabViewRemoveTab(16, 2); }, u"1603 16 7 2"_s},
                  {"added", [] { TabViewAddTab(16, 99, u"E & F"_s); }, u"1603 16 7 3"_s}});
@@ -141,14 +147,15 @@ TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
 
 TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
 {
-    expectCalls({{"drag", [&] { dragDivider(20); },
-                  u"1509 15 7 40, 1508 15 7 160, 1510 15 7 120, 1501 15 7, 1502 15 7 -> 120"_s},
-                 {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
-                  u"1509 15 7 40, 1508 15 7 160, 1510 15 7 90, 1501 15 7, 1502 15 7 -> 90"_s}},
-                [&] { return QString::number(split->position(0)); });
-    EXPECT_EQ(split->position(1), 0) << "no such divider";
-    split->handle(1)->grab();
-    EXPECT_TRUE(dialogCalls.contains(u"%1 15 7"_s.arg(splitViewEventDrawDivider)));
+    expectCalls(
+        {{"drag", [&] { dragDivider(20); },
+          u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:120, 1501 15 7, 1502 15 7 -> 120"_s},
+         {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
+          u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:90, 1501 15 7, 1502 15 7 -> 90"_s},
+         {"no such divider", [] { SplitViewSetPosition(15, 50, -1), SplitViewSetPosition(15, 50, 1); }, u" -> 90"_s}},
+        [&] { return QString::number(split->position(0)); });
+    EXPECT_EQ(split->handle(1)->grab().toImage().pixelColor(2, 9), QColor(Qt::green));
+    EXPECT_TRUE(dialogCalls.contains(u"1513 15 7 0 0,0 5x%1"_s.arg(split->height())));
     auto *const moved = new QWidget(open(2)->contentView());
     SplitViewAddSubview(tagFromObject(split), tagFromObject(moved));
     EXPECT_EQ(objectWindowTag(moved), 7);
@@ -197,7 +204,6 @@ TEST_F(Views, SplitResizeChangesOnlyTheSubviewsThatMay)
 
 TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
 {
-    const auto typing = [&] { QTest::keyClicks(text, u"x"_s); };
     const auto menuCut = [&] {
         send<QContextMenuEvent>(text->viewport(), QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
         auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
@@ -207,8 +213,8 @@ TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
     };
     QGuiApplication::clipboard()->setText(u"ab"_s);
     const Table<int, int, std::function<void()>, QString, QString> rows = {
-        {"typing", 3, 3, typing, u"3+0=x"_s, u"onex two"_s},
-        {"over a selection", 0, 3, typing, u"0+3=x"_s, u"x two"_s},
+        {"typing", 3, 3, key(21, Qt::Key_X), u"3+0=x"_s, u"onex two"_s},
+        {"over a selection", 0, 3, key(21, Qt::Key_X), u"0+3=x"_s, u"x two"_s},
         {"Return", 3, 3, key(21, Qt::Key_Return), u"3+0=\n"_s, u"one\n two"_s},
         {"Backspace", 3, 3, key(21, Qt::Key_Backspace), u"2+1="_s, u"on two"_s},
         {"Delete", 3, 3, key(21, Qt::Key_Delete), u"3+1="_s, u"onetwo"_s},
@@ -216,6 +222,7 @@ TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
         {"word before", 3, 3, key(21, Qt::Key_Backspace, Qt::ControlModifier), u"0+3="_s, u" two"_s},
         {"Paste", 3, 3, key(21, Qt::Key_V, Qt::ControlModifier), u"3+0=ab"_s, u"oneab two"_s},
         {"Cut in the menu", 0, 3, menuCut, u"0+3="_s, u" two"_s},
+        {"Delete in the menu", 0, 3, [&] { text->del(); }, u"0+3="_s, u" two"_s},
         {"Cut key", 0, 3, key(21, Qt::Key_X, Qt::ControlModifier), u"0+3="_s, u" two"_s},
     };
     for (const auto &[name, from, to, act, question, result] : rows) {
@@ -278,15 +285,17 @@ TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOn
     };
     const auto close = [] { PopoverClose(9); };
     const auto drag = [&] { dragPopover(); };
+    const auto moves = [&] { dragMouse(popover->contentView(), QPoint(10, 10), QPoint(10, 20)); };
     const auto state = [&] {
-        const bool isTool = popover->windowType() == Qt::Tool && popover->pos() != shownAt;
+        const bool isTool = popover->windowType() == Qt::Tool && popover->pos() == shownAt + QPoint(50, 40);
         return popover->isVisible() ? (isTool ? u"as a window"_s : u"at its view"_s)
                                     : (window.isVisible() ? u"another window"_s : u"hidden"_s);
     };
     atEvent = nullptr;
     expectCalls({{"show", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
                  {"the preset answer is no", close, u"1301 9 9 -> at its view"_s},
-                 {"drag refused", drag, u"1307 9 9 -> at its view"_s}},
+                 {"drag refused", drag, u"1307 9 9 -> at its view"_s},
+                 {"not far enough", moves, u" -> at its view"_s}},
                 state);
     atEvent = answers(respond());
     expectCalls({{"close agreed", close, u"1301 9 9, 1304 9 9, 1305 9 9 -> hidden"_s},
@@ -300,8 +309,12 @@ TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOn
     takeSiteCalls();
     expectCalls({{"replaced by a window", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> another window"_s}}, state);
     EXPECT_EQ(CUI_OutputWindowTag(), 9);
+    CUI_Popover(9, QSizeF(90, 50), popoverTransient);
+    EXPECT_EQ(popover->contentView()->size(), QSize(90, 50));
     PopoverRemove(9);
-    EXPECT_EQ(CUI_PopoverWithTag(9), nullptr);
+    CUI_Popover(9, {}, popoverTransient);
+    EXPECT_EQ(CUI_PopoverWithTag(9)->contentView()->size(), QSize(200, 100)) << "another one";
+    PopoverRemove(9);
 }
 
 TEST_F(Views, ToolbarClicksAreReportedAndItemsValidatedOnRequest)
@@ -309,13 +322,17 @@ TEST_F(Views, ToolbarClicksAreReportedAndItemsValidatedOnRequest)
     atEvent = nullptr;
     expectCalls({{"click", [&] { clickItem(); }, u"1900 19 7"_s}});
     EXPECT_EQ(lastObject, tagFromObject(item));
-    ToolbarItemSetValidates(3, 19, true);
+    EXPECT_TRUE(CUI_ToolbarAddItem(3, 19, {}) == item && item->text() == u"Go");
+    expectCalls({{"at once", [] { ToolbarItemSetValidates(3, 19, true); }, u"1901 19 7"_s}});
     for (const bool enabled : {true, false}) {
         atEvent = answers({{toolbarEventValidateItem, [enabled](auto &it) { it.boolVal = enabled; }}});
         QTest::mouseClick(m_content, Qt::LeftButton);
-        EXPECT_TRUE(takeSiteCalls().startsWith(u"1901 19 7"_s));
+        EXPECT_EQ(takeSiteCalls(), u"1901 19 7"_s);
         EXPECT_EQ(item->isEnabled(), enabled);
     }
+    ToolbarItemSetValidates(3, 19, false);
+    expectCalls({{"no more", [&] { QTest::mouseClick(m_content, Qt::LeftButton); }, {}}});
+    EXPECT_TRUE(CUI_Toolbar(-3)->isHidden());
 }
 
 TEST_F(Views, ColoursAndFontsAreReportedAsTheyAreChosen)
