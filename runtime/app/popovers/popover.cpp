@@ -5,7 +5,6 @@
 #include <tetrad/app/modal.h>
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -52,7 +51,7 @@ Popover::~Popover()
 
 void Popover::showRelativeTo(QWidget *view, const QRect &rect, Qt::Edge preferredEdge)
 {
-    // A popup is what the window system closes on a click outside.
+    // A popup is what the window system closes on a click outside, and Qt on Escape.
     setWindowFlags((m_behavior == popoverTransient ? Qt::Popup : Qt::Tool) | Qt::FramelessWindowHint);
     const QRect local = rect.isEmpty() ? view->rect() : rect;
     const QRect anchor(view->mapToGlobal(local.topLeft()), local.size());
@@ -86,15 +85,6 @@ void Popover::closeEvent(QCloseEvent *event)
         hide();
         Q_EMIT didClose();
     }
-}
-
-void Popover::keyPressEvent(QKeyEvent *event)
-{
-    if (m_behavior == popoverTransient && event->key() == Qt::Key_Escape) {
-        close();
-        return;
-    }
-    QWidget::keyPressEvent(event);
 }
 
 Popover *CUI_PopoverWithTag(Tag tag)
