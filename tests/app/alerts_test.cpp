@@ -193,9 +193,15 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
     auto *const behind = new QPushButton(owner->contentView());
     behind->show();
     const QSignalSpy pressed(behind, &QPushButton::pressed);
-    const auto pressBehind = [owner, behind] {
-        QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, behind->rect().center()));
+    const std::function<void()> acts[] = {
+        [&] { QTest::mouseClick(owner->windowHandle(), Qt::LeftButton, {}, behind->mapTo(owner, QPoint(5, 5))); },
+        [&] { QTest::keyClick(owner->windowHandle(), Qt::Key_Space); },
+        [&] { owner->windowHandle()->close(); },
     };
+    const auto position = [](CUI_DialogEvent &it) {
+        EXPECT_EQ(std::exchange(it.rectVal, QRectF(20, 40, 600, 0)), QRectF(0, 0, 300, 0));
+    };
+    atEvent = answers({{windowEventWillPositionSheet, position}});
     const auto openSheet = [] { return CUI_Alert(4, notGiven, u"Save?"_s, {}, u"Save;Don't"_s, 1); };
     for (const bool isAnswered : {true, false}) {
         SCOPED_TRACE(isAnswered);
@@ -206,7 +212,15 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         EXPECT_EQ(alert->windowHandle()->flags() & (Qt::WindowType_Mask | Qt::WindowCloseButtonHint), Qt::Sheet);
         EXPECT_FALSE(alert->actions().isEmpty()) << "the shortcuts of the menus";
         EXPECT_EQ(openSheet(), 0) << "already shown";
-        pressBehind();
+        EXPECT_EQ(alert->pos(), owner->contentView()->mapToGlobal(QPoint(20 + (600 - alert->width()) / 2, 40)));
+        for (const auto &act : acts) {
+            owner->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(owner));
+            act();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(alert));
+        }
+        presses(Qt::Key_Return, true)(alert);
+        EXPECT_TRUE(owner->isVisible());
         EXPECT_EQ(pressed.count(), 0) << "its window takes no input";
         isAnswered ? clicks(1)(alert) : dismiss(4);
         const QString reported = isAnswered ? u"1000 1001 4"_s : u"1000 0 4"_s;
@@ -214,7 +228,7 @@ TEST_F(Alerts, SheetReturnsAtOnceAndReportsWhenAnsweredOrDismissed)
         EXPECT_EQ(calls, (QStringList{u"10001 1 1"_s, u"10000 1 1"_s, u"10002 1 1"_s, reported}));
         EXPECT_EQ(CUI_AlertWithTag(4), nullptr);
     }
-    pressBehind();
+    acts[0]();
     EXPECT_EQ(pressed.count(), 1);
     define(2);
     EXPECT_EQ(show(2, clicks(1)), 1001) << "no sheet, though there is a window";

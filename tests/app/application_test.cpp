@@ -1,6 +1,8 @@
 #include "tests/support/windows.h"
 
+#include <QDir>
 #include <QFileOpenEvent>
+#include <QTemporaryDir>
 
 #include <csignal>
 
@@ -54,7 +56,18 @@ TEST_F(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
 
 void startAndMeetEvents()
 {
+    const QTemporaryDir theme;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        const QString folder = theme.path() + u"/hicolor/%1x%1/apps"_s.arg(size);
+        EXPECT_TRUE(QDir().mkpath(folder) && QImage(size, size, QImage::Format_RGB32).save(folder + u"/test.id.png"));
+    }
+    QIcon::setThemeSearchPaths({theme.path()});
+    AppSetName(u"Test"_s);
+    QGuiApplication::setDesktopFileName(u"test.id"_s);
     CocoaInit();
+    EXPECT_EQ(applicationName() % applicationId(), u"Testtest.id"_s);
+    EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 7) << "the largest is left out";
+    qputenv("TETRAD_DUMP", "1");
     QWidget window;
     bool isUpdated = false;
     answer = [&isUpdated](qint64 event) { isUpdated = isUpdated || event == appEventDidUpdate; };
@@ -83,7 +96,7 @@ void startAndMeetEvents()
 // In a process of its own, since one starts only once.
 TEST_F(AppDelegate, RealEventsArrive)
 {
-    EXPECT_EXIT(startAndMeetEvents(), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(startAndMeetEvents(), testing::ExitedWithCode(0), "\nQWidget [^\n]*640x480");
 }
 
 TEST_F(AppDelegate, MayRefuseToTerminate)

@@ -10,7 +10,7 @@ namespace {
 using Act = std::function<void()>;
 
 // A window with a panel raised over it, and one next to it; each has a button and a field.
-class Modal : public testing::Test
+class Modal : public QObject, public testing::Test
 {
 protected:
     QWidget carrier;
@@ -23,6 +23,18 @@ protected:
     QPushButton *otherButton = new QPushButton(u"other"_s, &other);
     QLineEdit *otherField = new QLineEdit(&other);
     QStringList clicked;
+    // The keys that each widget got, in order.
+    QString keys;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isPress = event->type() == QEvent::KeyPress;
+        if (watched->isWidgetType() && (isPress || event->type() == QEvent::KeyRelease)) {
+            const QString key = QKeySequence(static_cast<QKeyEvent *>(event)->key()).toString();
+            keys += watched->objectName() + (isPress ? u"+"_s : u"-"_s) + key + u' ';
+        }
+        return false;
+    }
 
     void SetUp() override
     {
@@ -39,6 +51,9 @@ protected:
         for (QLineEdit *const each : {outsideField, field, otherField}) {
             each->setGeometry(0, 0, 80, 30);
         }
+        field->setObjectName(u"field"_s);
+        panel->setObjectName(u"panel"_s);
+        qApp->installEventFilter(this);
         other.show();
         carrier.show();
         carrier.activateWindow();
@@ -132,12 +147,14 @@ TEST_F(Modal, ClicksAndKeysReachOnlyTheWidgetAndWhatWorksInModalRuns)
         EXPECT_TRUE(field->hasFocus());
         QTest::keyClicks(outsideField, u"12"_s);
         QTest::keyClick(other.windowHandle(), Qt::Key_3);
+        QTest::keyClick(carrier.windowHandle(), Qt::Key_F5);
         setWorksWhenModal(&other, true);
         click(otherButton);
         click(otherField);
         QTest::keyClick(other.windowHandle(), Qt::Key_4);
     });
     EXPECT_EQ(field->text() % u'|' % outsideField->text() % u'|' % otherField->text(), u"123||4"_s);
+    EXPECT_EQ(keys, u"field+1 field-1 field+2 field-2 field+3 field-3 field+F5 panel+F5 field-F5 +4 -4 ");
     click(outsideButton);
     EXPECT_EQ(clicked.join(u' '), u"inside other outside"_s) << "the filter must be gone after the run";
 }
@@ -145,6 +162,7 @@ TEST_F(Modal, ClicksAndKeysReachOnlyTheWidgetAndWhatWorksInModalRuns)
 TEST_F(Modal, AMinimisedWindowComesBackAndNothingElseHappens)
 {
     QTimer::singleShot(0, &other, [this] {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
         for (const bool byKey : {true, false}) {
             other.showMinimized();
             QApplication::processEvents();
@@ -167,7 +185,11 @@ TEST_F(Modal, CarrierScrolls)
     area.setWidget(content);
     area.show();
     const QScrollBar *const bar = area.verticalScrollBar();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     runWhile([&] {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&carrier));
+        EXPECT_EQ(carrier.children().constLast(), panel) << "raised";
         const QPointF at = content->mapTo(&carrier, QPoint(5, 5));
         QWheelEvent wheel(at, carrier.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&wheel);
@@ -187,13 +209,19 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
         for (const auto key : {Qt::Key_1, Qt::Key_Return, Qt::Key_2, Qt::Key_3, Qt::Key_Return, Qt::Key_4}) {
             QTest::keyClick(carrier.windowHandle(), key);
         }
+        send<QKeyEvent>(carrier.windowHandle(), QEvent::KeyPress, Qt::Key_5, Qt::NoModifier, u"5"_s, true);
+        QTest::keyClick(other.windowHandle(), Qt::Key_6);
+        keys.clear();
     };
+    setWorksWhenModal(&other, true);
+    otherField->setFocus();
     EXPECT_EQ(runWhile(typeAhead), modalStopped);
     EXPECT_EQ(field->text(), u"1"_s);
     EXPECT_EQ(runModalForWindow(panel), modalStopped);
     EXPECT_EQ(field->text(), u"123"_s);
+    EXPECT_EQ(keys, u"field+2 field-2 field+3 field-3 field+Return ");
     EXPECT_EQ(runWhile([] {}), modalAborted);
-    EXPECT_EQ(field->text(), u"1234"_s);
+    EXPECT_EQ(field->text(), u"12346"_s);
 }
 
 TEST_F(Modal, TheMenuBarGivesTheKeyboardBackAtOnce)

@@ -1,5 +1,6 @@
 #include "tests/support/windows.h"
 
+#include <QGroupBox>
 #include <QToolBar>
 
 using namespace tetrad;
@@ -196,6 +197,29 @@ TEST_F(Windows, TabGoesByPosition)
     }
 }
 
+TEST_F(Windows, AreDumpedWithTheirViews)
+{
+    CUI_Window(7, u"Title"_s, windowStyleBorderless, QRectF(50, 70, 300, 200));
+    QWidget *const content = CUI_WindowWithTag(7)->contentView();
+    QGroupBox group(u"group"_s, content);
+    QLineEdit field(u"text"_s, &group);
+    group.setGeometry(1, 2, 30, 40);
+    field.setGeometry(3, 4, 20, 10);
+    setObjectTag(&field, 5);
+    group.show();
+    const QWidget plain(&group);
+    field.setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(content->window()));
+    const QString seen = dumpViews();
+    EXPECT_TRUE(seen.contains(u"tetrad::Window tag 7 (50,70 300x200) \"Title\"\n"
+                              "  | content 300x200 at 50,70, style 0, key\n"
+                              "  tetrad::ContentViewSC #-1437226411 (0,0 300x200)\n"
+                              "    QGroupBox (1,2 30x40) \"group\"\n"
+                              "      QLineEdit tag 5 (3,4 20x10) focus \"text\"\n"
+                              "      QWidget (0,0 100x30) hidden\n"_s))
+        << seen.toStdString();
+}
+
 TEST_F(Windows, TargetIsTheOutputWindowElseTheFrontmost)
 {
     Tag none = 0;
@@ -223,10 +247,27 @@ TEST_F(Windows, PopoverIsNextToItsAnchorAndKeepsItsTag)
 {
     QWidget *const view = open(1)->contentView();
     Popover popover(9, QSize(100, 50));
-    popover.showRelativeTo(view, QRect(100, 100, 20, 10), Qt::BottomEdge);
+    const Table<Qt::Edge, QRect, QPoint> rows = {
+        {"above", Qt::TopEdge, QRect(100, 100, 20, 10), QPoint(59, 48)},
+        {"on the left", Qt::LeftEdge, QRect(100, 100, 20, 10), QPoint(-2, 79)},
+        {"no room on the left", Qt::LeftEdge, QRect(10, 100, 20, 10), QPoint(30, 79)},
+        {"no room on either side", Qt::LeftEdge, QRect(0, 100, 2000, 10), QPoint(-102, 79)},
+        {"on the right", Qt::RightEdge, QRect(100, 100, 20, 10), QPoint(120, 79)},
+        {"below", Qt::BottomEdge, QRect(100, 100, 20, 10), QPoint(59, 110)},
+    };
+    for (const auto &[name, edge, rect, position] : rows) {
+        SCOPED_TRACE(name);
+        const bool isTransient = edge != Qt::BottomEdge;
+        popover.setBehavior(isTransient ? popoverTransient : popoverApplicationDefined);
+        popover.showRelativeTo(view, rect, edge);
+        EXPECT_EQ(popover.geometry(), QRect(view->mapToGlobal(position), QSize(102, 52)));
+        EXPECT_EQ(popover.windowType() == Qt::Popup, isTransient);
+        EXPECT_EQ(send<QKeyEvent>(&popover, QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier), isTransient);
+        EXPECT_EQ(popover.isVisible(), !isTransient);
+    }
     EXPECT_EQ(CUI_PopoverShown(), &popover);
     EXPECT_EQ(popover.contentView()->size(), QSize(100, 50));
-    EXPECT_EQ(popover.y(), view->mapToGlobal(QPoint(100, 110)).y());
+    EXPECT_TRUE(worksWhenModal(popover.contentView()));
     EXPECT_EQ(alertsOf([] { CUI_Window(-9, {}, notGiven, {}); }),
               u"Window tag error.|Windows and Popovers cannot have same tag value."_s);
     EXPECT_EQ(CUI_WindowWithTag(9), nullptr);
