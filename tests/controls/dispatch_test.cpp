@@ -28,7 +28,7 @@ TEST_F(Dispatch, PrefersTheControlsOwnCallback)
         {"all controls' before dialog", false, true, true, 7, u"all 5 7 0"_s, u"all 5 7 77"_s},
         {"dialog function", false, false, true, 7, u"1 5 7"_s, u"1503 5 7"_s},
         {"nobody", false, false, false, 7, {}, {}},
-        {"other window's tag on the control", false, false, true, 3, u"1 5 3"_s, u"1503 5 3"_s},
+        {"other window's tag on the control", false, false, true, 1, u"1 5 1"_s, u"1503 5 1"_s},
         {"no window's tag on the control", true, false, true, 0, u"own 5 7 44"_s, u"own 5 7 44"_s},
     };
     for (const auto &[name, own, all, dialog, wndTag, action, delegateEvent] : rows) {
@@ -87,6 +87,13 @@ TEST_F(Dispatch, ForwardersPreferTheViewsOwnCallback)
         EXPECT_EQ(CUI_OutputWindowTag(), 7);
     }
     EXPECT_EQ(lastObject, 77);
+}
+
+TEST(DialogEventRecord, IsEmptyAtFirst)
+{
+    const CUI_DialogEvent it;
+    EXPECT_FALSE(it.boolVal || it.viewTag || it.rangeVal.location || it.rangeVal.length);
+    EXPECT_TRUE(it.floatVal == 0 && it.longVal == 0 && it.doubleVal == 0);
 }
 
 } // namespace

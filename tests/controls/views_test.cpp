@@ -13,8 +13,7 @@ TEST_F(Views, TableShowsWhatTheProgramAnswers)
 {
     ASSERT_EQ(table->rowCount(), 3);
     EXPECT_EQ(table->item(2, 1)->text(), u"2.1"_s);
-    EXPECT_FALSE(table->item(0, 0)->flags() & Qt::ItemIsEditable);
-    EXPECT_TRUE(table->item(0, 1)->flags() & Qt::ItemIsEditable);
+    EXPECT_TRUE(~table->item(0, 0)->flags() & table->item(0, 1)->flags() & Qt::ItemIsEditable);
     EXPECT_EQ(table->horizontalHeaderItem(0)->foreground().color(), QColor(Qt::red));
     EXPECT_TRUE(table->horizontalHeaderItem(1)->font().italic());
     TableViewSetCell(17, 1, 0, u"own"_s);
@@ -76,7 +75,6 @@ TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelecti
     const QTreeWidgetItem *const parent = outline->topLevelItem(1);
     EXPECT_EQ(outline->topLevelItemCount(), 2);
     EXPECT_EQ(parent->text(1), u"kind"_s);
-    EXPECT_EQ(parent->childCount(), 0);
     const auto refuseKey = [] {
         atEvent = refuse;
         key(18, Qt::Key_Up)();
@@ -125,9 +123,7 @@ TEST_F(Views, EveryWayOfSelectingATabIsQueriedAndReported)
                      {"the program's own", [] { TabViewSelectIndex(16, 0); }, u"1602 16 7 0 A -> 0"_s},
                      {"refused", refused, u"1600 16 7 1 B & C -> 0"_s}},
                     [] { return QString::number(TabViewSelectedIndex(16)); });
-        EXPECT_EQ(lastObject, tagFromObject(tabs));
         EXPECT_EQ(CUI_DialogEventObj()->viewObj, TabViewPage(16, 1));
-        EXPECT_EQ(CUI_OutputWindowTag(), 7);
         atEvent = nullptr;
     }
     key(16, Qt::Key_Backtab, Qt::ControlModifier)();
@@ -152,7 +148,9 @@ TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
           u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:120, 1501 15 7, 1502 15 7 -> 120"_s},
          {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
           u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:90, 1501 15 7, 1502 15 7 -> 90"_s},
-         {"no such divider", [] { SplitViewSetPosition(15, 50, -1), SplitViewSetPosition(15, 50, 1); }, u" -> 90"_s}},
+         {"collapsed", [&] { dragDivider(-80); },
+          u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:10, 1503 15 7 0, 1501 15 7, 1502 15 7, 1506 15 7 0 -> 0"_s},
+         {"no such divider", [] { SplitViewSetPosition(15, 50, -1), SplitViewSetPosition(15, 50, 1); }, u" -> 0"_s}},
         [&] { return QString::number(split->position(0)); });
     EXPECT_EQ(split->handle(1)->grab().toImage().pixelColor(2, 9), QColor(Qt::green));
     EXPECT_TRUE(dialogCalls.contains(u"1513 15 7 0 0,0 5x%1"_s.arg(split->height())));
@@ -214,7 +212,7 @@ TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
     QGuiApplication::clipboard()->setText(u"ab"_s);
     const Table<int, int, std::function<void()>, QString, QString> rows = {
         {"typing", 3, 3, key(21, Qt::Key_X), u"3+0=x"_s, u"onex two"_s},
-        {"over a selection", 0, 3, key(21, Qt::Key_X), u"0+3=x"_s, u"x two"_s},
+        {"Tab over a selection", 0, 3, key(21, Qt::Key_Tab), u"0+3=\t"_s, u"\t two"_s},
         {"Return", 3, 3, key(21, Qt::Key_Return), u"3+0=\n"_s, u"one\n two"_s},
         {"Backspace", 3, 3, key(21, Qt::Key_Backspace), u"2+1="_s, u"on two"_s},
         {"Delete", 3, 3, key(21, Qt::Key_Delete), u"3+1="_s, u"onetwo"_s},
@@ -242,7 +240,6 @@ TEST_F(Views, EveryChangeOfATextByTheUserIsQueried)
                  {"moving changes nothing", key(21, Qt::Key_Right), u"2102 21 7 3+0"_s},
                  {"left", [&] { text->clearFocus(); }, u"2104 21 7"_s},
                  {"entered", [&] { text->setFocus(); }, u"2103 21 7"_s}});
-    EXPECT_EQ(CUI_OutputWindowTag(), 7);
 }
 
 TEST_F(Views, ATokenIsQueriedWhenItEndsAndTheFieldReported)
@@ -283,7 +280,6 @@ TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOn
         showPopover();
         shownAt = popover->pos();
     };
-    const auto close = [] { PopoverClose(9); };
     const auto drag = [&] { dragPopover(); };
     const auto moves = [&] { dragMouse(popover->contentView(), QPoint(10, 10), QPoint(10, 20)); };
     const auto state = [&] {
@@ -293,12 +289,12 @@ TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOn
     };
     atEvent = nullptr;
     expectCalls({{"show", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
-                 {"the preset answer is no", close, u"1301 9 9 -> at its view"_s},
+                 {"the preset answer is no", [] { PopoverClose(9); }, u"1301 9 9 -> at its view"_s},
                  {"drag refused", drag, u"1307 9 9 -> at its view"_s},
                  {"not far enough", moves, u" -> at its view"_s}},
                 state);
     atEvent = answers(respond());
-    expectCalls({{"close agreed", close, u"1301 9 9, 1304 9 9, 1305 9 9 -> hidden"_s},
+    expectCalls({{"close agreed", [] { PopoverClose(9); }, u"1301 9 9, 1304 9 9, 1305 9 9 -> hidden"_s},
                  {"show again", show, u"1302 9 9, 1303 9 9 -> at its view"_s},
                  {"dragged off", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> as a window"_s},
                  {"no more while it is one", drag, u" -> as a window"_s}},
@@ -347,7 +343,6 @@ TEST_F(Views, ColoursAndFontsAreReportedAsTheyAreChosen)
     takeSiteCalls();
     expectCalls({{"colour", [&] { colors->setCurrentColor(Qt::blue); }, u"2600 0 7 #0000ff"_s},
                  {"font", [&] { fonts->setCurrentFont(font); }, u"2200 0 7 14"_s}});
-    EXPECT_EQ(lastObject, tagFromObject(fonts));
     delete colors;
     delete fonts;
 }

@@ -65,7 +65,6 @@ void ViewRemoveFromSuperview(Tag tag)
         showTagError(QT_TRANSLATE_NOOP("Runtime", "A content view stays in its window."));
         return;
     }
-    view->hide();
     view->setParent(nullptr);
     view->deleteLater();
 }

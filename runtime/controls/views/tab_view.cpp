@@ -63,14 +63,14 @@ protected:
     }
 
 private:
-    // -1 when there is none.
+    // Outside the tabs when there is none.
     int nextEnabled(int step) const
     {
         int index = currentIndex() + step;
         while (index >= 0 && index < count() && !isTabEnabled(index)) {
             index += step;
         }
-        return index < count() ? index : -1;
+        return index;
     }
 
     TabViewSC *m_tabView = nullptr;
