@@ -139,6 +139,8 @@ TEST(Measuring, agreesWithTheFont)
         const QString text = u"Make 24 out of 1 3 4 6: fi, ffi, ->, =="_s;
         const QFontMetricsF metrics(attributes.facts().font);
         EXPECT_NEAR(measureText(text, attributes).width, metrics.horizontalAdvance(text), 0.01) << size;
+        const double advance = attributes.facts().plainAdvance;
+        EXPECT_EQ(measureText(u"0"_s.repeated(2000), attributes).width, std::floor(10000 / advance) * advance) << size;
     }
 }
 
@@ -176,33 +178,25 @@ TEST_F(Console, theArchiveHasWhatAnItemIsMadeOf)
     page.addLines({{7, 8}}, true);
     page.addRect({1, 2, 3, 4}, Qt::red, Qt::green);
     page.addOval({1, 2, 3, 4}, Qt::red, QColor());
-    const QVariantMap none{{u"pt"_s, QPointF()},  {u"pt1"_s, QPointF()},    {u"pt2"_s, QPointF()},
-                           {u"rect"_s, QRectF()}, {u"strokeFlag"_s, false}, {u"fillFlag"_s, false},
-                           {u"lineWidth"_s, 0.0}, {u"lineCapStyle"_s, 0U},  {u"lineDashPhase"_s, 0.0}};
-    const QVariantMap style{{u"lineWidth"_s, 2.5},
-                            {u"lineCapStyle"_s, 1U},
-                            {u"lineDashPhase"_s, 3.0},
-                            {u"lineDashPattern"_s, QVariantList{1.0, 2.0}}};
-    const auto map = [&none](std::initializer_list<QVariantMap> parts) {
-        QVariantMap whole = none;
-        for (const QVariantMap &part : parts) {
-            whole.insert(part);
-        }
-        return whole;
+    // The keys of each, and their values.
+    const QPointF none;
+    const QVariantList dashes{1.0, 2.0};
+    const Table<QVariantList> rows = {
+        {"attributes fillFlag lineCapStyle lineDashPhase lineWidth pt pt1 pt2 rect strokeFlag text type",
+         {u"abc\b"_s, false, 0U, 0.0, 0.0, QPointF(3, 0), none, none, QRectF(), false, u"abc\b"_s, 0U}},
+        {"fillFlag lineCapStyle lineDashPattern lineDashPhase lineWidth pt pt1 pt2 rect strokeColor strokeFlag type",
+         {false, 1U, dashes, 3.0, 2.5, none, QPointF(5, 6), QPointF(7, 8), QRectF(), QColor(Qt::blue), false, 1U}},
+        {"fillColor fillFlag lineCapStyle lineDashPattern lineDashPhase lineWidth pt pt1 pt2 rect strokeColor "
+         "strokeFlag type",
+         {QColor(Qt::green), false, 1U, dashes, 3.0, 2.5, none, none, none, QRectF(1, 2, 3, 4), QColor(Qt::red), false,
+          2U}},
+        {"fillFlag lineCapStyle lineDashPattern lineDashPhase lineWidth pt pt1 pt2 rect strokeColor strokeFlag type",
+         {false, 1U, dashes, 3.0, 2.5, none, none, none, QRectF(1, 2, 3, 4), QColor(Qt::red), false, 3U}},
     };
-    const QVariantMap rect{{u"rect"_s, QRectF(1, 2, 3, 4)}, {u"strokeColor"_s, QColor(Qt::red)}};
-    const QVariantMap expected[] = {
-        map({{{u"type"_s, 0U}, {u"pt"_s, QPointF(3, 0)}, {u"text"_s, u"abc\b"_s}, {u"attributes"_s, u"abc\b"_s}}}),
-        map({style,
-             {{u"type"_s, 1U},
-              {u"pt1"_s, QPointF(5, 6)},
-              {u"pt2"_s, QPointF(7, 8)},
-              {u"strokeColor"_s, QColor(Qt::blue)}}}),
-        map({style, rect, {{u"type"_s, 2U}, {u"fillColor"_s, QColor(Qt::green)}}}),
-        map({style, rect, {{u"type"_s, 3U}}}),
-    };
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(page.itemArray().value(i).toMap(), expected[i]) << i;
+    for (const auto &[keys, values] : rows) {
+        const QVariantMap map = page.itemArray().value(values.last().toInt()).toMap();
+        EXPECT_EQ(QStringList(map.keys()).join(u' '), QString::fromLatin1(keys));
+        EXPECT_EQ(map.values(), values) << keys;
     }
 }
 

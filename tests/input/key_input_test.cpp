@@ -36,6 +36,7 @@ TEST_F(KeyInput, takesTheFirstAcceptedKey)
         {"a capital is lowered out of its list", u"Qa"_s, 1, caseForceLower, u"Qq"_s, u"A"_s, u"a"_s},
         {"as before", u""_s, 0, notGiven, u"Qq"_s, u"A"_s, u"a"_s},
         {"no longer", QString(), 0, notGiven, u""_s, u"q"_s, u"q"_s},
+        {"Tab too", u"\t"_s, 1, notGiven, u"x"_s, u"\t"_s, u"\t"_s},
     };
     for (const auto &[shows, characters, pass, caseOption, refused, pressed, expected] : rows) {
         SCOPED_TRACE(shows);

@@ -58,6 +58,7 @@ TEST_F(LineInput, formatsPersistFromCallToCall)
     for (const auto &[characters, expected] : calls) {
         EXPECT_EQ(ask(characters, [](ZRInputWindow &panel) { answerWith(panel, u"a1b2"_s); }), expected);
     }
+    EXPECT_EQ(host->findChildren<ZRInputWindow *>().size(), 1) << "each is deleted by the next";
 }
 
 TEST_F(LineInput, limitAndCaseReachTheFieldAndNeitherHeldKeysNorALostFocusAnswer)
@@ -88,6 +89,7 @@ TEST_F(LineInput, aWindowDeletedUnderTheRunGivesNoneAndThenThePanelStandsAlone)
     EXPECT_TRUE(ask(QString(), [&](ZRInputWindow &) { delete host; }).isNull());
     const QString answer = ask(answerKeys, [](ZRInputWindow &panel) {
         EXPECT_TRUE(panel.isWindow());
+        EXPECT_EQ(ZRInputWindow({}, notGiven, notGiven).bodyRect().left(), (panel.screen()->size().width() - 110) / 2);
         EXPECT_EQ(panel.bodyRect().bottomLeft() + QPoint(0, 1), QPoint(10, 190));
         answerWith(panel, u"1x"_s);
     });

@@ -1,8 +1,10 @@
 #include "panel_helper.h"
 
 #include "runtime/input/panel_layout.h"
+#include "runtime/input/panel_look.h"
 
 #include <QLabel>
+#include <QPainter>
 
 using namespace tetrad;
 
@@ -42,6 +44,25 @@ TEST(Layout, placesAllParts)
         EXPECT_EQ(text(parts.body), body);
         EXPECT_EQ(text(parts.entry), entry);
         EXPECT_EQ(text(parts.label), text(QRect(8, 10, labelWidth, 16)));
+    }
+}
+
+TEST(Look, isABodyWithRoundCornersOverItsShadow)
+{
+    const QList<int> grays = {255, 255, 255, 255, 255, 252, 255, 255, 223, 255, 244, 136, 244, 222, 136,
+                              222, 198, 136, 136, 136, 136, 136, 136, 136, 136, 136, 136, 136, 136, 204};
+    for (const double scale : {1.0, 1.00001}) { // Put together of parts, and whole.
+        QImage image(120, 64, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintPanelBackdrop(painter, {0, 0, 120, 64}, QPalette(Qt::red, Qt::green));
+        for (int i = 0; i < grays.size(); ++i) {
+            const int at = i / 3 * 3;
+            const QPoint places[] = {
+                {at, at}, {119 - at, 63 - at}, {60, 2 * at}}; // from two corners, and down the middle
+            EXPECT_NEAR(qGray(image.pixel(places[i % 3])), grays[i], 2) << i;
+        }
     }
 }
 
@@ -126,9 +147,9 @@ TEST_F(Panel, isDraggedWithinTheContentByItsBackground)
 
 TEST_F(Panel, aPromptTooLongIsElidedAndStaysReadable)
 {
-    const QString prompt = u"Very long prompt, "_s.repeated(30);
+    const QString prompt = u"A\x85prompt\u2028long, "_s.repeated(300);
     const ZRInputWindow panel(prompt, 10, 190);
-    EXPECT_TRUE(panel.label()->text().contains(u'\u2026'));
+    EXPECT_TRUE(panel.label()->text().startsWith(u"A prompt long, A"));
     EXPECT_EQ(panel.label()->toolTip(), prompt);
     EXPECT_EQ(panel.field()->accessibleName(), prompt);
     EXPECT_EQ(ZRInputWindow(u""_s, 10, 190).field()->accessibleName(), u"Input"_s);
@@ -150,7 +171,6 @@ TEST_F(Panel, takesTheApplicationsColoursWhateverTheContentHas)
     QCoreApplication::processEvents();
     EXPECT_EQ(panel.label()->palette().color(QPalette::WindowText), QColor(Qt::white));
     EXPECT_EQ(panel.field()->palette().color(QPalette::Text), QColor(Qt::white));
-    EXPECT_LT(panel.grab().toImage().pixelColor(60, 32).lightness(), 40) << "the body";
     QApplication::setPalette(before);
 }
 
