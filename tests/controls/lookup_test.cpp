@@ -121,6 +121,7 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     accessory->setFixedSize(30, 20);
     WindowAddTitlebarAccessoryView(tagFromObject(window), tagFromObject(accessory));
     QWidget *const inAccessory = tagged(accessory, 41);
+    new QToolBar(window);
     CUI_Toolbar(50);
     QToolBar *const toolbar = CUI_WindowToolbar(window);
     QAction *const item = CUI_ToolbarAddItem(50, 44, u"Go"_s);

@@ -183,8 +183,9 @@ TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
     }
     m_view->clearFocus();
     CUI_ViewSubclass(6, QRectF(10, 100, 100, 80));
+    CUI_ViewSubclass(8, QRectF(120, 100, 100, 80));
     takeSiteCalls();
-    atEvent = [](qint64) { answer(dialogCalls.constLast() == u"2001 6 7"_s); };
+    atEvent = [](qint64) { answer(dialogCalls.constLast() != u"2001 5 7"_s); };
     m_view->setFocus(Qt::TabFocusReason);
     takeSiteCalls();
     EXPECT_TRUE(CUI_ViewWithTag(6)->hasFocus()) << "Tab passes by views that refuse";

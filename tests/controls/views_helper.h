@@ -68,6 +68,7 @@ inline Answers respond()
         {popoverEventShouldDetach, agree},
         {toolbarEventValidateItem, agree},
         {splitViewEventCanCollapseSubview, agree},
+        {splitViewEventShouldHideDivider, agree},
         {splitViewEventDividerColor, [](Record &it) { it.colorObj = Qt::green; }},
         {splitViewEventDividerThickness, [](Record &it) { it.floatVal = 5; }},
     };
