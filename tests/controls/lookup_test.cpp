@@ -130,7 +130,7 @@ TEST_F(Lookup, FindsAccessoriesAndToolbarItems)
     CUI_ToolbarAddItem(50, 41, u"Hidden behind the accessory"_s);
     CUI_ToolbarAddItem(50, 42, u"Hidden behind the content"_s);
     QWidget *const inContent = tagged(content, 42);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return toolbar->isVisible() && toolbar->height() >= view->height(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->toolBarArea(toolbar) && toolbar->height() >= view->height(); }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return content->size() == before; })) << "neither is taken from the content";
     EXPECT_TRUE(accessory->isVisible() && window->menuBar()->height() >= 20) << "beside no menus too";
     expectFound({

@@ -59,7 +59,7 @@ protected:
         CUI_CheckBox(2, u"Box"_s, QRectF(10, 10, 100, 30));
         CUI_Slider(3, 5, 0, 10, QRectF(10, 50, 200, 30));
         CUI_TextField(4, u"12 apples"_s, QRectF(10, 90, 200, 30));
-        CUI_PopUpButton(5, {u"a"_s, u"b"_s}, 0, QRectF(10, 130, 100, 30));
+        CUI_PopUpButton(5, {u"a"_s, u"b"_s}, notGiven, QRectF(10, 130, 100, 30));
         CUI_SegmentedControl(6, {u"x"_s, u"y"_s}, 0, QRectF(120, 130, 100, 30));
     }
 

@@ -185,10 +185,13 @@ TEST_F(ViewSite, TakesTheKeyboardOnlyWhenTheProgramLetsIt)
     CUI_ViewSubclass(6, QRectF(10, 100, 100, 80));
     CUI_ViewSubclass(8, QRectF(120, 100, 100, 80));
     takeSiteCalls();
-    atEvent = [](qint64) { answer(dialogCalls.constLast() != u"2001 5 7"_s); };
-    m_view->setFocus(Qt::TabFocusReason);
-    takeSiteCalls();
-    EXPECT_TRUE(CUI_ViewWithTag(6)->hasFocus()) << "Tab passes by views that refuse";
+    for (const bool lets : {true, false}) {
+        atEvent = [lets](qint64) { answer(lets && dialogCalls.constLast() != u"2001 5 7"_s); };
+        m_view->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(takeSiteCalls(), lets ? u"2001 5 7, 2001 6 7"_s : u"2001 5 7, 2001 6 7, 2001 8 7"_s);
+        EXPECT_EQ(CUI_ViewWithTag(6)->hasFocus(), lets) << "Tab passes by views that refuse";
+    }
+    EXPECT_FALSE(QApplication::focusWidget());
 }
 
 TEST_F(ViewSite, PopsUpTheMenuThatTheProgramLeavesInTheRecord)

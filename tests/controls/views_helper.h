@@ -111,6 +111,7 @@ protected:
         }
         CUI_TextView(21, u"one two"_s, QRectF(0, 0, 200, 100));
         CUI_TokenField(23, {u"a"_s, u"b"_s}, QRectF(0, 0, 200, 30));
+        CUI_TokenField(23, {}, {});
         CUI_Toolbar(3);
         item = CUI_ToolbarAddItem(3, 19, u"Go"_s);
         table = m_content->findChild<TableViewSC *>();

@@ -150,10 +150,10 @@ TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
           u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:120, 1501 15 7, 1502 15 7 -> 120 0 1"_s},
          {"the program's own", [] { SplitViewSetPosition(15, 90, 0); },
           u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:90, 1501 15 7, 1502 15 7 -> 90 0 1"_s},
-         {"collapsed", [&] { dragDivider(-80); },
-          u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:10, 1503 15 7 0, 1501 15 7, 1502 15 7, 1506 15 7 0 -> 0 0 0"_s},
+         {"collapsed", [&] { dragDivider(108); },
+          u"1509 15 7 0:40, 1508 15 7 0:160, 1510 15 7 0:198, 1503 15 7 1, 1501 15 7, 1502 15 7, 1506 15 7 0 -> 200 0 0"_s},
          {"no such divider", [] { SplitViewSetPosition(15, 50, -1), SplitViewSetPosition(15, 50, 1); },
-          u" -> 0 0 0"_s}},
+          u" -> 200 0 0"_s}},
         [&] { return u"%1 %2 %3"_s.arg(split->position(0)).arg(split->position(1)).arg(isGreen()); });
     EXPECT_TRUE(split->handle(1)->testAttribute(Qt::WA_TransparentForMouseEvents));
     auto *const moved = new QWidget(open(2)->contentView());
@@ -307,7 +307,7 @@ TEST_F(Views, PopoverQueriesBeforeItClosesAndIsDraggedOffAsAWindowOrGivesWayToOn
     takeSiteCalls();
     expectCalls({{"replaced by a window", drag, u"1307 9 9, 1300 9 9, 1306 9 9 -> another window"_s}}, state);
     CUI_Popover(9, QSizeF(90, 50), popoverTransient);
-    EXPECT_EQ(popover->contentView()->size(), QSize(90, 50));
+    EXPECT_TRUE(popover->contentView()->size() == QSize(90, 50) && popover->behavior() == popoverTransient);
     PopoverRemove(9);
     CUI_Popover(9, {}, popoverTransient);
     EXPECT_EQ(CUI_PopoverWithTag(9)->contentView()->size(), QSize(200, 100)) << "another one";
