@@ -128,11 +128,12 @@ TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
 
 TEST_F(Statements, MenuItemsAreChosenAndDisabledByNumber)
 {
+    resetMainMenu();
     CUI_Menu(1, 0, menuItemEnabled, u"File"_s, {});
     CUI_Menu(1, 1, menuItemTicked, u"Save & go"_s, u"S"_s);
     CUI_Menu(1, 2, notGiven, u"-"_s, {});
     CUI_Menu(1, 3, menuItemDisabled, u"Never"_s, {});
-    EXPECT_EQ(mainMenu()->menus.size(), 2) << "the application's own menu came with the first";
+    EXPECT_EQ(mainMenu()->menus.size(), 2) << "after the application's own";
     QMenu *const menu = mainMenu()->menus.constLast();
     const QList<QAction *> items = menu->actions();
     ASSERT_EQ(items.size(), 3);
