@@ -91,7 +91,8 @@ TEST_F(Statements, MakeChangeAndMoveViewsAndSayWhatIsWrong)
     EXPECT_EQ(button->property("text"), u"Try && see"_s) << "or Alt and a letter would press it";
     EXPECT_EQ(button->geometry(), QRect(10, 10, 80, 30));
     EXPECT_TRUE(button->isVisible());
-    CUI_TextLabel(16, u"9 lives"_s, QRectF(10, 60, 80, 30));
+    CUI_TextLabel(16, u"9 lives"_s, {});
+    EXPECT_EQ(ControlWithTag(16)->size(), ControlWithTag(16)->sizeHint());
     const Table<std::function<void()>, QString> wrong = {
         {"a class without a name of the vocabulary", [] { CUI_TextField(16, u"x"_s, {}); },
          u"Class error.|View 16 (QLabel), in window 7, cannot respond to QLineEdit messages."_s},

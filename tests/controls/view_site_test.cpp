@@ -238,7 +238,8 @@ TEST_F(ViewSite, DragsAreReportedThatOfferAnAcceptedType)
         }
         EXPECT_EQ(takeSiteCalls(), calls);
     }
-    EXPECT_EQ(CUI_DialogEventObj()->pointVal, QPointF(2, 3));
+    const CUI_DialogEvent &it = *CUI_DialogEventObj();
+    EXPECT_TRUE(it.pointVal == QPointF(2, 3) && it.pasteboardObj == &files && it.pbTypes == files.formats());
 }
 
 } // namespace

@@ -51,9 +51,17 @@ auto sendsActionSoon(void (Control::*signal)(Values...))
 template <typename View, typename WhenMade>
 void textStatement(Tag tag, const QString &text, const QRectF &rect, WhenMade whenMade)
 {
-    auto *const view = statementView<View>(tag, rect, whenMade);
-    if (view && !text.isNull()) {
-        view->setText(std::is_base_of_v<QAbstractButton, View> ? escapedMnemonics(text) : text);
+    const auto setText = [&text](View *view) {
+        if (!text.isNull()) {
+            view->setText(std::is_base_of_v<QAbstractButton, View> ? escapedMnemonics(text) : text);
+        }
+    };
+    const auto make = [&](View *made) {
+        whenMade(made);
+        setText(made);
+    };
+    if (auto *const view = statementView<View>(tag, rect, make)) {
+        setText(view);
     }
 }
 

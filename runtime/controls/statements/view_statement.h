@@ -25,7 +25,7 @@ void setWindowTagWithin(QWidget *view, Tag wndTag);
 void placeView(QWidget *view, Tag tag, const QRectF &rect);
 
 /// The view that a statement is about. Null after an alert, when the statement does nothing.
-/// `whenMade` is called with a view made just now: to connect it, for example.
+/// `whenMade` is called with a view made just now, before it gets its natural size: to connect it, for example.
 template <typename View, typename WhenMade = void (*)(View *)>
 View *statementView(
     Tag tag, const QRectF &rect, WhenMade whenMade = [](View *) {})
@@ -39,8 +39,8 @@ View *statementView(
         view = viewOfClass<View>(tagIdentity(tag));
     } else {
         view = new View(contentView);
-        adoptView(view, tag);
         whenMade(view);
+        adoptView(view, tag);
     }
     if (view) {
         placeView(view, tag, rect);
