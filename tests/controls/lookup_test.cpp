@@ -150,7 +150,7 @@ TEST_F(Lookup, SaysWhatIsWrong)
 {
     QPushButton loose;
     EXPECT_EQ(alertsOf([] { EXPECT_FALSE(ControlWithTag(3)); }), u"Error.|Can't find any windows."_s);
-    EXPECT_EQ(alertsOf([] { CUI_Button(3, u"x"_s, {}); }), u"Error.|Can't find any windows."_s);
+    EXPECT_EQ(alertsOf([] { CUI_Toolbar(3); }), u"Error.|Can't find any windows."_s);
     EXPECT_EQ(alertsOf([&] { EXPECT_EQ(ControlWithTag(tagFromObject(&loose)), &loose); }), QString());
     QWidget *const content = open(1)->contentView();
     QWidget *const plain = named(content, u"5"_s);

@@ -66,7 +66,6 @@ TEST_F(Views, TableQueriesAndReportsSelectionEditsAndColumnClicks)
             {"none", [] { TableViewSelectRow(17, 3); }, u"1707 17 7 -1 -> -1"_s},
         },
         [] { return QString::number(TableViewSelectedRow(17)); });
-    EXPECT_EQ(CUI_OutputWindowTag(), 7);
 }
 
 TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelections)
@@ -335,15 +334,13 @@ TEST_F(Views, ToolbarClicksAreReportedAndItemsValidatedOnRequest)
 TEST_F(Views, ColoursAndFontsAreReportedAsTheyAreChosen)
 {
     CUI_OutputWindowSetTag(7);
-    QFont font = QApplication::font();
-    font.setPointSize(10);
+    const QString family = QApplication::font().family();
     QColorDialog *const colors = CUI_ColorPanel(Qt::red);
-    QFontDialog *const fonts = CUI_FontPanel(font);
+    QFontDialog *const fonts = CUI_FontPanel(QFont(family, 10));
     EXPECT_TRUE(worksWhenModal(colors) && worksWhenModal(fonts) && colors->isVisible() && fonts->isVisible());
-    font.setPointSize(14);
     takeSiteCalls();
     expectCalls({{"colour", [&] { colors->setCurrentColor(Qt::blue); }, u"2600 0 7 #0000ff"_s},
-                 {"font", [&] { fonts->setCurrentFont(font); }, u"2200 0 7 14"_s}});
+                 {"font", [&] { fonts->setCurrentFont(QFont(family, 14)); }, u"2200 0 7 14"_s}});
     delete colors;
     delete fonts;
 }
