@@ -103,18 +103,13 @@ bool Alert::eventFilter(QObject *watched, QEvent *event)
     return takesKey(watched, event) || QMessageBox::eventFilter(watched, event);
 }
 
+// Nothing else: the base classes would press the button that they take for the one to cancel with, and any button by
+// its key whatever the Shift key says. Shortcuts have done that already.
 void Alert::keyPressEvent(QKeyEvent *event)
 {
-    // The base class would press a button that it takes for the one to cancel with.
-    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Cancel)) {
-        return;
-    }
     if (event->matches(QKeySequence::Copy)) {
         QMessageBox::keyPressEvent(event);
-        return;
     }
-    // The box presses a button by its key whatever the Shift key says; shortcuts have done that already.
-    QDialog::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 } // namespace tetrad
