@@ -82,10 +82,12 @@ TEST_F(Modal, EveryWayToEndGivesItsCode)
 {
     QMenu menu;
     menu.addAction(u"Item"_s);
+    QMenu menuAbove;
+    menuAbove.addAction(u"Item"_s);
     QWidget inner(&carrier, Qt::Window);
     QLineEdit innerField(&inner);
     const auto stopInAMenu = [&] {
-        QTimer::singleShot(0, &menu, [] { stopModalWithCode(4); });
+        QTimer::singleShot(0, &menu, [&] { menuAbove.popup(QPoint()), stopModalWithCode(4); });
         menu.exec(carrier.mapToGlobal(QPoint(10, 10)));
     };
     const auto typeIntoInner = [&] {
