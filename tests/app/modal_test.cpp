@@ -52,7 +52,6 @@ protected:
             each->setGeometry(0, 0, 80, 30);
         }
         field->setObjectName(u"field"_s);
-        panel->setObjectName(u"panel"_s);
         qApp->installEventFilter(this);
         other.show();
         carrier.show();
@@ -143,7 +142,7 @@ TEST_F(Modal, ClicksAndKeysReachOnlyTheWidgetAndWhatWorksInModalRuns)
             click(each);
         }
         QTest::mouseClick(outsideButton, Qt::LeftButton);
-        EXPECT_TRUE(field->hasFocus());
+        EXPECT_TRUE(field->hasFocus() && other.focusWidget() != otherField);
         click(button);
         outsideField->setFocus();
         EXPECT_TRUE(field->hasFocus());
@@ -156,7 +155,7 @@ TEST_F(Modal, ClicksAndKeysReachOnlyTheWidgetAndWhatWorksInModalRuns)
         QTest::keyClick(other.windowHandle(), Qt::Key_4);
     });
     EXPECT_EQ(field->text() % u'|' % outsideField->text() % u'|' % otherField->text(), u"123||4"_s);
-    EXPECT_EQ(keys, u"field+1 field-1 field+2 field-2 field+3 field-3 field+F5 panel+F5 field-F5 +4 -4 ");
+    EXPECT_EQ(keys, u"field+1 field-1 field+2 field-2 field+3 field-3 field+F5 +F5 field-F5 +4 -4 ");
     click(outsideButton);
     EXPECT_EQ(clicked.join(u' '), u"inside other outside"_s) << "the filter must be gone after the run";
 }
@@ -213,7 +212,6 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
         }
         send<QKeyEvent>(carrier.windowHandle(), QEvent::KeyPress, Qt::Key_5, Qt::NoModifier, u"5"_s, true);
         QTest::keyClick(other.windowHandle(), Qt::Key_6);
-        keys.clear();
     };
     setWorksWhenModal(&other, true);
     otherField->setFocus();
@@ -221,7 +219,7 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
     EXPECT_EQ(field->text(), u"1"_s);
     EXPECT_EQ(runModalForWindow(panel), modalStopped);
     EXPECT_EQ(field->text(), u"123"_s);
-    EXPECT_EQ(keys, u"field+2 field-2 field+3 field-3 field+Return ");
+    EXPECT_EQ(keys, u"field+1 field-1 field+Return field+2 field-2 field+3 field-3 field+Return ");
     EXPECT_EQ(runWhile([] {}), modalAborted);
     EXPECT_EQ(field->text(), u"12346"_s);
 }

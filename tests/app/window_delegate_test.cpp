@@ -58,6 +58,8 @@ TEST_F(WindowDelegate, RealEventsAreReportedInOrder)
     };
     // Later the user moves it by 15, too: the echo of so old a request is not awaited any more.
     const auto programMoves = [&] {
+        WindowCenter(7);
+        EXPECT_EQ(dialogCalls, QStringList{u"10027 7 7 *"_s});
         for (const int by : {15, 20, 21, 22, 23, 24, 10}) {
             dialogCalls.clear();
             m_window->setContentRect(rect.translated(by, by));

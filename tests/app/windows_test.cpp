@@ -244,7 +244,6 @@ TEST_F(Windows, PopoverIsNextToItsAnchorAndKeepsItsTag)
     Popover popover(9, QSize(100, 50));
     const Table<Qt::Edge, QRect, QPoint> rows = {
         {"above", Qt::TopEdge, QRect(100, 100, 20, 10), QPoint(59, 48)},
-        {"on the left", Qt::LeftEdge, QRect(100, 100, 20, 10), QPoint(-2, 79)},
         {"no room on the left", Qt::LeftEdge, QRect(10, 100, 20, 10), QPoint(30, 79)},
         {"no room on either side", Qt::LeftEdge, QRect(0, 100, 2000, 10), QPoint(-102, 79)},
         {"on the right", Qt::RightEdge, QRect(100, 100, 20, 10), QPoint(120, 79)},
