@@ -23,7 +23,7 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
     CUI_TextLabel(17, u"9 lives"_s, QRectF(230, 130, 60, 20));
     const auto press = [](Tag tag, Qt::Key key) { return [=] { QTest::keyClick(ControlWithTag(tag), key); }; };
     const auto click = [] { QTest::mouseClick(ControlWithTag(2), Qt::LeftButton, {}, QPoint(8, 15)); };
-    const auto clickSegment = [] { QTest::mouseClick(ControlWithTag(6)->childAt(60, 15), Qt::LeftButton); };
+    const auto clickSegment = [] { QTest::mouseClick(ControlWithTag(6)->childAt(50, 15), Qt::LeftButton); };
     const auto confirm = [] { QTest::keyClick(ControlWithTag(14)->findChild<QLineEdit *>(), Qt::Key_Return); };
     const auto chooseDate = [] { qobject_cast<QDateEdit *>(ControlWithTag(15))->setDate({2025, 2, 28}); };
     // Only what the user does is reported.
@@ -46,7 +46,6 @@ TEST_F(Statements, EveryControlHasItsValuesAndOneAction)
         {"progress indicator", 16, false, [] { ControlSetIntegerValue(16, 7); }, 7, u"70%"_s},
         {"label", 17, false, [] { ControlSetDoubleValue(17, 2.5); }, 2.5, u"2.5"_s},
         {"unknown progress", 16, false, [] { CUI_ProgressIndicator(16, 3, 5, 5, {}); }, 3, {}},
-        {"stepper of wholes", 13, false, [] { CUI_Stepper(13, 2.7, 0, 9, 1, {}); }, 3, u"3"_s},
         {"stepper of thirds", 13, false, [] { CUI_Stepper(13, 1 / 3.0, 0, 9, 1 / 3.0, {}); }, 0.333333, u"0.333333"_s},
         {"as far as it goes", 3, false, [] { ControlSetDoubleValue(3, 1e12); }, 10, {}},
         {"reversed and upright", 3, false, [] { CUI_Slider(3, 9, 20, -9, QRectF(0, 0, 20, 80)); }, 9, {}},

@@ -16,6 +16,7 @@ TEST_F(Views, TableShowsWhatTheProgramAnswers)
     EXPECT_TRUE(~table->item(0, 0)->flags() & table->item(0, 1)->flags() & Qt::ItemIsEditable);
     EXPECT_EQ(table->horizontalHeaderItem(0)->foreground().color(), QColor(Qt::red));
     EXPECT_TRUE(table->horizontalHeaderItem(1)->font().italic());
+    EXPECT_EQ(table->columnWidth(0), table->viewport()->width() / 2);
     TableViewSetCell(17, 1, 0, u"own"_s);
     TableViewSetCell(17, 9, 0, u"outside"_s);
     EXPECT_EQ(TableViewCell(17, 1, 0), u"own"_s);
@@ -95,7 +96,7 @@ TEST_F(Views, OutlineQueriesForChildrenWhenTheirParentIsOpenedFirstAndForSelecti
         },
         [&] { return outline->selectedObject().toString(); });
     EXPECT_EQ(parent->child(0)->text(0), u"/1/0"_s);
-    atEvent = answers({{outlineViewEventChildCount, [](auto &it) { it.longVal = 0; }}});
+    atEvent = nullptr;
     OutlineViewReloadData(18);
     EXPECT_EQ(outline->topLevelItemCount(), 0);
 }
