@@ -151,8 +151,7 @@ int SplitViewSC::constrained(int position, int divider)
     const bool leading = position < (before + least) / 2;
     const bool trailing = !leading && position > (after + most) / 2;
     const int subview = leading ? divider : divider + 1;
-    if ((leading || trailing) && askAboutIndex(this, splitViewEventCanCollapseSubview, subview) && guard &&
-        subview < count()) {
+    if ((leading || trailing) && askAboutIndex(this, splitViewEventCanCollapseSubview, subview) && guard) {
         return leading ? before : after;
     }
     return std::max({least, smallest, std::min({position, most, largest})});
