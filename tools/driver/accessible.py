@@ -57,7 +57,6 @@ class Node:
     children = _asked(_children, [])
     rectangle = _asked(lambda it: _sides(Atspi.Component.get_extents(it, Atspi.CoordType.SCREEN)), (0, 0, 0, 0))
     text = _asked(lambda it: Atspi.Text.get_text(it, 0, -1) if "Text" in it.get_interfaces() else "", "")
-    caret = _asked(Atspi.Text.get_caret_offset, -1)
     # Where the selected text starts and where it ends; None when there is none.
     selection = _asked(_selection, None)
 
@@ -89,9 +88,6 @@ class Node:
         line = (f'{"  " * depth}{self.role} "{self.name}" described {self.description!r} text {self.text!r}'
                 f" {sorted(self.states)} {self.rectangle}\n")
         return line + "".join(child.tree(depth + 1) for child in self.children)
-
-    def select(self, start, end):
-        return Atspi.Text.add_selection(self._accessible, start, end)
 
     def character_rectangle(self, offset):
         return _sides(Atspi.Text.get_character_extents(self._accessible, offset, Atspi.CoordType.SCREEN))

@@ -138,9 +138,6 @@ class Desktop:
     def click(self, x, y):
         self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 
-    def resize(self, window, width, height):
-        self.run("xdotool", "windowsize", "--sync", window, str(width), str(height))
-
     def set_clipboard(self, text):
         """Replaces the clipboard; xclip stays in the background to serve it until the display ends."""
         subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), env=self.environment, check=True,
