@@ -89,9 +89,7 @@ TEST(Answer, OfEverySolutionIsCorrectAndOfADamagedOneIsNot)
 TEST(Answer, OfAnyTextHasOneOutcome)
 {
     std::mt19937 random(1); // NOLINT(bugprone-random-generator-seed): the same texts every time
-    const auto below = [&random](qsizetype bound) {
-        return static_cast<qsizetype>(random() % static_cast<std::mt19937::result_type>(bound));
-    };
+    const auto below = [&random](qsizetype bound) { return qsizetype(random() % std::size_t(bound)); };
     const QByteArray bytes = "0123456789+-*/().xqs #%\t\xC3\xA9\xF0";
     const QMap<QString, QStringList> solved = solvedPuzzles();
     for (int i = 0; i < 50'000; ++i) {

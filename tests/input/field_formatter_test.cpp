@@ -40,7 +40,6 @@ TEST(Formatter, judgesAProposal)
 
 TEST(Field, isFilteredWhicheverWayATextComesIn)
 {
-    const QString nested = QString(100'000, u'(') + u'1' + QString(100'000, u')');
     // What the program set and selected of it, what is typed and pasted then, the result and where the cursor is.
     const Table<QString, quint64, QString, int, int, QString, QString, QString, int> rows = {
         {"no turn of the event loop between keys", answerKeys, 0, u""_s, 0, 0, u"0q1 s"_s, u""_s, u"q1s"_s, 3},
@@ -51,7 +50,6 @@ TEST(Field, isFilteredWhicheverWayATextComesIn)
         {"beyond the limit by the program", answerKeys, 3, u"1+20"_s, 4, 0, u"5"_s, u""_s, u"1+20"_s, 4},
         {"refused text of the program stands", answerKeys, 3, u"0"_s, 1, 0, u""_s, u""_s, u"0"_s, 1},
         {"until the next edit", answerKeys, 3, u"0"_s, 1, 0, u"5"_s, u""_s, u"5"_s, 1},
-        {"deep", answerKeys, 0, u""_s, 0, 0, u""_s, nested, nested, 200'001},
         {"large", answerKeys, 0, u""_s, 0, 0, u""_s, u"\u202Eא0\u0001"_s.repeated(100'000) + u'7', u"7"_s, 1},
     };
     for (const auto &[shows, list, length, set, at, selected, typed, pasted, text, cursor] : rows) {

@@ -74,16 +74,6 @@ TEST_F(LineInput, limitAndCaseReachTheFieldAndNeitherHeldKeysNorALostFocusAnswer
     EXPECT_EQ(ask(u"abc"_s, user, 3, caseForceUpper), u"ABC"_s);
 }
 
-TEST_F(LineInput, aLineOf40000CharactersArrivesWhole)
-{
-    const QString line(40'000, u'1');
-    const auto paste = [&line](ZRInputWindow &panel) {
-        compose(panel.field(), line);
-        QTest::keyClick(panel.field(), Qt::Key_Return);
-    };
-    EXPECT_EQ(ask(QString(), paste), line);
-}
-
 TEST_F(LineInput, aWindowDeletedUnderTheRunGivesNoneAndThenThePanelStandsAlone)
 {
     EXPECT_TRUE(ask(QString(), [&](ZRInputWindow &) { delete host; }).isNull());

@@ -18,8 +18,7 @@ inline void compose(QWidget *target, const QString &text)
 /// One repetition of a key that was already down before the panel came.
 inline void repeatHeldKey(QWidget *target, Qt::Key key)
 {
-    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, u"\r"_s, true);
-    QCoreApplication::sendEvent(target, &held);
+    send<QKeyEvent>(target, QEvent::KeyPress, key, Qt::NoModifier, u"\r"_s, true);
 }
 
 /// Plays the user's part in the panel that is run next, and fails the test if it still waits afterwards.

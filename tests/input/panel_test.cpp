@@ -3,6 +3,7 @@
 #include "runtime/input/panel_layout.h"
 #include "runtime/input/panel_look.h"
 
+#include <QBitmap>
 #include <QLabel>
 #include <QPainter>
 
@@ -22,9 +23,7 @@ TEST(Layout, placesAllParts)
 {
     const Table<qint64, qint64, int, int, QSize, const char *, const char *, int> rows = {
         {"no prompt is minimal", 10, 190, 0, 0, game, "10,154 110x36", "10,10 5x16", 4},
-        {"prompt pushes the field", 10, 190, 140, 0, game, "10,154 170x36", "155,10 5x16", 145},
         {"grows with the text", 10, 190, 140, 100, game, "10,154 270x36", "155,10 105x16", 145},
-        {"slides left at the right edge", 400, 190, 140, 100, game, "310,154 270x36", "155,10 105x16", 145},
         {"as wide as the content", 10, 190, 140, 9000, game, "0,154 580x36", "155,10 415x16", 145},
         {"unplaced is centred near the left", none, none, 0, 0, game, "20,107 110x36", "10,10 5x16", 4},
         {"one coordinate given is a position", none, 190, 0, 0, game, "0,154 110x36", "10,10 5x16", 4},
@@ -33,7 +32,6 @@ TEST(Layout, placesAllParts)
         {"exact up to the right edge", 470, 190, 0, 0, game, "470,154 110x36", "10,10 5x16", 4},
         {"too far right", 5'000'000'000, 190, 0, 0, game, "470,154 110x36", "10,10 5x16", 4},
         {"narrow content gives the prompt its width", 10, 190, 270, 0, {300, 250}, "0,154 300x36", "285,10 5x16", 275},
-        {"long prompt has the whole width", 10, 190, 2000, 0, game, "0,154 580x36", "565,10 5x16", 555},
         {"long prompt leaves a usable field", 10, 190, 2000, 9000, game, "0,154 580x36", "450,10 120x16", 440},
         {"tiny content has no label", 10, 190, 300, 9000, {100, 20}, "0,0 100x36", "10,10 80x16", 0},
     };
@@ -77,7 +75,8 @@ TEST_F(Panel, staysInsideTheContentOfAnySize)
     const int promptEnd = panel.field()->x();
     panel.label()->setFont(QFont(panel.font().family(), 20));
     EXPECT_GT(panel.field()->x(), promptEnd) << "a larger prompt";
-    panel.field()->setText(u"1+2"_s);
+    panel.field()->setText(QString(40'000, u'1'));
+    EXPECT_EQ(panel.field()->text().size(), 40'000) << "a line edit cuts at 32767 by default";
     for (const QSize &size : {QSize(300, 120), QSize(140, 80)}) {
         host->resize(size);
         QCoreApplication::processEvents();
@@ -97,14 +96,8 @@ TEST_F(Panel, promptAndAnswerAreAsLargeAndOnOneLineInEveryFamily)
         panel.field()->setText(u"EE"_s);
         EXPECT_EQ(panel.font().pixelSize(), 13);
         const auto lowestInk = [&panel](const QWidget *part) {
-            const QImage image = panel.grab(part->geometry()).toImage();
-            int lowest = 0;
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x) {
-                    lowest = qGray(image.pixel(x, y)) < 80 ? part->y() + y : lowest;
-                }
-            }
-            return lowest;
+            const QBitmap ink = QBitmap::fromImage(panel.grab(part->geometry()).toImage(), Qt::ThresholdDither);
+            return part->y() + QRegion(ink).boundingRect().bottom();
         };
         EXPECT_EQ(lowestInk(panel.label()), lowestInk(panel.field()));
     }
