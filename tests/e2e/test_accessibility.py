@@ -30,15 +30,12 @@ class TestAccessibility(PlayingTest):
 
     def test_the_focus_of_a_new_field_comes_before_its_caret(self):
         game = self.start()
-        game.wait_for_prompt()
         events, _listener = focus_and_caret_events()
-        for answer, prompt in (("1+2", PROMPT), ("3", prompt_after("1+2"))):
-            game.answer(answer, prompt)
-            field = game.wait_for_prompt(prompt_after(answer))
-            game.type("4")
-            until(lambda: "text-caret-moved" in field.sent(events), "the caret")
-            self.assertEqual(field.sent(events)[0], "state-changed:focused")
-            self.desktop.press("BackSpace")
+        game.answer("1+2")
+        field = game.wait_for_prompt(prompt_after("1+2"))
+        game.type("4")
+        until(lambda: "text-caret-moved" in field.sent(events), "the caret")
+        self.assertEqual(field.sent(events)[0], "state-changed:focused")
 
     def test_characters_are_where_they_are_drawn(self):
         game = self.start()

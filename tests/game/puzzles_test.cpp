@@ -59,20 +59,6 @@ TEST(ArcRandom, ReducesThe32BitNumberToTheRange)
     EXPECT_NE(ArcRandom(0, 4294967295), ArcRandom(0, 4294967295)) << "from the system's source";
 }
 
-TEST(History, RepeatIsDrawnAgainAndBecomesTheNewestKey)
-{
-    PuzzleHistory history(recordAccess);
-    const RandomSource source = [positions = std::vector<quint32>{10, 10, 10, 70}, next = 0U]() mutable {
-        return positions.at(next++);
-    };
-    EXPECT_EQ(textOf(choosePuzzle(history, source).numbers), u"2 2 3 9");
-    EXPECT_EQ(textOf(choosePuzzle(history, source).numbers), u"4 4 5 7");
-    EXPECT_EQ(gPosition, 70);
-    QString key = u"2 2 3 9 "_s;
-    EXPECT_TRUE(history.holds(key));
-    EXPECT_EQ(key, u"4 4 5 7 "_s);
-}
-
 TEST(History, CycleShows96DifferentPuzzlesThenStartsAgain)
 {
     std::mt19937 generator(24); // NOLINT(cert-msc51-cpp): the same cycle every time
