@@ -165,7 +165,7 @@ TEST_F(Views, SplitDragQueriesBoundsAndPositionThenMovesAndReports)
         {"not at all below the least", -90, 0, 0, 40},
         {"collapses past half of the least", -90, collapse, 0, 0},
         {"does not collapse before half", -70, collapse, 0, 40},
-        {"trailing subview stays", 98, 0, 0, 160},
+        {"nor does the trailing subview", 70, collapse, 0, 160},
         {"trailing subview collapses", 98, collapse, 0, 200},
         {"a higher least", -60, splitViewEventConstrainMinCoordinate, 70, 70},
         {"a lower most", 50, splitViewEventConstrainMaxCoordinate, 110, 110},
