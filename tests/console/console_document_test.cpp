@@ -73,7 +73,7 @@ TEST_F(Console, theDocumentOnlyGrows)
 TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
 {
     page.setForegroundColor(Qt::green);
-    page.setFontSize(18);
+    page.setFontSize(18.5);
     page.setAlignment(2);
     page.setTextInset(5);
     page.addString(u"abc"_s, {50, 500});
@@ -86,7 +86,7 @@ TEST_F(Console, clearEmptiesTheDocumentAndKeepsTheStyle)
     page.resetAttributes();
     EXPECT_EQ(page.currentAlignment(), 0);
     page.addString(u"y\b"_s, {1, 2});
-    EXPECT_TRUE(page.items().dump().endsWith(u"\"x\\x08\" size 18 color #00ff00\n"
+    EXPECT_TRUE(page.items().dump().endsWith(u"\"x\\x08\" size 18.5 color #00ff00\n"
                                              "text (1,2) \"y\\x08\" size 12 color standard\n"_s));
 }
 
@@ -222,7 +222,7 @@ TEST_F(Console, givesParagraphsThatWereThereBeforeTheClearOnce)
     // What is printed and what of it is spoken, none if nobody asks.
     const std::pair<QString, QString> screens[] = {{u"rules\nmore rules\n\n1 2"_s, u"rules\nmore rules\n1 2"_s},
                                                    {u"rules\nmore rules\n\n3 4"_s, u"3 4"_s},
-                                                   {u"rules\nless rules\n\n1 2"_s, u"rules\nless rules\n1 2"_s},
+                                                   {u"rules\nless rules\n\n\n\n1 2"_s, u"rules\nless rules\n1 2"_s},
                                                    {u"\nunread"_s, {}},
                                                    {u"rules\nless rules\n\nnew"_s, u"new"_s}};
     for (const auto &[printed, spoken] : screens) {
