@@ -4,6 +4,7 @@
 """
 import re
 import sys
+from graphlib import CycleError, TopologicalSorter
 from pathlib import Path
 
 # Each layer and what it may include besides itself. A public header has the rank of its folder in include/tetrad.
@@ -49,15 +50,19 @@ def faults_of(path, text):
 
 
 def main(root):
-    faults, count = [], 0
+    faults, includes = [], {}
     for file in sorted(file for top in ("include", "runtime", "game") for file in Path(root, top).rglob("*.*")):
         path, text = file.relative_to(root).as_posix(), file.read_text(encoding="utf-8")
         if file.suffix in (".h", ".cpp", ".mm"):
             faults += faults_of(path, text)
-            count += 1
+            includes[path] = ["include/" + name if bracket == "<" else name for bracket, name in INCLUDE.findall(text)]
+    try:
+        TopologicalSorter(includes).prepare()
+    except CycleError as error:
+        faults.append("in a circle: " + " is included by ".join(error.args[1]))
     print(*faults, sep="\n")
-    print(f"{count} files read, {len(faults)} faults")
-    sys.exit(bool(faults) or count < 100)
+    print(f"{len(includes)} files read, {len(faults)} faults")
+    sys.exit(bool(faults) or len(includes) < 100)
 
 
 main(sys.argv[1])
