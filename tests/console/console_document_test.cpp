@@ -238,4 +238,15 @@ TEST_F(Console, givesParagraphsThatWereThereBeforeTheClearOnce)
     }
 }
 
+// A text's ink may reach below the next line, whose box is nearer.
+TEST_F(Console, theCaretGoesToTheNearestLineFromFarBelow)
+{
+    page.setFontSize(60);
+    page.addString(u"high"_s, {3, 0});
+    const double height = page.reader().characterRect(0).height();
+    page.setFontSize(12);
+    page.addString(u"low"_s, {3, height});
+    EXPECT_EQ(page.reader().caretNear({3, 514 + 1.5 * height}), 5);
+}
+
 } // namespace
