@@ -56,7 +56,7 @@ TEST_F(AppDelegate, TimerFunctionStopsOrDeletesItsTimer)
 
 void startAndMeetEvents()
 {
-    const QTemporaryDir theme;
+    QTemporaryDir theme;
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
         const QString folder = theme.path() + u"/hicolor/%1x%1/apps"_s.arg(size);
         EXPECT_TRUE(QDir().mkpath(folder) && QImage(size, size, QImage::Format_RGB32).save(folder + u"/test.id.png"));
@@ -90,13 +90,14 @@ void startAndMeetEvents()
     EXPECT_EQ(seen, (QList<qint64>{1, 2, 6, 7, 36, 36, 8, 9, 10, 11, 12, 13, 6, 7, 19, 19, 19, 19}));
     EXPECT_TRUE(isUpdated);
     EXPECT_NE(mainMenu(), nullptr) << "built at launch when the program built none";
+    theme.remove(); // The process ends without destructors.
     std::_Exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
 // In a process of its own, since one starts only once.
 TEST_F(AppDelegate, RealEventsArrive)
 {
-    EXPECT_EXIT(startAndMeetEvents(), testing::ExitedWithCode(0), "\nQWidget [^\n]*640x480");
+    EXPECT_EXIT(startAndMeetEvents(), testing::ExitedWithCode(0), "(^|\n)QWidget [^\n]*640x480");
 }
 
 TEST_F(AppDelegate, MayRefuseToTerminate)

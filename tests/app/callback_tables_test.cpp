@@ -119,9 +119,10 @@ TEST_F(WindowDelegateTable, NotificationsAndQuestions)
 {
     Window *const window = open(7);
     Delegate &it = *CUI_WindowDelegateObj();
-    EXPECT_FALSE(it.boolVal || it.dragInside || App().boolVal || App().longVal || App().delegateUserData ||
-                 CUI_AlertDelegate().lastSuppressionButtonState || ContentViewSC().isFlipped() ||
-                 ContentViewSC().dragInside() || Window(QRectF()).autorecalculatesKeyViewLoop());
+    EXPECT_FALSE(Delegate().boolVal || Delegate().dragInside || App().boolVal || App().longVal ||
+                 App().delegateUserData || CUI_AlertDelegate().lastSuppressionButtonState ||
+                 ContentViewSC().isFlipped() || ContentViewSC().dragInside() ||
+                 Window(QRectF()).autorecalculatesKeyViewLoop());
     CUI_SetOnDialogFunction(recordCall);
     // A star: the window is the output window by then.
     valuesOf = [](qint64 /*event*/) -> QString {

@@ -250,7 +250,7 @@ TEST_F(Windows, PopoverIsNextToItsAnchorAndKeepsItsTag)
     };
     for (const auto &[name, edge, rect, position] : rows) {
         SCOPED_TRACE(name);
-        const bool isTransient = edge != Qt::BottomEdge;
+        const bool isTransient = edge != Qt::BottomEdge; // One of each kind is enough for Escape.
         popover.setBehavior(isTransient ? popoverTransient : popoverApplicationDefined);
         popover.showRelativeTo(view, rect, edge);
         EXPECT_EQ(popover.geometry(), QRect(view->mapToGlobal(position), QSize(102, 52)));

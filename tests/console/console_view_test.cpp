@@ -9,7 +9,7 @@
 
 using namespace tetrad;
 
-/// What was reported of texts, with the caret after it. Qt drops that where nothing takes it to a client.
+/// Each event of a text and the caret after it. This stands in for Qt's function, which drops them without a client.
 static QStringList textEvents;
 
 void QAccessible::updateAccessibility(QAccessibleEvent *event)

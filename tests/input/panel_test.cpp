@@ -49,7 +49,7 @@ TEST(Look, isABodyWithRoundCornersOverItsShadow)
 {
     const QList<int> grays = {255, 255, 255, 255, 255, 252, 255, 255, 223, 255, 244, 136, 244, 222, 136,
                               222, 198, 136, 136, 136, 136, 136, 136, 136, 136, 136, 136, 136, 136, 204};
-    for (const double scale : {1.0, 1.00001}) { // Put together of parts, and whole.
+    for (const double scale : {1.0, 1.00001}) { // From parts at a whole scale, in one piece at others.
         QImage image(120, 64, QImage::Format_RGB32);
         image.setDevicePixelRatio(scale);
         image.fill(Qt::white);

@@ -12,6 +12,7 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    QLocale::setDefault(QLocale::c());
     application.setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
