@@ -103,8 +103,8 @@ bool Alert::eventFilter(QObject *watched, QEvent *event)
     return takesKey(watched, event) || QMessageBox::eventFilter(watched, event);
 }
 
-// Nothing else: the base classes would press the button that they take for the one to cancel with, and any button by
-// its key whatever the Shift key says. Shortcuts have done that already.
+// Only copying goes to the base classes. They would also press the button that they take for Cancel, and any button by
+// its key whatever the Shift key says; shortcuts have pressed those already.
 void Alert::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Copy)) {

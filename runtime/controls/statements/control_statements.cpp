@@ -56,6 +56,7 @@ void textStatement(Tag tag, const QString &text, const QRectF &rect, WhenMade wh
             view->setText(std::is_base_of_v<QAbstractButton, View> ? escapedMnemonics(text) : text);
         }
     };
+    // Before the view takes its natural size.
     const auto make = [&](View *made) {
         whenMade(made);
         setText(made);
