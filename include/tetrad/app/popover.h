@@ -11,7 +11,7 @@ namespace tetrad {
 /// When a popover closes automatically.
 enum PopoverBehavior : qint64 {
     popoverApplicationDefined = 0, ///< never
-    popoverTransient = 1,          ///< on Escape and on a click outside
+    popoverTransient = 1,          ///< on Escape and on a click outside, until it is dragged off
 };
 
 /// A small window that hangs on an edge of a rectangle in some widget. A tag that a popover has
