@@ -122,7 +122,7 @@ TEST_F(WindowDelegateTable, NotificationsAndQuestions)
     EXPECT_FALSE(Delegate().boolVal || Delegate().dragInside || App().boolVal || App().longVal ||
                  App().delegateUserData || CUI_AlertDelegate().lastSuppressionButtonState ||
                  ContentViewSC().isFlipped() || ContentViewSC().dragInside() ||
-                 Window(QRectF()).autorecalculatesKeyViewLoop());
+                 Window(QRectF()).autorecalculatesKeyViewLoop() || window->windowController()->window() != window);
     CUI_SetOnDialogFunction(recordCall);
     // A star: the window is the output window by then.
     valuesOf = [](qint64 /*event*/) -> QString {
