@@ -96,8 +96,11 @@ const ConsoleText::Piece *ConsoleReader::pieceNear(QPointF point, double below, 
     text();
     const Piece *nearest = nullptr;
     std::pair best(infinity, 0.0);
-    // Most lines have others nearby, so that few items are looked at.
-    for (double reach = 500; reach < 1e10; reach *= 8) {
+    // Most lines have others nearby, so that few items are looked at. Items are found by their ink, which goes beyond
+    // the box: one that is farther away than the search reaches may hide the nearest.
+    double reach = 0;
+    while (best.first > reach && reach < 1e10) {
+        reach = std::max(500.0, reach * 8);
         const double top = std::max(point.y() - reach, below);
         const double bottom = std::min(point.y() + reach, above);
         for (const quint32 index : m_list.itemsIn({QPointF(-1e9, top), QPointF(1e9, bottom)})) {
@@ -113,10 +116,6 @@ const ConsoleText::Piece *ConsoleReader::pieceNear(QPointF point, double below, 
                 best = away;
                 nearest = piece;
             }
-        }
-        // Items are found by their ink, which goes beyond the box: one that is farther away may hide the nearest.
-        if (best.first <= reach) {
-            break;
         }
     }
     return nearest;
