@@ -23,15 +23,14 @@ protected:
     QPushButton *otherButton = new QPushButton(u"other"_s, &other);
     QLineEdit *otherField = new QLineEdit(&other);
     QStringList clicked;
-    // The keys that each widget got, in order.
+    // The keys pressed in each widget, in order. Which ones get a release differs from version to version of Qt.
     QString keys;
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const bool isPress = event->type() == QEvent::KeyPress;
-        if (watched->isWidgetType() && (isPress || event->type() == QEvent::KeyRelease)) {
+        if (watched->isWidgetType() && event->type() == QEvent::KeyPress) {
             const QString key = QKeySequence(static_cast<QKeyEvent *>(event)->key()).toString();
-            keys += watched->objectName() + (isPress ? u"+"_s : u"-"_s) + key + u' ';
+            keys += watched->objectName() + u'+' + key + u' ';
         }
         return false;
     }
@@ -155,7 +154,7 @@ TEST_F(Modal, ClicksAndKeysReachOnlyTheWidgetAndWhatWorksInModalRuns)
         QTest::keyClick(other.windowHandle(), Qt::Key_4);
     });
     EXPECT_EQ(field->text() % u'|' % outsideField->text() % u'|' % otherField->text(), u"123||4"_s);
-    EXPECT_EQ(keys, u"field+1 field-1 field+2 field-2 field+3 field-3 field+F5 +F5 field-F5 +4 -4 ");
+    EXPECT_EQ(keys, u"field+1 field+2 field+3 field+F5 +F5 +4 ");
     click(outsideButton);
     EXPECT_EQ(clicked.join(u' '), u"inside other outside"_s) << "the filter must be gone after the run";
 }
@@ -219,7 +218,7 @@ TEST_F(Modal, KeysTypedAheadWaitForTheNextRun)
     EXPECT_EQ(field->text(), u"1"_s);
     EXPECT_EQ(runModalForWindow(panel), modalStopped);
     EXPECT_EQ(field->text(), u"123"_s);
-    EXPECT_EQ(keys, u"field+1 field-1 field+Return field+2 field-2 field+3 field-3 field+Return ");
+    EXPECT_EQ(keys, u"field+1 field+Return field+2 field+3 field+Return ");
     EXPECT_EQ(runWhile([] {}), modalAborted);
     EXPECT_EQ(field->text(), u"12346"_s);
 }
