@@ -19,7 +19,8 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
-# Generous, since it only ever passes when something is broken: a slow machine is no failure.
+# Generous, since it only ever passes when something is broken: a slow machine is no failure. bench/mutants breaks things
+# on purpose and sets less.
 TIMEOUT_S = int(os.environ.get("TETRAD_E2E_TIMEOUT_S", 60))
 POLL_MS = 20
 PR_SET_PDEATHSIG = 1
